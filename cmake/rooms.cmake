@@ -1,0 +1,54 @@
+# A room is a folder of src/ and the library made of it. Its list of neighbours is the whole of what it may include:
+# a header of any other room is not on its include path.
+
+add_library(borvik_flags INTERFACE)
+# Results must be the same to the last bit on every machine: no contraction to fused multiply-add, no reassociation.
+target_compile_options(borvik_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -ffp-contract=off -D_GLIBCXX_ASSERTIONS)
+if(BORVIK_WERROR)
+    target_compile_options(borvik_flags INTERFACE -Werror)
+endif()
+if(BORVIK_SANITIZE)
+    target_compile_options(borvik_flags INTERFACE
+        -fsanitize=${BORVIK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(borvik_flags INTERFACE -fsanitize=${BORVIK_SANITIZE})
+endif()
+
+# borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. Each room stands
+# on the include path under its own name through a small folder of links, so that only the rooms it knows can be included.
+function(borvik_room name)
+    cmake_parse_arguments(ROOM "" "" "KNOWS;LINKS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    set(door ${CMAKE_BINARY_DIR}/rooms/${name})
+    file(MAKE_DIRECTORY ${door})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${door}/${name} SYMBOLIC)
+    if(sources)
+        add_library(borvik_${name} STATIC ${sources} ${headers})
+        target_include_directories(borvik_${name} PUBLIC ${door})
+        target_link_libraries(borvik_${name} PRIVATE borvik_flags PUBLIC ${ROOM_LINKS})
+        list(TRANSFORM ROOM_KNOWS PREPEND borvik_)
+        target_link_libraries(borvik_${name} PUBLIC ${ROOM_KNOWS})
+    else()
+        add_library(borvik_${name} INTERFACE)
+        target_include_directories(borvik_${name} INTERFACE ${door})
+        list(TRANSFORM ROOM_KNOWS PREPEND borvik_)
+        target_link_libraries(borvik_${name} INTERFACE ${ROOM_KNOWS} ${ROOM_LINKS})
+    endif()
+endfunction()
+
+# borvik_test(NAME [LINKS target...]): one test program of all *_test.cpp in this folder; its cases become ctest tests.
+function(borvik_test name)
+    cmake_parse_arguments(TEST "" "" "LINKS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(test_${name} ${sources})
+    target_link_libraries(test_${name} PRIVATE ${TEST_LINKS} borvik_test_support borvik_flags GTest::gtest GTest::gmock)
+    target_compile_definitions(test_${name} PRIVATE BORVIK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    set_target_properties(test_${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST
+        PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+endfunction()

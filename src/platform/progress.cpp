@@ -1,0 +1,31 @@
+#include "platform/progress.h"
+
+#include <cmath>
+
+namespace borvik {
+
+namespace {
+std::string running(const char* name, double percent) {
+    return std::string("Calculating ") + name + " ..." + std::to_string(std::lround(percent)) + "%";
+}
+}  // namespace
+
+void ProgressText::walkStarts(Walk) { atStart_ = text_; }
+
+void ProgressText::position(Walk walk, double percent) {
+    switch (walk) {
+        case Walk::Uls: text_ = running("ULS", percent); break;
+        case Walk::Sls: text_ = running("ULS", percent) + "\n" + running("SLS", percent); break;
+        case Walk::Fls: text_ = atStart_ + "\n" + running("FLS", percent); break;
+    }
+}
+
+void ProgressText::walkEnds(Walk walk) {
+    switch (walk) {
+        case Walk::Uls: text_ += "\nCalculating ULS finnished"; break;
+        case Walk::Sls: text_ += "\nCalculating SLS finnished"; break;
+        case Walk::Fls: text_ += "\nCalculating FLS finnished"; break;
+    }
+}
+
+}  // namespace borvik
