@@ -1,0 +1,51 @@
+#include "checks/loaded_length.h"
+
+#include <cmath>
+
+namespace borvik {
+
+WornRail wearRail(const RailRecord& rail, double wearFraction) {
+    WornRail worn;
+    if (rail.Id == "A") {
+        const double w = wearFraction * rail.RailH3;
+        const double strip = w * rail.RailKr;
+        const double zStrip = rail.RailHr - w / 2;  // centroid of the strip above the underside of the rail
+        worn.Wear = w;
+        worn.Ared = rail.RailAx - strip;
+        worn.Zr = (rail.RailAx * (rail.RailHr - rail.RailE1) - zStrip * strip) / worn.Ared;
+        worn.Ired = rail.RailIy - std::pow(w, 3) * rail.RailKr / 12 - std::pow(zStrip - worn.Zr, 2) * strip;
+    } else {
+        const double w = wearFraction * rail.RailHr;
+        worn.Wear = w;
+        worn.Ared = rail.RailAx - w * rail.RailKr;
+        worn.Zr = (rail.RailHr - w) / 2;
+        worn.Ired = std::pow((1 - wearFraction) * rail.RailHr, 3) * rail.RailBr / 12;
+    }
+    return worn;
+}
+
+double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, int railFix, const SectionRecord& section) {
+    const double tf1 = section.tf1;
+    const double beff = std::fmin(rail.RailBr + rail.RailHr + tf1 - worn.Wear, section.b1);
+
+    const double Af = tf1 * beff;
+    const double At = Af + worn.Ared;
+    const double zc =
+        (Af * tf1 / 2 + (tf1 + worn.Zr) * worn.Ared) / At;  // of flange and rail, above the flange's underside
+    const double Iff = beff * std::pow(tf1, 3) / 12;
+    const double Irf = worn.Ired + Iff + worn.Ared * std::pow(tf1 + worn.Zr - zc, 2) + Af * std::pow(zc - tf1 / 2, 2);
+
+    const auto length = [&](double factor, double secondMoment) {
+        return factor * std::pow(secondMoment / section.tw, 1.0 / 3.0);
+    };
+    switch (railFix) {
+        case 1:
+            return length(3.25, Irf);
+        case 2:
+            return length(3.25, worn.Ired + Iff);
+        default:
+            return length(4.25, worn.Ired + Iff);
+    }
+}
+
+}  // namespace borvik
