@@ -16,7 +16,9 @@ RuntimeFault RuntimeFault::at(const std::string& procedure, int span) const {
     return placed;
 }
 
-ArithmeticFlags::ArithmeticFlags() noexcept : before_(std::fetestexcept(kFaults)) { std::feclearexcept(kFaults); }
+ArithmeticFlags::ArithmeticFlags() noexcept : before_(std::fetestexcept(kFaults)) {
+    std::feclearexcept(kFaults);
+}
 
 ArithmeticFlags::~ArithmeticFlags() {
     std::feclearexcept(kFaults);
