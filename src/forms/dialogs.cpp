@@ -2,7 +2,7 @@
 
 namespace borvik {
 
-std::unique_ptr<QDialog> makeDialog(DialogKind, Session&, std::function<void()>, QWidget*) {
+std::unique_ptr<QDialog> makeDialog(DialogKind, Session&, Messages&, std::function<void()>, QWidget*) {
     return nullptr;
 }
 

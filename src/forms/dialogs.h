@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "calculation/session.h"
+#include "platform/messages.h"
 
 namespace borvik {
 
@@ -24,9 +25,10 @@ enum class DialogKind {
 
 /// Makes an input form, not yet shown.
 /// @param session  must outlive the form; its project is edited in place, field by field
+/// @param messages  where refusals go; must outlive the form
 /// @param changed  called after each field that the form has written, so that the window's sketch can follow
 /// @return the form, or nothing when the program was built without it
-[[nodiscard]] std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, std::function<void()> changed,
-                                                  QWidget* parent);
+[[nodiscard]] std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
+                                                  std::function<void()> changed, QWidget* parent);
 
 }  // namespace borvik
