@@ -7,8 +7,8 @@ namespace borvik {
 /// The three walks of the cranes along the beam.
 enum class Walk { Uls, Sls, Fls };
 
-/// Progress of a calculation. The engine reports every position of crane 1; how often that reaches the screen, and when the
-/// window gets a chance to repaint, is the receiver's business (some 30 times a second is enough).
+/// Progress of a calculation. The engine reports every position of crane 1; how often that reaches the screen, and when
+/// the window gets a chance to repaint, is the receiver's business (some 30 times a second is enough).
 class Progress {
 public:
     virtual ~Progress() = default;
@@ -18,9 +18,9 @@ public:
     virtual void walkEnds(Walk) {}
 };
 
-/// Turns the reports of the engine into the text of the progress window: "Calculating ULS ..." with a percentage while a walk
-/// runs, a line more when it has ended. While the SLS walk runs, the text goes back to the line of ULS and puts its own below;
-/// that is meant, and so are the spellings.
+/// Turns the reports of the engine into the text of the progress window: "Calculating ULS ..." with a percentage while
+/// a walk runs, a line more when it has ended. While the SLS walk runs, the text goes back to the line of ULS and puts
+/// its own below; that is meant, and so are the spellings.
 class ProgressText {
 public:
     void walkStarts(Walk walk);

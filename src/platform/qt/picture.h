@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+#include <functional>
+
+#include "platform/drawing_surface.h"
+
+namespace borvik {
+
+/// Draws a whole picture on a surface.
+using PictureDrawing = std::function<void(DrawingSurface&)>;
+
+/// A picture of that many pixels on white paper; text grows with pictures wider than 1000 pixels.
+[[nodiscard]] QImage renderPicture(const PictureDrawing& drawing, QSize pixels);
+
+/// Saves a picture as SVG where the file name ends in ".svg", as PNG otherwise. The old file stays until the new one is
+/// whole.
+/// @return an empty text, or what went wrong
+[[nodiscard]] QString savePicture(const QString& fileName, const PictureDrawing& drawing, QSize pixels,
+                                  const QString& title);
+
+}  // namespace borvik

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+
+#include "platform/drawing_surface.h"
+
+namespace borvik {
+
+/// Draws through a QPainter: on a widget, a picture, an SVG file or a printed page.
+class QtSurface : public DrawingSurface {
+public:
+    /// @param painter    active as long as the surface lives; its state is left changed
+    /// @param area       the area of the drawing in the painter's units
+    /// @param textScale  factor on every font size, for large pictures
+    QtSurface(QPainter& painter, const QRectF& area, double textScale = 1.0);
+
+    void scale(double left, double top, double right, double bottom) override;
+    void line(Place from, Place to) override;
+    void polyline(std::span<const Place> places) override;
+    void polygon(std::span<const Place> places, Colour fill) override;
+    void rectangle(Place corner, Place opposite) override;
+    void circle(Place centre, double radius) override;
+    void text(Place corner, std::string_view text, TextDirection direction) override;
+    [[nodiscard]] Extent extent(std::string_view text, TextDirection direction) const override;
+    void setFont(const Font& font) override;
+    void setColour(Colour colour) override;
+    void setFill(std::optional<Colour> fill) override;
+    void setPenWidth(double width) override;
+    void setDashed(bool dashed) override;
+    [[nodiscard]] double unitsPerMillimetre() const override;
+
+    /// From the area to the logical frame, for the mouse.
+    [[nodiscard]] Place toLogical(QPointF place) const;
+
+private:
+    [[nodiscard]] QPointF toArea(Place place) const;
+    void applyPen();
+
+    QPainter& painter_;
+    QRectF area_;
+    double textScale_;
+    QRectF frame_{0.0, 0.0, 1.0, 1.0};
+    QPen pen_{Qt::black};
+};
+
+}  // namespace borvik
