@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "base/fault.h"
+#include "checks/check_texts.h"
+#include "checks/local_checks.h"
+
+namespace borvik {
+
+namespace {
+
+/// The largest wheel load of the hoist, kN, as entered.
+double largestWheel(const Project& project) {
+    return *std::max_element(project.V.begin(), project.V.begin() + 4);
+}
+
+/// Ff,Rd of EN 1993-6 6.7(1), kN.
+/// @param xw         wheel spacing, mm
+/// @param MyMax,MyMin  extreme moments of the span, Nmm
+double flangeResistance(const Project& project, const SectionRecord& section, double xw, double MyMax, double MyMin) {
+    const double root = section.Fab == "R" ? 0.8 * section.R : 0.8 * std::numbers::sqrt2 * section.R;
+    const double m = (section.b2 - section.tw) / 2 - root - project.Inn;  // lever from wheel to root, eq. (6.2), (6.3)
+    const double mn = m + project.Inn;
+    const double separate = 4 * std::numbers::sqrt2 * mn;  // Table 6.2: wheels further apart than this act alone
+    const double leff = xw >= separate ? separate : 2 * std::numbers::sqrt2 * mn + 0.5 * xw;
+
+    // Stress at the underside from My alone: the flange's own share of Mz is left out.
+    const double Sf =
+        std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
+    const double fyk = project.fyk, GammaM0 = project.GammaM0;
+    const double Fbase = std::pow(section.tf2, 2) * leff * fyk / GammaM0 / (4 * m);
+    // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0. That is meant.
+    return Fbase * (1 - std::pow(Sf / fyk / GammaM0, 2)) / 1000;
+}
+
+/// Coefficients of the local stresses at the web (1), under the wheel (2), at the flange tip (3), parallel flanges:
+/// EN 1993-6 Table 5.2.
+struct LocalCoefficients {
+    double cx[3], cy[3];
+};
+
+/// @param mu  2n/(b - tw), with n the distance of the wheel from the flange tip
+LocalCoefficients localCoefficients(double mu) {
+    return {
+        {0.05 - 0.58 * mu + 0.148 * std::exp(3.015 * mu), 2.23 - 1.49 * mu + 1.39 * std::exp(-18.33 * mu),
+         -1.1534 * mu + 2.91 * std::exp(-6 * mu)},
+        {1.977 * mu - 2.11 + 0.0076 * std::exp(6.53 * mu), 10.108 - 7.408 * mu - 10.108 * std::exp(-1.364 * mu), 0}};
+}
+
+/// Wheel spacing that tells whether neighbouring wheels add up, mm: the smallest, zeros skipped; at most the beam's
+/// length.
+double smallestSpacing(const Project& project) {
+    double s = project.BeamLength;
+    for (int i = 1; i <= 3; ++i)
+        if (project.Avst(i) != 0) s = std::fmin(s, project.Avst(i));
+    return s;
+}
+
+/// The largest von Mises stress of the three points, N/mm2.
+/// @param F      wheel load on one side of the web, N
+/// @param s      wheel spacing, mm
+/// @param My,Mz  at the position of the largest My, Nmm, with load and dynamic factor
+double vonMisesStress(const Project& project, const SectionRecord& section, double F, double s, double My, double Mz) {
+    const double b2 = section.b2, tw = section.tw, tf2 = section.tf2;
+    const LocalCoefficients c = localCoefficients(2 * project.Inn / (b2 - tw));
+    const double together = 1.5 * b2 > s ? 2 : 1;  // 5.8(4): close wheels add up
+
+    const double g = project.PsiV1 * project.LfULS;
+    const double sb = My / g / section.Iy * (section.EzEl - tf2 / 2);
+    const double szPerMm = std::abs(Mz / g / section.IzBottom);
+    // The stress from Mz at the tip is taken with the whole width of the flange, on the safe side.
+    const double sz[3] = {szPerMm * (tw / 2 + section.R), szPerMm * (b2 / 2 - project.Inn), szPerMm * b2};
+
+    double largest = 0;
+    for (int k = 0; k < 3; ++k) {
+        const double sx = together * std::abs(c.cx[k] * F / std::pow(tf2, 2));
+        const double sy = together * std::abs(c.cy[k] * F / std::pow(tf2, 2));
+        const double x = sb + sz[k] + sx;
+        largest = std::fmax(largest, std::sqrt(std::pow(x, 2) + std::pow(sy, 2) - x * sy));
+    }
+    return largest;
+}
+
+}  // namespace
+
+void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
+    const double Fz = largestWheel(project) * project.LfULS * project.PsiV1;
+    const double xw = *std::max_element(project.Avst.begin(), project.Avst.begin() + 3);
+
+    checks.LocalSpan = Array<RowSet<4>>(1, project.NofSpans);
+    for (int span = 1; span <= project.NofSpans; ++span)
+        watched("Flange bending", span, [&] {
+            const double FfRd = flangeResistance(project, project.SpanSection(span), xw, uls.MyMaxSpan(span, 1),
+                                                 uls.MyMinSpan(span, 1));
+
+            RowSet<4>& rows = checks.LocalSpan(span);
+            rows(1) = "IR = Fz,Ed/Ff,Rd = ";
+            rows(2) = oneDecimal(Fz / 2) + "/" + oneDecimal(FfRd) + " = ";
+            setRatio(rows, Fz / 2 / FfRd);
+            rows(4) = " <  1.00 (Ch 6.7/EN 1993-6)";
+        });
+    checks.LocalGov = governingLocal(checks.LocalSpan);
+}
+
+void VonMisesCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
+    const double F = largestWheel(project) * 1000 / 2;
+    const double s = smallestSpacing(project);
+
+    checks.VonMisesSpan = Array<RowSet<4>>(1, project.NofSpans);
+    for (int span = 1; span <= project.NofSpans; ++span)
+        watched("Von Mises stress", span, [&] {
+            const double SvM = vonMisesStress(project, project.SpanSection(span), F, s, uls.MyMaxSpan(span, 1),
+                                              uls.MyMaxSpan(span, 3));
+
+            RowSet<4>& rows = checks.VonMisesSpan(span);
+            rows(1) = "IR = SigvM/fyk = ";
+            rows(2) = oneDecimal(SvM) + "/" + oneDecimal(project.fyk) + " = ";
+            setRatio(rows, SvM / project.fyk);
+            rows(4) = " <  1.00 (Ch 5.8/7.5/EN 1993-6)";
+        });
+    checks.VonMisesGov = governingLocal(checks.VonMisesSpan);
+}
+
+}  // namespace borvik

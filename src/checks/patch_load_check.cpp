@@ -1,0 +1,64 @@
+#include <algorithm>
+#include <cmath>
+
+#include "base/fault.h"
+#include "checks/check_texts.h"
+#include "checks/loaded_length.h"
+#include "checks/local_checks.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr double kE = 210000;  // N/mm2
+
+/// FRd of EN 1993-1-5 6.2(1), kN. @param leff effective loaded length, mm. @param a distance of the stiffeners, mm
+double patchResistance(const Project& project, const SectionRecord& section, double leff, double a) {
+    const double tf = section.tf1, tw = section.tw, Hw = section.Hw;
+    const double kF = 6 + 2 * std::pow(Hw / a, 2);   // Figure 6.1, type (a)
+    const double ss = std::fmax(leff - 2 * tf, tf);  // stiff bearing length, EN 1993-6 5.7.1
+    const double m1 = section.b1 / tw;
+    const double m2 = 0.02 * std::pow(Hw / tf, 2);  // kept for every slenderness, also where lamF <= 0.5
+    const double ly = std::fmin(2 * tf * (1 + std::sqrt(m1 + m2)) + ss, a);
+    const double Fcr = 0.9 * kF * kE * std::pow(tw, 3) / Hw;
+    const double lamF = std::sqrt(ly * tw * project.fyk / Fcr);
+    const double chiF = std::fmin(0.5 / lamF, 1.0);
+    return project.fyk * chiF * ly * tw / project.GammaM1 / 1000;
+}
+
+}  // namespace
+
+void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResults& checks) {
+    RailRecord& rail = context.CurrentRail;
+    // The wheels count as entered, unlike in the two checks of a monorail.
+    const double Fz = *std::max_element(project.V.begin(), project.V.end());
+    WornRail worn;
+    watched("Patch load", 0, [&] { worn = wearRail(rail, kWearStatic); });
+    rail.RailAred = worn.Ared;
+    rail.RailIred = worn.Ired;
+
+    checks.LocalSpan = Array<RowSet<4>>(1, project.NofSpans);
+    for (int span = 1; span <= project.NofSpans; ++span)
+        watched("Patch load", span, [&] {
+            const SectionRecord& section = project.SpanSection(span);
+            const double leff = effectiveLoadedLength(rail, worn, project.RailFix, section);
+            const double FzRd = patchResistance(project, section, leff, project.Span(span));
+
+            RowSet<4>& rows = checks.LocalSpan(span);
+            rows(1) = "IR = Fz,Ed/Fz,Rd = ";
+            rows(2) = oneDecimal(Fz) + "/" + oneDecimal(FzRd) + " = ";
+            setRatio(rows, Fz / FzRd);
+            rows(4) = " <  1.00 (Ch 5.7.1/EN 1993-6)";
+        });
+    checks.LocalGov = governingLocal(checks.LocalSpan);
+}
+
+RowSet<6> governingLocal(const Array<RowSet<4>>& perSpan) {
+    const int last = perSpan.last();
+    const bool lastGoverns = last == 1 || perSpan(last - 1).Ratio <= perSpan(last).Ratio;
+    RowSet<6> governing;
+    copyRows(governing, perSpan(lastGoverns ? last : last - 1), 1, 4);
+    return governing;
+}
+
+}  // namespace borvik

@@ -1,0 +1,156 @@
+#include "checks/section_checks.h"
+
+#include <cmath>
+
+#include "base/fault.h"
+#include "checks/check_texts.h"
+
+namespace borvik {
+
+namespace {
+
+// EN 1993-1-1 6.2.9.1(6): alpha = 2 for I-sections; beta = 5n is at least 1, and 1 without axial force.
+constexpr double kAlpha = 2;
+
+/// Row 1 of one formula: shear leaves the moment resistance as it is, or reduces it.
+struct FormulaTexts {
+    const char* shearFree;
+    const char* reduced;
+};
+
+/// Row 1 of the bending check: My alone, and both axes added linearly (class 3 and 4) or with a power (class 1 and 2).
+struct BendingTexts {
+    FormulaTexts alone, linear, power;
+};
+
+// A blank and a bracket tell the two apart. That is meant: readers of a report see at once which moment a row belongs
+// to.
+constexpr BendingTexts kBendMaxTexts{
+    {"IR = My,Ed/My,Rd = ", "IR = My,Ed/MV,y,Rd = "},
+    {"IR = My,Ed/My,Rd + Mz,Ed/Mz,Rd = ", "IR = My,Ed/MV,y,Rd + Mz,Ed/Mz,Rd = "},
+    {"IR = [My,Ed/My,Rd]^a + Mz,Ed/Mz,Rd  = ", "IR = [My,Ed/MV,y,Rd]^a + Mz,Ed/Mz,Rd = "}};
+constexpr BendingTexts kBendMinTexts{
+    {"IR = My,Ed/My,Rd = ", "IR = My,Ed/MV,y,Rd = "},
+    {"IR = My,Ed/My,Rd] + Mz,Ed/Mz,Rd = ", "IR = My,Ed/MV,y,Rd + Mz,Ed/Mz,Rd = "},
+    {"IR = [My,Ed/My,Rd]^a + Mz,Ed/Mz,Rd = ", "IR = [My,Ed/MV,y,Rd]^a + Mz,Ed/Mz,Rd = "}};
+
+/// " <  1.00 ( span/position": how row 4 begins.
+std::string limitAt(int span, double position, const char* mask) {
+    return " <  1.00 ( " + generalText(span) + "/" + formatNumber(position, mask);
+}
+
+/// @param steps         VzMaxSpan or VzMinSpan
+/// @param positionMask  of the position in row 4
+RowSet<8> shearRows(const SectionRecord& section, const Table<Single>& steps, int span, const char* positionMask) {
+    const double VzEd = std::abs(steps(span, 2)) / 1000;
+    const Single ratio = VzEd / section.VzRd;
+
+    RowSet<8> rows;
+    rows(1) = "IR = Vz,Ed/Vz,Rd = ";
+    rows(2) = oneDecimal(VzEd) + "/" + oneDecimal(section.VzRd);
+    setRatio(rows, ratio);
+    rows(4) = limitAt(span, steps(span, 9), positionMask) + "mm; Ch 6.2.6)";
+    setWheelRows(rows, steps, span);
+    return rows;
+}
+
+/// @param steps  MyMaxSpan or MyMinSpan
+RowSet<8> bendingRows(const Project& project, const SectionRecord& section, const Table<Single>& steps, int span,
+                      const BendingTexts& texts) {
+    const double MyEdSigned = steps(span, 1) / 1000000;
+    const double MyEd = std::abs(MyEdSigned);
+    const double VzEd = std::abs(steps(span, 2)) / 1000;
+    const double MzEd = std::abs(steps(span, 3)) / 1000000;
+    const double Mr = ReducedMoment(project, section, MyEdSigned, VzEd);
+    const double Mzr = section.MzRd / project.GammaM0;
+
+    const bool shearFree = 0.5 >= VzEd / section.VzRd;
+    const auto formula = [&](const FormulaTexts& text) { return shearFree ? text.shearFree : text.reduced; };
+    const std::string My = oneDecimal(MyEd) + "/" + oneDecimal(Mr);
+    const std::string Mz = oneDecimal(MzEd) + "/" + oneDecimal(Mzr);
+
+    RowSet<8> rows;
+    Single ratio;
+    const char* reference = nullptr;
+    // The class under positive moment decides the formula for a negative moment too, as it does for MzRd: the
+    // horizontal load acts on the top flange, whatever the sign of My.
+    if (MzEd == 0) {
+        ratio = MyEd / Mr;
+        rows(1) = formula(texts.alone);
+        rows(2) = My;
+        reference = shearFree ? " mm; Ch 6.2.5)" : " mm; Ch 6.2.8)";
+    } else if (section.ClassPos > 2) {
+        ratio = MyEd / Mr + MzEd / Mzr;
+        rows(1) = formula(texts.linear);
+        rows(2) = My + " + " + Mz + " = ";
+        reference = " mm; Ch 6.2.1)";
+    } else {
+        ratio = std::pow(MyEd / Mr, kAlpha) + MzEd / Mzr;
+        rows(1) = formula(texts.power);
+        rows(2) = "[" + My + "]^" + noDecimals(kAlpha) + " + " + Mz + " = ";
+        reference = " mm; Ch 6.2.5/6.2.9)";
+    }
+    setRatio(rows, ratio);
+    rows(4) = limitAt(span, steps(span, 9), "0") + reference;
+    setWheelRows(rows, steps, span);
+    return rows;
+}
+
+/// Per span the shear ratios are compared as numbers. At a tie the smallest Vz counts; wheel 5 is always that of the
+/// largest.
+RowSet<8> worseShear(const RowSet<8>& max, const RowSet<8>& min) {
+    if (max.Ratio > min.Ratio) return max;
+    RowSet<8> rows;
+    copyRows(rows, min, 1, 6);
+    copyRows(rows, max, 7, 8);
+    return rows;
+}
+
+/// Per span the bending ratios are compared as texts. The wheels are always those of the largest moment.
+RowSet<8> worseBending(const RowSet<8>& max, const RowSet<8>& min) {
+    RowSet<8> rows;
+    copyRows(rows, ranksAbove(max(3), min(3)) ? max : min, 1, 4);
+    copyRows(rows, max, 5, 8);
+    return rows;
+}
+
+}  // namespace
+
+Single ReducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {
+    const double rho = 0.5 * section.VzRd >= VzEd ? 0.0 : std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0);
+    const bool positive = MyEd >= 0;
+    const double base = (positive ? section.MyRdPos : section.MyRdNeg) / project.GammaM0;
+    const int sectionClass = positive ? section.ClassPos : section.ClassNeg;
+
+    const double K = sectionClass > 2 ? 6 : 4;  // web modulus: elastic Hw^2 tw / 6, plastic Hw^2 tw / 4
+    const double web = std::pow(section.Hw, 2) * section.tw * rho / K / 1000000 * project.fyk / project.GammaM0;
+    return base - web;
+}
+
+void SectionChecks(const Project& project, ProjectContext& context, const UlsResults& uls, CheckResults& checks) {
+    const int spans = project.NofSpans;
+    checks.ShearMax = checks.ShearMin = checks.ShearSpan = Array<RowSet<8>>(1, spans);
+    checks.BendMax = checks.BendMin = checks.BendSpan = Array<RowSet<8>>(1, spans);
+    checks.ShearGov = checks.BendGov = {};
+
+    for (int span = 1; span <= spans; ++span)
+        watched("Section checks", span, [&] {
+            context.CurrentSection = project.SpanSection(span);
+            const SectionRecord& section = context.CurrentSection;
+            // Row 4 has a blank before "mm" only for the smallest Vz, which tells the two apart.
+            checks.ShearMax(span) = shearRows(section, uls.VzMaxSpan, span, "0");
+            checks.ShearMin(span) = shearRows(section, uls.VzMinSpan, span, "0 ");
+            checks.BendMax(span) = bendingRows(project, section, uls.MyMaxSpan, span, kBendMaxTexts);
+            checks.BendMin(span) = bendingRows(project, section, uls.MyMinSpan, span, kBendMinTexts);
+        });
+
+    // The governing rows start empty, so that the first span always enters; of equal texts the earlier span stays.
+    for (int span = 1; span <= spans; ++span) {
+        checks.ShearSpan(span) = worseShear(checks.ShearMax(span), checks.ShearMin(span));
+        checks.BendSpan(span) = worseBending(checks.BendMax(span), checks.BendMin(span));
+        if (ranksAbove(checks.ShearSpan(span)(3), checks.ShearGov(3))) checks.ShearGov = checks.ShearSpan(span);
+        if (ranksAbove(checks.BendSpan(span)(3), checks.BendGov(3))) checks.BendGov = checks.BendSpan(span);
+    }
+}
+
+}  // namespace borvik
