@@ -1,0 +1,17 @@
+#include "analysis/loads.h"
+
+namespace borvik {
+
+void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
+    for (int i = 1; i <= project.NofSpans; ++i) {
+        Single& q = loads.SpanLoad(i);
+        q = 0;
+        if (project.CraneType == 1) {
+            q = project.Gangway * factor;
+            if (project.RailOn) q += (rail.RailWeight * factor / 1000) * 9.81;
+        }
+        if (project.SelfWeight) q += (factor * project.SpanSection(i).Weight / 1000) * 9.81;
+    }
+}
+
+}  // namespace borvik

@@ -1,0 +1,134 @@
+#include "analysis/post_process.h"
+
+#include <cmath>
+
+namespace borvik {
+
+// --- Forces ---------------------------------------------------------------------------------------------------------
+
+SpanForces::SpanForces(const LoadedBeam& loaded) : loaded_(loaded), steps_(static_cast<std::size_t>(loaded.beam.n + 1)) {}
+
+void SpanForces::compute(const SolvedPosition& position, int i) {
+    const auto at = static_cast<std::size_t>(i);
+    SpanStep& step = steps_[at];
+    loaded_.pointsZ[at].forces(position.momentZ[i - 1], position.momentZ[i], wheelsInSpan(position.wheels, i, &Wheel::P),
+                               step.quantity[1], step.quantity[2]);
+    if (loaded_.horizontal)
+        loaded_.pointsY[at].forces(position.momentY[i - 1], position.momentY[i],
+                                   wheelsInSpan(position.wheels, i, &Wheel::Q), step.quantity[3], step.quantity[4]);
+}
+
+void SpanForces::updateReactions(int shear, SpanMask mask, Array<Single>& largest, Array<Single>& smallest) const {
+    const int n = loaded_.beam.n;
+    const auto update = [&](int support, Single reaction) {
+        if (reaction > largest(support)) largest(support) = reaction;
+        if (reaction < smallest(support)) smallest(support) = reaction;
+    };
+    if (contains(mask, 1)) update(1, step(1).quantity[shear][1]);
+    if (contains(mask, n)) update(n + 1, step(n).quantity[shear][kPoints]);
+    for (int i = 2; i <= n; ++i)
+        if (contains(mask, i - 1) && contains(mask, i))
+            update(i, double{step(i).quantity[shear][1]} - double{step(i - 1).quantity[shear][kPoints]});
+}
+
+// --- Ultimate limit state ---------------------------------------------------------------------------------------------
+
+UlsPostProcess::UlsPostProcess(const LoadedBeam& loaded, UlsResults& results)
+    : loaded_(loaded), results_(results), forces_(loaded), recorder_(kUlsEnvelopes, loaded.beam.n, 8, 6, results) {
+    const int n = loaded.beam.n;
+    results.RzMax = results.RzMin = results.RyMax = results.RyMin = Array<Single>(1, n + 1);
+    results.MySupportSpan = Table<Single>(n, 8);
+}
+
+void UlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
+    for (int i = 1; i <= loaded_.beam.n; ++i) {
+        if (!contains(mask, i)) continue;
+        forces_.compute(position, i);
+        recorder_.record(i, loaded_.beam.L[i], forces_.step(i), position.wheels);
+        recordSupportMoment(i, position.wheels);
+    }
+    forces_.updateReactions(2, mask, results_.RzMax, results_.RzMin);
+    if (loaded_.horizontal) forces_.updateReactions(4, mask, results_.RyMax, results_.RyMin);
+}
+
+/// The most negative moment at an end of the span. End spans have one continuous end; in an inner span the end with the
+/// smaller moment counts, the right one where both are equal. Point 10 stands at 9/20 of the span, not in its middle: that is
+/// the point that the check of lateral torsional buckling takes for the moment in the span.
+void UlsPostProcess::recordSupportMoment(int i, const Wheels& wheels) {
+    const int n = loaded_.beam.n;
+    const SpanStep& step = forces_.step(i);
+    const float left = step.quantity[1][1];
+    const float right = step.quantity[1][kPoints];
+    const bool rightGoverns = i == 1 || (i < n && left >= right);
+    const float governing = rightGoverns ? right : left;
+    Table<Single>& record = results_.MySupportSpan;
+    if (!(governing < 0) || !(governing < record(i, 1))) return;
+    record(i, 1) = governing;
+    record(i, 2) = step.quantity[1][10];
+    record(i, 3) = rightGoverns ? left : right;
+    record(i, 4) = step.quantity[3][rightGoverns ? kPoints : 1];
+    record(i, 5) = wheels[1].span;
+    record(i, 6) = wheels[1].a;
+    record(i, 7) = wheels[5].span;
+    record(i, 8) = wheels[5].a;
+}
+
+// --- Fatigue limit state ------------------------------------------------------------------------------------------------
+
+FlsPostProcess::FlsPostProcess(const LoadedBeam& loaded, FlsResults& results)
+    : loaded_(loaded), results_(results), forces_(loaded), recorder_(kFlsEnvelopes, loaded.beam.n, 6, 6, results) {
+    results.FlsRzMax = results.FlsRzMin = Array<Single>(1, loaded.beam.n + 1);
+}
+
+void FlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
+    for (int i = 1; i <= loaded_.beam.n; ++i) {
+        if (!contains(mask, i)) continue;
+        forces_.compute(position, i);
+        recorder_.record(i, loaded_.beam.L[i], forces_.step(i), position.wheels);
+    }
+    forces_.updateReactions(2, mask, results_.FlsRzMax, results_.FlsRzMin);
+}
+
+// --- Serviceability limit state -----------------------------------------------------------------------------------------
+
+SlsPostProcess::SlsPostProcess(const LoadedBeam& loaded, SlsResults& results) : loaded_(loaded), results_(results) {
+    const int n = loaded.beam.n;
+    results.UzMaxPoint = results.UyMaxPoint = Cube<Single>(n, kPoints, 3);
+    results.UzMaxSpan = results.UyMaxSpan = Table<Single>(n, 3);
+}
+
+void SlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
+    for (int i = 1; i <= loaded_.beam.n; ++i) {
+        if (!contains(mask, i)) continue;
+        const auto at = static_cast<std::size_t>(i);
+        PointSteps U;
+        loaded_.pointsZ[at].deflections(position.momentZ[i - 1], position.momentZ[i],
+                                        wheelsInSpan(position.wheels, i, &Wheel::P), U);
+        keep(i, U, position.wheels, results_.UzMaxPoint, results_.UzMaxSpan);
+        if (!loaded_.horizontal) continue;
+        loaded_.pointsY[at].deflections(position.momentY[i - 1], position.momentY[i],
+                                        wheelsInSpan(position.wheels, i, &Wheel::Q), U);
+        keep(i, U, position.wheels, results_.UyMaxPoint, results_.UyMaxSpan);
+    }
+}
+
+void SlsPostProcess::keep(int i, const PointSteps& U, const Wheels& wheels, Cube<Single>& point, Table<Single>& span) {
+    bool changed = false;
+    for (int k = 1; k <= kPoints; ++k) {
+        if (!(std::abs(U[k]) > std::abs(point(i, k, 1)))) continue;
+        point(i, k, 1) = U[k];
+        point(i, k, 2) = wheels[1].span;
+        point(i, k, 3) = wheels[1].a;
+        changed = true;
+    }
+    if (!changed) return;
+    for (int k = 1; k <= kPoints; ++k) {
+        const double magnitude = std::abs(point(i, k, 1));
+        if (!(magnitude > span(i, 1))) continue;
+        span(i, 1) = magnitude;
+        span(i, 2) = point(i, k, 2);
+        span(i, 3) = point(i, k, 3);
+    }
+}
+
+}  // namespace borvik

@@ -1,0 +1,200 @@
+#include "calculation/calculation.h"
+
+#include <chrono>
+
+#include "analysis/loads.h"
+#include "base/number_text.h"
+#include "checks/code_checks.h"
+#include "fatigue/fatigue.h"
+#include "section/section.h"
+
+namespace borvik {
+
+namespace {
+
+/// A project with more positions than this would keep any machine busy for hours.
+constexpr double kMostPositions = 1e9;
+
+bool hasSection(const Project& project, int span) {
+    return project.SpanSection.has(span) && !project.SpanSection(span).DisplayName.empty();
+}
+
+/// The first message that the spans and sections give; null where they are in order.
+const char* refusal(const Project& project) {
+    for (int i = 2; i <= 29; ++i)
+        if (project.Span(i + 1) != 0 && project.Span(i) == 0) return " An inner beam can't have length = 0 ";
+    for (int i = 2; i <= 29; ++i)
+        if (hasSection(project, i + 1) && !hasSection(project, i)) return " An inner beam must have a profile  ";
+    for (int i = 1; i <= 30; ++i)
+        if (!hasSection(project, i) && project.Span(i) != 0) return " Missing profile  ";
+    for (int i = 1; i <= 30; ++i)
+        if (hasSection(project, i) && project.Span(i) == 0) return " Missing beam length  ";
+    return nullptr;
+}
+
+/// Unticks the splices that lie beyond the beam or beyond their span, without a message, and the whole detail when none is
+/// left. Only the four splices that the form offers are looked at.
+void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& inUse,
+                 const FixedArray<Single, 1, 10>& span, const FixedArray<Single, 1, 10>& distance) {
+    bool anyLeft = false;
+    for (int splice = 1; splice <= 4; ++splice) {
+        if (detail && inUse(splice)) {
+            const bool beyondBeam = span(splice) > project.NofSpans;
+            if (beyondBeam || distance(splice) > project.Span(roundHalfEven(span(splice)))) inUse(splice) = false;
+        }
+        anyLeft = anyLeft || inUse(splice);
+    }
+    if (!anyLeft) detail = false;
+}
+
+/// ULS: wheel loads with the load factor and the dynamic factors of their crane. Rounded once.
+void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
+    SetDeadLoad(project, rail, project.LfULS, loads);
+    for (int w = 1; w <= 8; ++w) {
+        loads.WheelV(w) = (w <= 4 ? project.PsiV1 : project.PsiV2) * project.LfULS * project.V(w);
+        loads.WheelH(w) = (w <= 4 ? project.PsiH1 : project.PsiH2) * project.LfULS * project.H(w);
+    }
+    loads.WheelGap = project.Avst;
+}
+
+/// SLS: no dynamic factors.
+void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
+    SetDeadLoad(project, rail, project.LfSLS, loads);
+    for (int w = 1; w <= 8; ++w) {
+        loads.WheelV(w) = project.LfSLS * project.V(w);
+        loads.WheelH(w) = project.LfSLS * project.H(w);
+    }
+    loads.WheelGap = project.Avst;
+}
+
+/// Gives the reaction at the far end, which the walk keeps as a shear, the sign of an upward support force.
+void turnRound(Array<Single>& largest, Array<Single>& smallest) {
+    const int support = largest.last();
+    const double a = largest(support);
+    const double b = smallest(support);
+    largest(support) = -b;
+    smallest(support) = -a;
+}
+
+struct Run {
+    Session& session;
+    Messages& messages;
+    Progress& progress;
+    WalkMethod method;
+    RunLoads loads;
+    Results results;
+};
+
+/// Sections, ULS, SLS and the static checks.
+void RunStatic(Run& run) {
+    Session& session = run.session;
+    Project& project = session.project;
+    const RailRecord& rail = session.context.CurrentRail;
+    UpdateSections(session.tables, project, session.context);
+    run.loads.NCranes = project.NofCranes;
+
+    setUlsLoads(project, rail, run.loads);
+    UlsResults& uls = run.results.Uls;
+    uls = RunUls(project, run.loads, run.method, run.messages, run.progress);
+    run.results.Steps = uls.Steps;
+    turnRound(uls.RzMax, uls.RzMin);
+    turnRound(uls.RyMax, uls.RyMin);
+
+    setSlsLoads(project, rail, run.loads);
+    run.results.Sls = RunSls(project, run.loads, run.method, run.messages, run.progress);
+    run.results.Checks = RunCodeChecks(project, session.context, uls, run.results.Sls);
+}
+
+/// Two cranes are always overhead cranes here, whatever the crane type says.
+void runFatigue(Run& run) {
+    Project& project = run.session.project;
+    const FatigueRun fatigue{project, run.session.context, run.loads, run.method, run.messages, run.progress, run.results.Steps};
+    const bool overhead = project.NofCranes == 2 || project.CraneType == 1;
+    run.results.Fatigue = overhead ? RunFatigueOverhead(fatigue) : RunFatigueMonorail(fatigue);
+}
+
+/// The lengths of beam and cranes, each sum rounded to a single.
+void setLengths(Project& project) {
+    project.BeamLength = 0;
+    project.CraneLength1 = project.Avst(1) + project.Avst(2) + project.Avst(3);
+    project.CraneLength2 = project.Avst(4) + project.Avst(5) + project.Avst(6);
+    project.CranesLength = project.MinAvst + project.CraneLength1 + project.CraneLength2;
+    for (int i = 1; i <= project.NofSpans; ++i) project.BeamLength += project.Span(i);
+}
+
+/// Whether the cranes, from the position of wheel 1 on, are shorter than the beam. Equal lengths are refused, and whether the
+/// load may start and stop outside plays no part.
+bool cranesFit(const Project& project, Messages& messages) {
+    const Single required = project.Position + project.CranesLength;
+    if (required < project.BeamLength) return true;
+    messages.show(generalText(required) + " > " + generalText(project.BeamLength) +
+                  " ; Traversen ryms ej på traversbalken!!");
+    return false;
+}
+
+bool walkable(const Project& project, Messages& messages) {
+    const double positions = CountPositions(project, project.NofCranes);
+    if (positions <= kMostPositions) return true;
+    messages.show("The cranes would take " + formatNumber(positions, "0") +
+                  " positions on this beam; the calculation goes up to 1000000000. Shorten the beam.");
+    return false;
+}
+
+/// One line for the progress window: the time of the static part, as a clock time. It names FLS and holds ULS and SLS, which
+/// is meant: the line closes the run as a whole.
+double secondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+}  // namespace
+
+Session::Session(ReferenceTables loaded) : tables(std::move(loaded)) { DefaultProject(tables, project, context); }
+
+bool CheckInput(Project& project, Messages& messages) {
+    project.NofSpans = 0;
+    while (project.NofSpans < kMaxSpans && project.Span(project.NofSpans + 1) != 0) ++project.NofSpans;
+    project.BeamChecked = true;
+    bool ok = true;
+    if (project.Span(1) == 0) {
+        messages.show(" First Beam must have a length ");
+        ok = false;
+    }
+    if (const char* text = refusal(project)) {
+        messages.show(text);
+        return false;
+    }
+    dropSplices(project, project.FatR5, project.ChkFatR5Sp, project.FatR5Span, project.FatR5d1);
+    dropSplices(project, project.Fat5, project.ChkFat5Sp, project.Fat5Span, project.Fat5d1);
+    return ok;
+}
+
+bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method) {
+    const auto start = std::chrono::steady_clock::now();
+    Project& project = session.project;
+    const Project entered = project;
+    session.Fault.clear();
+    session.Calculated = false;
+    try {
+        session.InputOK = CheckInput(project, messages);
+        if (!session.InputOK) return false;
+        watched("Lengths of beam and cranes", 0, [&] { setLengths(project); });
+        if (!cranesFit(project, messages) || !walkable(project, messages)) return false;
+
+        Run run{session, messages, progress, method, {}, {}};
+        RunStatic(run);
+        run.results.SecondsStatic = secondsSince(start);
+        runFatigue(run);
+        run.results.Seconds = secondsSince(start);
+        session.results = std::move(run.results);
+        session.Calculated = true;
+        return true;
+    } catch (const RuntimeFault& fault) {
+        // Half-filled sections go back to what was entered.
+        project.SpanSection = entered.SpanSection;
+        session.Fault = std::string("Run-time error. ") + fault.what();
+        messages.show(session.Fault);
+        return false;
+    }
+}
+
+}  // namespace borvik
