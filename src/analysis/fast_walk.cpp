@@ -2,6 +2,8 @@
 
 namespace borvik {
 
-bool walkFast(const WalkSteps&, const LoadedBeam&, PostProcess&, Walk, Progress&) { return false; }
+bool walkFast(const WalkSteps&, const LoadedBeam&, PostProcess&, Walk, Progress&) {
+    return false;
+}
 
 }  // namespace borvik

@@ -6,8 +6,8 @@
 
 namespace borvik {
 
-/// The loads of one run, set by its driver before the walk. Wheels: always eight, 1..4 of crane 1, 5..8 of crane 2. They
-/// survive from one run to the next until a driver rewrites them.
+/// The loads of one run, set by its driver before the walk. Wheels: always eight, 1..4 of crane 1, 5..8 of crane 2.
+/// They survive from one run to the next until a driver rewrites them.
 struct RunLoads {
     FixedArray<Single, 1, 30> SpanLoad;  ///< uniform dead load of each span, N/mm = kN/m
     FixedArray<Single, 1, 8> WheelV;     ///< vertical wheel loads, kN, downward positive

@@ -12,15 +12,17 @@ namespace borvik {
 /// A set of spans: bit i for span i.
 using SpanMask = std::uint32_t;
 constexpr SpanMask kAllSpans = ~SpanMask{0};
-[[nodiscard]] constexpr bool contains(SpanMask mask, int i) { return (mask >> i & 1U) != 0; }
+[[nodiscard]] constexpr bool contains(SpanMask mask, int i) {
+    return (mask >> i & 1U) != 0;
+}
 
 /// The beam under the loads of one run: what all positions have in common.
 struct LoadedBeam {
     Beam beam;
     WheelPlacer placer;
-    PerSpan deadTerms;                     ///< [1..n-1] load terms of the dead load, vertical plane
+    PerSpan deadTerms;                         ///< [1..n-1] load terms of the dead load, vertical plane
     std::vector<SpanPoints> pointsZ, pointsY;  ///< [1..n]
-    bool horizontal;                       ///< some wheel has a horizontal load; without, the horizontal plane is all zero
+    bool horizontal;  ///< some wheel has a horizontal load; without, the horizontal plane is all zero
 
     LoadedBeam(const Project& project, const RunLoads& loads, bool horizontalWanted);
     LoadedBeam(const LoadedBeam&) = delete;

@@ -6,13 +6,14 @@ namespace borvik {
 
 // --- Forces ---------------------------------------------------------------------------------------------------------
 
-SpanForces::SpanForces(const LoadedBeam& loaded) : loaded_(loaded), steps_(static_cast<std::size_t>(loaded.beam.n + 1)) {}
+SpanForces::SpanForces(const LoadedBeam& loaded)
+    : loaded_(loaded), steps_(static_cast<std::size_t>(loaded.beam.n + 1)) {}
 
 void SpanForces::compute(const SolvedPosition& position, int i) {
     const auto at = static_cast<std::size_t>(i);
     SpanStep& step = steps_[at];
-    loaded_.pointsZ[at].forces(position.momentZ[i - 1], position.momentZ[i], wheelsInSpan(position.wheels, i, &Wheel::P),
-                               step.quantity[1], step.quantity[2]);
+    loaded_.pointsZ[at].forces(position.momentZ[i - 1], position.momentZ[i],
+                               wheelsInSpan(position.wheels, i, &Wheel::P), step.quantity[1], step.quantity[2]);
     if (loaded_.horizontal)
         loaded_.pointsY[at].forces(position.momentY[i - 1], position.momentY[i],
                                    wheelsInSpan(position.wheels, i, &Wheel::Q), step.quantity[3], step.quantity[4]);
@@ -31,7 +32,8 @@ void SpanForces::updateReactions(int shear, SpanMask mask, Array<Single>& larges
             update(i, double{step(i).quantity[shear][1]} - double{step(i - 1).quantity[shear][kPoints]});
 }
 
-// --- Ultimate limit state ---------------------------------------------------------------------------------------------
+// --- Ultimate limit state
+// ---------------------------------------------------------------------------------------------
 
 UlsPostProcess::UlsPostProcess(const LoadedBeam& loaded, UlsResults& results)
     : loaded_(loaded), results_(results), forces_(loaded), recorder_(kUlsEnvelopes, loaded.beam.n, 8, 6, results) {
@@ -52,8 +54,8 @@ void UlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
 }
 
 /// The most negative moment at an end of the span. End spans have one continuous end; in an inner span the end with the
-/// smaller moment counts, the right one where both are equal. Point 10 stands at 9/20 of the span, not in its middle: that is
-/// the point that the check of lateral torsional buckling takes for the moment in the span.
+/// smaller moment counts, the right one where both are equal. Point 10 stands at 9/20 of the span, not in its middle:
+/// that is the point that the check of lateral torsional buckling takes for the moment in the span.
 void UlsPostProcess::recordSupportMoment(int i, const Wheels& wheels) {
     const int n = loaded_.beam.n;
     const SpanStep& step = forces_.step(i);
@@ -73,7 +75,8 @@ void UlsPostProcess::recordSupportMoment(int i, const Wheels& wheels) {
     record(i, 8) = wheels[5].a;
 }
 
-// --- Fatigue limit state ------------------------------------------------------------------------------------------------
+// --- Fatigue limit state
+// ------------------------------------------------------------------------------------------------
 
 FlsPostProcess::FlsPostProcess(const LoadedBeam& loaded, FlsResults& results)
     : loaded_(loaded), results_(results), forces_(loaded), recorder_(kFlsEnvelopes, loaded.beam.n, 6, 6, results) {
@@ -89,7 +92,8 @@ void FlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
     forces_.updateReactions(2, mask, results_.FlsRzMax, results_.FlsRzMin);
 }
 
-// --- Serviceability limit state -----------------------------------------------------------------------------------------
+// --- Serviceability limit state
+// -----------------------------------------------------------------------------------------
 
 SlsPostProcess::SlsPostProcess(const LoadedBeam& loaded, SlsResults& results) : loaded_(loaded), results_(results) {
     const int n = loaded.beam.n;

@@ -23,8 +23,8 @@ struct SpanStep {
     PointSteps quantity[5]{};
 };
 
-/// Keeps the point records and span records of a walk. Every comparison is strict and starts from 0, so the first position
-/// that reaches an extreme stays, a largest value is never below 0 and a smallest never above.
+/// Keeps the point records and span records of a walk. Every comparison is strict and starts from 0, so the first
+/// position that reaches an extreme stays, a largest value is never below 0 and a smallest never above.
 template <class Results, std::size_t N>
 class Recorder {
 public:

@@ -10,7 +10,8 @@ namespace borvik {
 /// Calculation points of a span: k = 1..21 at x = (k - 1) L / 20.
 constexpr int kPoints = 21;
 
-/// Position log of a walk: one entry per position j of crane 1, from 0; with two cranes the last distance between them stays.
+/// Position log of a walk: one entry per position j of crane 1, from 0; with two cranes the last distance between them
+/// stays.
 struct PositionLog {
     Array<std::int16_t> StepNo;  ///< j
     Array<Single> StepSpan1;     ///< span of wheel 1
@@ -25,14 +26,15 @@ struct PositionLog {
 
 /// Envelopes of the ultimate limit state. My, Mz in Nmm, sagging positive; Vz, Vy and reactions in N.
 /// Slots of a point record: 1 My, 2 Vz, 3 Mz, 4 Vy, all at the same position of the cranes; 5 span and 6 distance a of
-/// wheel 1, and in records of eight 7 span and 8 distance a of wheel 5. The key (My in My...Point and so on) is the largest
-/// or smallest of the walk; the first position that reaches it stays. A record that no position filled is all zero.
+/// wheel 1, and in records of eight 7 span and 8 distance a of wheel 5. The key (My in My...Point and so on) is the
+/// largest or smallest of the walk; the first position that reaches it stays. A record that no position filled is all
+/// zero.
 struct UlsResults {
-    Array<Single> RzMax, RzMin, RyMax, RyMin;                       ///< [1..supports], upward positive
-    Cube<Single> MyMaxPoint, MyMinPoint, VzMaxPoint, VzMinPoint;    ///< [span][1..21][1..8]
-    Cube<Single> MzMaxPoint, MzMinPoint, VyMaxPoint, VyMinPoint;    ///< [span][1..21][1..6]
-    Table<Single> MyMaxSpan, MyMinSpan, VzMaxSpan, VzMinSpan;       ///< [span][1..9], 9: x of the point in its span, mm
-    Table<Single> MzMaxSpan, MzMinSpan, VyMaxSpan, VyMinSpan;       ///< [span][1..7], 7: x of the point
+    Array<Single> RzMax, RzMin, RyMax, RyMin;                     ///< [1..supports], upward positive
+    Cube<Single> MyMaxPoint, MyMinPoint, VzMaxPoint, VzMinPoint;  ///< [span][1..21][1..8]
+    Cube<Single> MzMaxPoint, MzMinPoint, VyMaxPoint, VyMinPoint;  ///< [span][1..21][1..6]
+    Table<Single> MyMaxSpan, MyMinSpan, VzMaxSpan, VzMinSpan;     ///< [span][1..9], 9: x of the point in its span, mm
+    Table<Single> MzMaxSpan, MzMinSpan, VyMaxSpan, VyMinSpan;     ///< [span][1..7], 7: x of the point
     /// [span][1..8]: the position of the most negative moment at an end of the span. 1 that moment, 2 My at point 10,
     /// 3 My at the other end, 4 Mz at that same end, 5..8 as in the point records.
     Table<Single> MySupportSpan;
@@ -41,15 +43,17 @@ struct UlsResults {
 
 /// Deflections of the serviceability limit state, mm, downward negative.
 struct SlsResults {
-    Cube<Single> UzMaxPoint, UyMaxPoint;  ///< [span][1..21][1..3]: deflection of largest magnitude with its sign, span and a of wheel 1
-    Table<Single> UzMaxSpan, UyMaxSpan;   ///< [span][1..3]: the largest magnitude, span and a of wheel 1
+    Cube<Single> UzMaxPoint,
+        UyMaxPoint;  ///< [span][1..21][1..3]: deflection of largest magnitude with its sign, span and a of wheel 1
+    Table<Single> UzMaxSpan, UyMaxSpan;  ///< [span][1..3]: the largest magnitude, span and a of wheel 1
 };
 
-/// Extremes of one fatigue walk. Slots of a point record: 1 My, 2 Vz, 3 and 4 unused, 5 span and 6 distance a of wheel 1.
+/// Extremes of one fatigue walk. Slots of a point record: 1 My, 2 Vz, 3 and 4 unused, 5 span and 6 distance a of
+/// wheel 1.
 struct FlsResults {
-    Array<Single> FlsRzMax, FlsRzMin;                                               ///< [1..supports], N; the last with the sign of the shear
-    Cube<Single> FlsMyMaxPoint, FlsMyMinPoint, FlsVzMaxPoint, FlsVzMinPoint;        ///< [span][1..21][1..6]
-    Table<Single> FlsMyMaxSpan, FlsMyMinSpan, FlsVzMaxSpan, FlsVzMinSpan;           ///< [span][1..7], 7: x of the point
+    Array<Single> FlsRzMax, FlsRzMin;  ///< [1..supports], N; the last with the sign of the shear
+    Cube<Single> FlsMyMaxPoint, FlsMyMinPoint, FlsVzMaxPoint, FlsVzMinPoint;  ///< [span][1..21][1..6]
+    Table<Single> FlsMyMaxSpan, FlsMyMinSpan, FlsVzMaxSpan, FlsVzMinSpan;     ///< [span][1..7], 7: x of the point
     PositionLog Steps;
 };
 

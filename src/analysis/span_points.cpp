@@ -30,8 +30,8 @@ SpanPoints::SpanPoints(double length, double I, double q) : L(length), c6EI(I * 
 
 void SpanPoints::addForces(const SpanWheel& wheel, PointValues& M, PointValues& V) const {
     const double a = wheel.a;
-    const double right = wheel.load * a / L;        // reaction at the right support
-    const double left = (L - a) * wheel.load / L;   // reaction at the left support
+    const double right = wheel.load * a / L;       // reaction at the right support
+    const double left = (L - a) * wheel.load / L;  // reaction at the left support
     int k = 1;
     for (; k <= kPoints && x[k] <= a; ++k) {
         if (a == L)

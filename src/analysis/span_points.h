@@ -24,19 +24,19 @@ struct SpanWheels {
 /// Collects the wheels that act in span i. @param load  &Wheel::P or &Wheel::Q
 [[nodiscard]] SpanWheels wheelsInSpan(const Wheels& wheels, int i, double Wheel::*load);
 
-/// What no position of the cranes changes at the calculation points of a span: geometry, and the share of the dead load in
-/// shear, moment and deflection (0 in the horizontal plane).
+/// What no position of the cranes changes at the calculation points of a span: geometry, and the share of the dead load
+/// in shear, moment and deflection (0 in the horizontal plane).
 struct SpanPoints {
     double L = 0;
-    double c6EI = 0;         ///< 6 E I
-    PointValues x{};         ///< (k - 1) L / 20
-    PointValues rest{};      ///< L - x
-    PointValues leftShare{}; ///< 1 - x / L, share of the left end moment
-    PointValues deadV{};     ///< N
-    PointValues deadM{};     ///< Nmm
+    double c6EI = 0;                ///< 6 E I
+    PointValues x{};                ///< (k - 1) L / 20
+    PointValues rest{};             ///< L - x
+    PointValues leftShare{};        ///< 1 - x / L, share of the left end moment
+    PointValues deadV{};            ///< N
+    PointValues deadM{};            ///< Nmm
     PointValues leftU{}, rightU{};  ///< 1 - (L - x)^2 / L^2 and 1 - x^2 / L^2, of the end moments' deflections
     PointValues x3{}, rest3{};      ///< x^3 and (L - x)^3
-    PointValues deadU{};     ///< mm
+    PointValues deadU{};            ///< mm
 
     SpanPoints() = default;
     /// @param L mm, @param I mm4, @param q dead load, N/mm

@@ -6,10 +6,10 @@
 
 namespace borvik {
 
-/// The positions of a walk, in steps of 200 mm: j = 0..N1 of crane 1 and, at each j, k = 0..lastK(j) of the extra distance
-/// of crane 2.
+/// The positions of a walk, in steps of 200 mm: j = 0..N1 of crane 1 and, at each j, k = 0..lastK(j) of the extra
+/// distance of crane 2.
 struct WalkSteps {
-    double T = 0;                   ///< length of the walk in steps
+    double T = 0;  ///< length of the walk in steps
     int N1 = 0;
     bool secondCraneMoves = false;  ///< crane 2 moves on its own
 

@@ -30,8 +30,8 @@ void walkPlain(const WalkSteps& steps, const LoadedBeam& loaded, PostProcess& po
 PositionLog logPositions(const WalkSteps& steps, const WheelPlacer& placer) {
     PositionLog log;
     log.StepNo = Array<std::int16_t>(0, steps.N1);
-    for (auto* column : {&log.StepSpan1, &log.StepV1, &log.StepA1, &log.StepB1, &log.StepSpan2, &log.StepV5, &log.StepA5,
-                         &log.StepB5})
+    for (auto* column :
+         {&log.StepSpan1, &log.StepV1, &log.StepA1, &log.StepB1, &log.StepSpan2, &log.StepV5, &log.StepA5, &log.StepB5})
         *column = Array<Single>(0, steps.N1);
     Wheels wheels;
     for (int j = 0; j <= steps.N1; ++j) {
@@ -90,7 +90,9 @@ double WalkSteps::positions() const noexcept {
     return count;
 }
 
-int WalkSteps::lastK(int j) const noexcept { return secondCraneMoves ? static_cast<int>(std::floor(T - j)) : 0; }
+int WalkSteps::lastK(int j) const noexcept {
+    return secondCraneMoves ? static_cast<int>(std::floor(T - j)) : 0;
+}
 
 double WalkSteps::percent(int j) const noexcept {
     const double whole = std::floor(T);

@@ -14,11 +14,11 @@ enum class WalkMethod {
     Fast,   ///< only the positions that can hold an extreme are solved
 };
 
-/// Ultimate limit state: walks the cranes along the beam in steps of 200 mm and keeps envelopes and governing records of My,
-/// Vz, Mz, Vy and the reactions (theorem of three moments). Reads Span, SpanSection (Iy, Iz), Position, Fixerad, MinAvst,
-/// MinDistConst, StartStopOutside, BeamLength, CranesLength of the project. The reaction at the last support keeps the sign of
-/// the shear.
-/// Where the cranes don't fit on the beam, a message says so and all results are zero (with an empty position log).
+/// Ultimate limit state: walks the cranes along the beam in steps of 200 mm and keeps envelopes and governing records
+/// of My, Vz, Mz, Vy and the reactions (theorem of three moments). Reads Span, SpanSection (Iy, Iz), Position, Fixerad,
+/// MinAvst, MinDistConst, StartStopOutside, BeamLength, CranesLength of the project. The reaction at the last support
+/// keeps the sign of the shear. Where the cranes don't fit on the beam, a message says so and all results are zero
+/// (with an empty position log).
 /// @throws RuntimeFault  naming the walk, on an arithmetic fault
 [[nodiscard]] UlsResults RunUls(const Project& project, const RunLoads& loads, WalkMethod method, Messages& messages,
                                 Progress& progress);

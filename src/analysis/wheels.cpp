@@ -24,8 +24,8 @@ void WheelPlacer::placeCrane2(double x4, int k, Wheels& wheels) const {
     for (int w = 6; w <= 8; ++w) stand(w, Single(wheels[w - 1].x + loads_.WheelGap(w - 2)), wheels);
 }
 
-/// Both bounds of a span are inclusive and the first match wins: a wheel exactly over an interior support belongs to the span
-/// on its left, with a = L. A wheel off the beam carries nothing at this position.
+/// Both bounds of a span are inclusive and the first match wins: a wheel exactly over an interior support belongs to
+/// the span on its left, with a = L. A wheel off the beam carries nothing at this position.
 void WheelPlacer::stand(int w, double x, Wheels& wheels) const {
     Wheel& wheel = wheels[w];
     wheel = {};

@@ -10,11 +10,11 @@ namespace borvik {
 
 /// One wheel at one position of the cranes.
 struct Wheel {
-    int span = 1;          ///< span in which it stands; 1 when it is off the beam
-    double x = 0;          ///< position on the global axis, a single, mm
-    double a = 0, b = 0;   ///< distances from the left and the right support of its span, singles, mm
-    double V = 0, H = 0;   ///< load, a single, kN; 0 when it is off the beam
-    double P = 0, Q = 0;   ///< the same in N
+    int span = 1;         ///< span in which it stands; 1 when it is off the beam
+    double x = 0;         ///< position on the global axis, a single, mm
+    double a = 0, b = 0;  ///< distances from the left and the right support of its span, singles, mm
+    double V = 0, H = 0;  ///< load, a single, kN; 0 when it is off the beam
+    double P = 0, Q = 0;  ///< the same in N
 };
 
 /// The eight wheels at one position: [1..4] of crane 1, [5..8] of crane 2; [0] is not used.

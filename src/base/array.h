@@ -9,8 +9,8 @@
 
 namespace borvik {
 
-/// Array of fixed bounds First..Last. Index bases are part of the formulas, so an array that starts at 1 in a formula starts
-/// at 1 here. An index out of bounds is a RuntimeFault.
+/// Array of fixed bounds First..Last. Index bases are part of the formulas, so an array that starts at 1 in a formula
+/// starts at 1 here. An index out of bounds is a RuntimeFault.
 template <class T, int First, int Last>
 class FixedArray {
 public:
@@ -26,7 +26,8 @@ public:
     auto end() const { return items_.end(); }
     bool operator==(const FixedArray&) const = default;
 
-    std::array<T, size> items_{};  ///< public so that an array can be initialised by an aggregate: {{{a, b, c}}} or of()
+    std::array<T, size>
+        items_{};  ///< public so that an array can be initialised by an aggregate: {{{a, b, c}}} or of()
 
     template <class... Values>
     static FixedArray of(Values... values) {
@@ -80,8 +81,7 @@ class Table {
 public:
     Table() = default;
     Table(int rows, int columns)
-        : rows_(rows), columns_(columns),
-          items_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)) {}
+        : rows_(rows), columns_(columns), items_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)) {}
 
     [[nodiscard]] int rows() const noexcept { return rows_; }
     [[nodiscard]] int columns() const noexcept { return columns_; }
@@ -95,14 +95,16 @@ private:
     [[nodiscard]] std::size_t offset(int row, int column) const {
         if (row < 1 || row > rows_ || column < 1 || column > columns_)
             throw RuntimeFault("index (" + std::to_string(row) + ", " + std::to_string(column) + ") out of bounds");
-        return static_cast<std::size_t>(row - 1) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column - 1);
+        return static_cast<std::size_t>(row - 1) * static_cast<std::size_t>(columns_) +
+               static_cast<std::size_t>(column - 1);
     }
     int rows_ = 0;
     int columns_ = 0;
     std::vector<T> items_;
 };
 
-/// Table of (span, point, slot), each from 1, stored slot by slot within a point. An index out of bounds is a RuntimeFault.
+/// Table of (span, point, slot), each from 1, stored slot by slot within a point. An index out of bounds is a
+/// RuntimeFault.
 template <class T>
 class Cube {
 public:

@@ -7,9 +7,9 @@
 
 namespace borvik {
 
-/// A run-time fault of a calculation: division by zero, root of a negative number, overflow of a stored number, index out of
-/// bounds, a section that no table has. The one exception type of the engine; it ends the calculation and is caught in one
-/// place, by the driver.
+/// A run-time fault of a calculation: division by zero, root of a negative number, overflow of a stored number, index
+/// out of bounds, a section that no table has. The one exception type of the engine; it ends the calculation and is
+/// caught in one place, by the driver.
 class RuntimeFault : public std::runtime_error {
 public:
     explicit RuntimeFault(const std::string& what) : std::runtime_error(what) {}
@@ -35,7 +35,8 @@ public:
     ArithmeticFlags(const ArithmeticFlags&) = delete;
     ArithmeticFlags& operator=(const ArithmeticFlags&) = delete;
 
-    /// @throws RuntimeFault  when a division by zero, an invalid operation (such as the root of a negative number) or an
+    /// @throws RuntimeFault  when a division by zero, an invalid operation (such as the root of a negative number) or
+    /// an
     ///                       overflow happened since construction
     void check() const;
 
@@ -43,8 +44,8 @@ private:
     int before_;
 };
 
-/// Runs `body` and turns an arithmetic fault inside it into a RuntimeFault that names the procedure and the span. The test is
-/// made once, after the body, on the processor's flags; formulas stay free of guards.
+/// Runs `body` and turns an arithmetic fault inside it into a RuntimeFault that names the procedure and the span. The
+/// test is made once, after the body, on the processor's flags; formulas stay free of guards.
 /// @param span  1..30, or 0 where no span applies
 template <class Body>
 [[gnu::noinline]] void watched(const char* procedure, int span, Body&& body) {

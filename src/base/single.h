@@ -2,13 +2,13 @@
 
 namespace borvik {
 
-/// A stored number: 32 bits wide at rest, a double as soon as it is read. Every expression is therefore computed in double
-/// precision and rounded once, when it is stored; no expression is ever computed in single precision by accident.
-/// A number too large for 32 bits is stored as infinity and raises the overflow flag that `watched` looks at.
+/// A stored number: 32 bits wide at rest, a double as soon as it is read. Every expression is therefore computed in
+/// double precision and rounded once, when it is stored; no expression is ever computed in single precision by
+/// accident. A number too large for 32 bits is stored as infinity and raises the overflow flag that `watched` looks at.
 class Single {
 public:
     constexpr Single() noexcept = default;
-    constexpr Single(double number) noexcept : stored_(static_cast<float>(number)) {}  // NOLINT: meant to be implicit
+    constexpr Single(double number) noexcept : stored_(static_cast<float>(number)) {}    // NOLINT: meant to be implicit
     constexpr operator double() const noexcept { return static_cast<double>(stored_); }  // NOLINT: meant to be implicit
 
     /// The 32-bit number as it stands in a file, whatever its bits.

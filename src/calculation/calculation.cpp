@@ -32,8 +32,8 @@ const char* refusal(const Project& project) {
     return nullptr;
 }
 
-/// Unticks the splices that lie beyond the beam or beyond their span, without a message, and the whole detail when none is
-/// left. Only the four splices that the form offers are looked at.
+/// Unticks the splices that lie beyond the beam or beyond their span, without a message, and the whole detail when none
+/// is left. Only the four splices that the form offers are looked at.
 void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& inUse,
                  const FixedArray<Single, 1, 10>& span, const FixedArray<Single, 1, 10>& distance) {
     bool anyLeft = false;
@@ -108,7 +108,8 @@ void RunStatic(Run& run) {
 /// Two cranes are always overhead cranes here, whatever the crane type says.
 void runFatigue(Run& run) {
     Project& project = run.session.project;
-    const FatigueRun fatigue{project, run.session.context, run.loads, run.method, run.messages, run.progress, run.results.Steps};
+    const FatigueRun fatigue{project,      run.session.context, run.loads,        run.method,
+                             run.messages, run.progress,        run.results.Steps};
     const bool overhead = project.NofCranes == 2 || project.CraneType == 1;
     run.results.Fatigue = overhead ? RunFatigueOverhead(fatigue) : RunFatigueMonorail(fatigue);
 }
@@ -122,8 +123,8 @@ void setLengths(Project& project) {
     for (int i = 1; i <= project.NofSpans; ++i) project.BeamLength += project.Span(i);
 }
 
-/// Whether the cranes, from the position of wheel 1 on, are shorter than the beam. Equal lengths are refused, and whether the
-/// load may start and stop outside plays no part.
+/// Whether the cranes, from the position of wheel 1 on, are shorter than the beam. Equal lengths are refused, and
+/// whether the load may start and stop outside plays no part.
 bool cranesFit(const Project& project, Messages& messages) {
     const Single required = project.Position + project.CranesLength;
     if (required < project.BeamLength) return true;
@@ -140,15 +141,15 @@ bool walkable(const Project& project, Messages& messages) {
     return false;
 }
 
-/// One line for the progress window: the time of the static part, as a clock time. It names FLS and holds ULS and SLS, which
-/// is meant: the line closes the run as a whole.
 double secondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 }  // namespace
 
-Session::Session(ReferenceTables loaded) : tables(std::move(loaded)) { DefaultProject(tables, project, context); }
+Session::Session(ReferenceTables loaded) : tables(std::move(loaded)) {
+    DefaultProject(tables, project, context);
+}
 
 bool CheckInput(Project& project, Messages& messages) {
     project.NofSpans = 0;
@@ -185,6 +186,7 @@ bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMet
         run.results.SecondsStatic = secondsSince(start);
         runFatigue(run);
         run.results.Seconds = secondsSince(start);
+        if (project.NofCranes == 2) progress.runEnds(run.results.SecondsStatic);
         session.results = std::move(run.results);
         session.Calculated = true;
         return true;

@@ -4,14 +4,15 @@
 
 namespace borvik {
 
-/// Checks the beam input: no gap in the spans, a section for each span and a span for each section. Counts NofSpans, and
-/// drops, without a message and for good, fatigue splices that no longer fit the beam. Shows its own messages.
+/// Checks the beam input: no gap in the spans, a section for each span and a span for each section. Counts NofSpans,
+/// and drops, without a message and for good, fatigue splices that no longer fit the beam. Shows its own messages.
 /// @return false when a message was shown
 [[nodiscard]] bool CheckInput(Project& project, Messages& messages);
 
-/// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. On success `Calculated` is true
-/// and `results` are new. On a refusal the user has been told and nothing has changed except InputOK, NofSpans, the splice flags
-/// and the lengths. A run-time fault is shown too, as `Fault`, and leaves everything entered as it was.
+/// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. On success `Calculated`
+/// is true and `results` are new. On a refusal the user has been told and nothing has changed except InputOK, NofSpans,
+/// the splice flags and the lengths. A run-time fault is shown too, as `Fault`, and leaves everything entered as it
+/// was.
 /// @return true when the run has ended with results
 bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method = WalkMethod::Fast);
 

@@ -21,9 +21,9 @@ struct Results {
     SlsResults Sls;
     CheckResults Checks;
     FatigueResults Fatigue;
-    PositionLog Steps;        ///< of the last walk that wrote one
-    double SecondsStatic = 0; ///< time of the ULS and SLS part
-    double Seconds = 0;       ///< time of the whole run
+    PositionLog Steps;         ///< of the last walk that wrote one
+    double SecondsStatic = 0;  ///< time of the ULS and SLS part
+    double Seconds = 0;        ///< time of the whole run
 };
 
 /// One project being worked on: the record, the tables it rests on, the flags, and the last results. Owned by the

@@ -16,6 +16,8 @@ public:
     /// @param percent  position of crane 1 in the walk, 0 to 100
     virtual void position(Walk, double percent) { (void)percent; }
     virtual void walkEnds(Walk) {}
+    /// The end of a run with two cranes. @param secondsStatic  time of its ULS and SLS part
+    virtual void runEnds(double secondsStatic) { (void)secondsStatic; }
 };
 
 /// Turns the reports of the engine into the text of the progress window: "Calculating ULS ..." with a percentage while
@@ -27,8 +29,8 @@ public:
     void position(Walk walk, double percent);
     void walkEnds(Walk walk);
     [[nodiscard]] const std::string& text() const noexcept { return text_; }
-    /// Appends a line of the driver's own.
-    void append(const std::string& line) { text_ += line; }
+    /// The closing line. It names FLS and gives the time of the ULS and SLS part as a clock time; both are meant.
+    void runEnds(double secondsStatic);
 
 private:
     std::string text_;
