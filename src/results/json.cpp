@@ -1,0 +1,215 @@
+#include "results/json.h"
+
+#include <nlohmann/json.hpp>
+
+namespace borvik {
+
+namespace {
+
+/// JSON whose numbers are 32 bits wide, so that 0.1 is written as 0.1, and whose keys keep their order.
+using Json =
+    nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t, std::uint64_t, float>;
+
+Json json(Single number) {
+    return number.stored();
+}
+Json json(std::int16_t number) {
+    return number;
+}
+Json json(bool flag) {
+    return flag;
+}
+Json json(const std::string& text) {
+    return text;
+}
+
+template <int Rows>
+Json json(const RowSet<Rows>& rows);
+template <class T>
+Json json(const std::optional<T>& item);
+
+template <class Items>
+Json list(const Items& items) {
+    Json array = Json::array();
+    for (const auto& item : items) array.push_back(json(item));
+    return array;
+}
+
+template <class T>
+Json json(const std::vector<T>& items) {
+    return list(items);
+}
+
+template <int Rows>
+Json json(const RowSet<Rows>& rows) {
+    return list(rows.Text);
+}
+
+template <class T>
+Json json(const Array<T>& items) {
+    return list(items);
+}
+
+Json json(const Table<Single>& table) {
+    Json rows = Json::array();
+    for (int row = 1; row <= table.rows(); ++row) {
+        Json columns = Json::array();
+        for (int column = 1; column <= table.columns(); ++column) columns.push_back(json(table(row, column)));
+        rows.push_back(std::move(columns));
+    }
+    return rows;
+}
+
+Json json(const Cube<Single>& cube) {
+    Json rows = Json::array();
+    for (int row = 1; row <= cube.rows(); ++row) {
+        Json columns = Json::array();
+        for (int column = 1; column <= cube.columns(); ++column) {
+            Json slots = Json::array();
+            for (int slot = 1; slot <= cube.slots(); ++slot) slots.push_back(json(cube(row, column, slot)));
+            columns.push_back(std::move(slots));
+        }
+        rows.push_back(std::move(columns));
+    }
+    return rows;
+}
+
+void addFields(Json&) {}
+
+template <class Value, class... Others>
+void addFields(Json& object, const char* name, const Value& value, const Others&... others) {
+    object[name] = json(value);
+    addFields(object, others...);
+}
+
+/// Object of alternating names and values.
+template <class... NamesAndValues>
+Json fields(const NamesAndValues&... namesAndValues) {
+    Json object = Json::object();
+    addFields(object, namesAndValues...);
+    return object;
+}
+
+Json json(const SectionRecord& s) {
+    return fields("Id", s.Id, "Fab", s.Fab, "TableName", s.TableName, "TableIndex", s.TableIndex, "CType", s.CType,  //
+                  "ReinfText", s.ReinfText, "ReinfSuffix", s.ReinfSuffix, "Reinforced", s.Reinforced,                //
+                  "DisplayName", s.DisplayName, "InUse", s.InUse,                                                    //
+                  "h", s.h, "b1", s.b1, "b2", s.b2, "tw", s.tw, "tf1", s.tf1, "tf2", s.tf2, "R", s.R,                //
+                  "ReinfD", s.ReinfD, "ReinfB", s.ReinfB, "ReinfT", s.ReinfT, "TfMax", s.TfMax,                      //
+                  "A", s.A, "It", s.It, "Iy", s.Iy, "Iz", s.Iz, "IzLoadedFlange", s.IzLoadedFlange,                  //
+                  "IzTop", s.IzTop, "IzBottom", s.IzBottom, "Iw", s.Iw, "GIt", s.GIt, "EIw", s.EIw, "Weight", s.Weight,
+                  "EzEl", s.EzEl, "EzEffPos", s.EzEffPos, "EzEffNeg", s.EzEffNeg, "EzPl", s.EzPl,  //
+                  "Hw", s.Hw, "CWeb", s.CWeb, "CTop", s.CTop, "CBottom", s.CBottom,                //
+                  "ClassTopFlange", s.ClassTopFlange, "ClassBottomFlange", s.ClassBottomFlange,    //
+                  "WebFatigueClass", s.WebFatigueClass, "ClassWebPos", s.ClassWebPos, "ClassWebNeg", s.ClassWebNeg,
+                  "ClassPos", s.ClassPos, "ClassNeg", s.ClassNeg,                                      //
+                  "Av", s.Av, "WyPos", s.WyPos, "WyNeg", s.WyNeg, "Wely1", s.Wely1, "Wely2", s.Wely2,  //
+                  "WelMin", s.WelMin, "Wply", s.Wply, "WplZ", s.WplZ, "WplZTop", s.WplZTop, "WplZBottom", s.WplZBottom,
+                  "WeffTopPos", s.WeffTopPos, "WeffBottomPos", s.WeffBottomPos,                        //
+                  "WeffTopNeg", s.WeffTopNeg, "WeffBottomNeg", s.WeffBottomNeg,                        //
+                  "VzRd", s.VzRd, "VplRd", s.VplRd,                                                    //
+                  "MyRdPos", s.MyRdPos, "MyRdPosTop", s.MyRdPosTop, "MyRdPosBottom", s.MyRdPosBottom,  //
+                  "MyRdNeg", s.MyRdNeg, "MyRdNegTop", s.MyRdNegTop, "MyRdNegBottom", s.MyRdNegBottom,  //
+                  "MzRd", s.MzRd, "Zs", s.Zs, "Zg", s.Zg, "ZjPos", s.ZjPos, "ZjNeg", s.ZjNeg);
+}
+
+Json json(const PositionLog& log) {
+    return fields("StepNo", log.StepNo, "StepSpan1", log.StepSpan1, "StepV1", log.StepV1, "StepA1", log.StepA1,  //
+                  "StepB1", log.StepB1, "StepSpan2", log.StepSpan2, "StepV5", log.StepV5, "StepA5", log.StepA5,  //
+                  "StepB5", log.StepB5);
+}
+
+Json json(const UlsResults& r) {
+    return fields("RzMax", r.RzMax, "RzMin", r.RzMin, "RyMax", r.RyMax, "RyMin", r.RyMin,  //
+                  "MyMaxPoint", r.MyMaxPoint, "MyMinPoint", r.MyMinPoint,                  //
+                  "VzMaxPoint", r.VzMaxPoint, "VzMinPoint", r.VzMinPoint,                  //
+                  "MzMaxPoint", r.MzMaxPoint, "MzMinPoint", r.MzMinPoint,                  //
+                  "VyMaxPoint", r.VyMaxPoint, "VyMinPoint", r.VyMinPoint,                  //
+                  "MyMaxSpan", r.MyMaxSpan, "MyMinSpan", r.MyMinSpan,                      //
+                  "VzMaxSpan", r.VzMaxSpan, "VzMinSpan", r.VzMinSpan,                      //
+                  "MzMaxSpan", r.MzMaxSpan, "MzMinSpan", r.MzMinSpan,                      //
+                  "VyMaxSpan", r.VyMaxSpan, "VyMinSpan", r.VyMinSpan,                      //
+                  "MySupportSpan", r.MySupportSpan);
+}
+
+Json json(const SlsResults& r) {
+    return fields("UzMaxPoint", r.UzMaxPoint, "UyMaxPoint", r.UyMaxPoint,  //
+                  "UzMaxSpan", r.UzMaxSpan, "UyMaxSpan", r.UyMaxSpan);
+}
+
+Json json(const CheckResults& r) {
+    Json checks =
+        fields("ShearMax", r.ShearMax, "ShearMin", r.ShearMin, "ShearSpan", r.ShearSpan, "ShearGov", r.ShearGov,
+               "BendMax", r.BendMax, "BendMin", r.BendMin, "BendSpan", r.BendSpan, "BendGov", r.BendGov,  //
+               "LtbPos", r.LtbPos, "LtbNeg", r.LtbNeg, "LtbSpan", r.LtbSpan, "LtbGov", r.LtbGov,          //
+               "LocalSpan", r.LocalSpan, "LocalGov", r.LocalGov,                                          //
+               "VonMisesSpan", r.VonMisesSpan, "VonMisesGov", r.VonMisesGov,                              //
+               "DefZSpan", r.DefZSpan, "DefYSpan", r.DefYSpan, "DefZGov", r.DefZGov, "DefYGov", r.DefYGov);
+    if (r.VonMisesSpan.size() == 0) checks["VonMisesSpan"] = nullptr;
+    return checks;
+}
+
+Json json(const StressSet& s) {
+    return fields("Sig1Max", s.Sig1Max, "Sig1Min", s.Sig1Min, "Sig1Range", s.Sig1Range,                          //
+                  "Sig2Max", s.Sig2Max, "Sig2Min", s.Sig2Min, "Sig2Range", s.Sig2Range,                          //
+                  "TauMax", s.TauMax, "TauMin", s.TauMin, "TauRange", s.TauRange,                                //
+                  "SigSupMax", s.SigSupMax, "SigSupMin", s.SigSupMin, "SigSupRange", s.SigSupRange,              //
+                  "RzMax", s.RzMax, "RzMin", s.RzMin,                                                            //
+                  "Sig1MaxPeak", s.Sig1MaxPeak, "Sig1MinPeak", s.Sig1MinPeak, "Sig1RangePeak", s.Sig1RangePeak,  //
+                  "Sig2MaxPeak", s.Sig2MaxPeak, "Sig2MinPeak", s.Sig2MinPeak, "Sig2RangePeak", s.Sig2RangePeak,  //
+                  "TauMaxPeak", s.TauMaxPeak, "TauMinPeak", s.TauMinPeak, "TauRangePeak", s.TauRangePeak);
+}
+
+template <class T>
+Json json(const std::optional<T>& item) {
+    return item ? json(*item) : Json(nullptr);
+}
+
+Json stressSets(const FatigueResults& fatigue) {
+    return fields("Cr1", fatigue.Cr1, "Cr2", fatigue.Cr2, "Cr12", fatigue.Cr12);
+}
+
+Json fatigueRows(const FatigueResults& fatigue) {
+    Json object = Json::object();
+    for (int detail = 1; detail <= 6; ++detail) {
+        object["FatRows" + std::to_string(detail)] = json(fatigue.FatRows(detail));
+        object["FatResult" + std::to_string(detail)] = json(fatigue.FatResult(detail));
+    }
+    return object;
+}
+
+Json projectHead(const Project& p) {
+    return fields("Proj", p.Proj, "Ident", p.Ident, "NofSpans", p.NofSpans, "BeamLength", p.BeamLength,  //
+                  "CraneLength1", p.CraneLength1, "CraneLength2", p.CraneLength2, "CranesLength", p.CranesLength);
+}
+
+Json sections(const Project& project) {
+    Json array = Json::array();
+    for (int span = 1; span <= project.NofSpans; ++span) array.push_back(json(project.SpanSection(span)));
+    return array;
+}
+
+}  // namespace
+
+std::string ResultsJson(const Session& session, const std::vector<std::string>& messages,
+                        const std::optional<std::string>& file, const std::string& program) {
+    Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
+                           session.Calculated, "Messages", messages);
+    document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
+    document["Project"] = projectHead(session.project);
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"}) document[key] = nullptr;
+    if (session.Calculated && session.results) {
+        const Results& results = *session.results;
+        document["Sections"] = sections(session.project);
+        document["Uls"] = json(results.Uls);
+        document["Sls"] = json(results.Sls);
+        document["Checks"] = json(results.Checks);
+        document["Fls"] = stressSets(results.Fatigue);
+        document["Steps"] = json(results.Steps);
+        document["Fatigue"] = fatigueRows(results.Fatigue);
+    }
+    // A file name need not be UTF-8; what isn't becomes the replacement character.
+    return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace borvik
