@@ -1,6 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "project/project.h"
+#include "section/properties.h"
 
 namespace borvik {
 
@@ -12,10 +15,20 @@ void UpdateSections(const ReferenceTables& tables, Project& project, ProjectCont
 
 /// The same for one section.
 /// @param section  in: family, dimensions, reinforcement; out: every computed property
+/// @throws RuntimeFault  as UpdateSections, without a span
 void UpdateSection(const ReferenceTables& tables, const Project& project, const ProjectContext& context,
                    SectionRecord& section);
 
+/// Copies the first row of the section table with this designation into the section: family, dimensions and the
+/// published properties, weak-axis modulus WplZ included; DisplayName becomes the designation. Every other field stays.
+/// Loading anew at each update is what lets reinforcement be added to A, It, Iy and Iz without piling up.
+/// @throws RuntimeFault  when no row has the designation
+void LoadRolled(const ReferenceTables& tables, const std::string& TableName, SectionRecord& section);
+
 /// Sets InUse of each row of SectionList: true when some span's section has its DisplayName.
 void MarkSectionsInUse(Project& project);
+
+/// What the section room reads of the project and its context.
+[[nodiscard]] SectionSetting settingOf(const Project& project, const ProjectContext& context);
 
 }  // namespace borvik

@@ -1,0 +1,98 @@
+#include "section/section.h"
+
+#include <algorithm>
+
+#include "section/resistance.h"
+
+namespace borvik {
+
+namespace {
+
+bool isWelded(const SectionRecord& section) {
+    return section.Id == "Is" || section.Id == "Iu";
+}
+
+void update(const ReferenceTables& tables, const SectionSetting& setting, SectionRecord& section) {
+    if (isWelded(section)) {
+        WeldedProperties(setting, section);
+    } else {
+        // A copy: loading overwrites the field that the name would be read from.
+        const std::string designation = section.TableName;
+        LoadRolled(tables, designation, section);
+        RolledProperties(setting, section);
+    }
+    SectionResistance(setting, section);
+}
+
+}  // namespace
+
+SectionSetting settingOf(const Project& project, const ProjectContext& context) {
+    SectionSetting setting;
+    setting.CraneType = project.CraneType;
+    setting.LoadLevel = project.LoadLevel;
+    setting.StiffenerMode = project.StiffenerMode;
+    setting.RailHr = context.CurrentRail.RailHr;
+    setting.Epsilon = context.Epsilon;
+    setting.fyk = project.fyk;
+    setting.Eta = project.Eta;
+    setting.GammaM0 = project.GammaM0;
+    setting.GammaM1 = project.GammaM1;
+    return setting;
+}
+
+void UpdateSections(const ReferenceTables& tables, Project& project, ProjectContext& context) {
+    const SectionSetting setting = settingOf(project, context);
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        watched("Section properties", span, [&] {
+            context.CurrentSection = project.SpanSection(span);
+            update(tables, setting, context.CurrentSection);
+            project.SpanSection(span) = context.CurrentSection;
+        });
+    }
+}
+
+void UpdateSection(const ReferenceTables& tables, const Project& project, const ProjectContext& context,
+                   SectionRecord& section) {
+    watched("Section properties", 0, [&] { update(tables, settingOf(project, context), section); });
+}
+
+void LoadRolled(const ReferenceTables& tables, const std::string& TableName, SectionRecord& section) {
+    const int index = FindSection(tables, TableName);
+    if (index < 0) throw RuntimeFault("the section table has no \"" + TableName + "\"");
+    const SectionRecord& row = tables.SectionTable(index);
+
+    section.Id = row.Id;
+    section.CType = row.CType;
+    section.Fab = row.Fab;
+    section.TableName = row.TableName;
+    section.TableIndex = static_cast<std::int16_t>(index);
+    section.DisplayName = row.TableName;
+    section.h = row.h;
+    section.b1 = row.b1;
+    section.b2 = row.b2;
+    section.tf1 = row.tf1;
+    section.tf2 = row.tf2;
+    section.tw = row.tw;
+    section.R = row.R;
+    section.A = row.A;
+    section.Weight = row.Weight;
+    section.Iy = row.Iy;
+    section.Wply = row.Wply;
+    section.Iz = row.Iz;
+    section.WplZ = row.WplZ;
+    section.It = row.It;
+    section.Iw = row.Iw;
+    section.GIt = row.GIt;
+    section.EIw = row.EIw;
+}
+
+void MarkSectionsInUse(Project& project) {
+    for (SectionRecord& listed : project.SectionList) {
+        listed.InUse =
+            std::any_of(project.SpanSection.begin(), project.SpanSection.end(), [&](const SectionRecord& used) {
+                return !used.DisplayName.empty() && used.DisplayName == listed.DisplayName;
+            });
+    }
+}
+
+}  // namespace borvik
