@@ -46,7 +46,11 @@ template <class T>
 class Array {
 public:
     Array() = default;
-    Array(int first, int last) : first_(first), items_(static_cast<std::size_t>(last < first ? 0 : last - first + 1)) {}
+    Array(int first, int last)
+        : first_(first), sized_(true), items_(static_cast<std::size_t>(last < first ? 0 : last - first + 1)) {}
+
+    /// False for an array that never got bounds. One of no items, such as 1..0, has bounds; a project file tells the two apart.
+    [[nodiscard]] bool sized() const noexcept { return sized_; }
 
     [[nodiscard]] int first() const noexcept { return first_; }
     [[nodiscard]] int last() const noexcept { return first_ + static_cast<int>(items_.size()) - 1; }
@@ -56,7 +60,10 @@ public:
     [[nodiscard]] const T& operator()(int i) const { return items_[offset(i)]; }
 
     /// Adds an item behind the last one.
-    void append(T item) { items_.push_back(std::move(item)); }
+    void append(T item) {
+        items_.push_back(std::move(item));
+        sized_ = true;
+    }
     void erase(int i) { items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(offset(i))); }
     [[nodiscard]] T* data() noexcept { return items_.data(); }
     [[nodiscard]] const T* data() const noexcept { return items_.data(); }
@@ -72,6 +79,7 @@ private:
         return static_cast<std::size_t>(i - first_);
     }
     int first_ = 0;
+    bool sized_ = false;
     std::vector<T> items_;
 };
 

@@ -43,8 +43,8 @@ struct Project {
     FixedArray<Single, 1, 6> Avst;             ///< wheel distances; 1..3 within crane 1, 4..6 within crane 2
 
     // Sections
-    Array<SectionRecord> SectionList;          ///< from 0: the working sections of the section form
-    Array<SectionRecord> SpanSection;          ///< from 1: the section of each span, a full copy
+    Array<SectionRecord> SectionList{0, -1};   ///< from 0: the working sections of the section form
+    Array<SectionRecord> SpanSection{1, 0};    ///< from 1: the section of each span, a full copy
     bool SelfWeight = false;
     std::int16_t Spare3 = 0;
     bool HasLoadsY = false;                    ///< some horizontal wheel load is present

@@ -63,7 +63,7 @@ struct SectionRecord {
     Single Zg;                       ///< point of load application above the shear centre
     Single ZjPos, ZjNeg;             ///< monosymmetry terms of lateral torsional buckling
     FixedArray<Single, 1, 8> Spare9;
-    FixedArray<std::string, 1, 5> SpareText;  ///< 64 bytes each in the file, kept with their blanks
+    FixedArray<std::string, 1, 5> SpareText;  ///< 64 bytes each in the file, where blanks fill them
 
     bool operator==(const SectionRecord&) const = default;
 };
@@ -100,6 +100,11 @@ struct ReferenceTables {
     Array<SteelGradeRow> MaterialTable;  ///< from 0, rows as in ECmat.csv
 };
 
+/// Rows of the tables that the default project is made of: HEA 300, Pl 50x30, S355.
+inline constexpr int kDefaultSection = 49;
+inline constexpr int kDefaultRail = 7;
+inline constexpr int kDefaultMaterial = 2;
+
 /// A reference table that is missing or can't be used; the text names the file.
 class TableError : public std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -108,7 +113,7 @@ class TableError : public std::runtime_error {
 /// Reads Euprof.csv, Rail.csv and ECmat.csv from `folder`. Tolerant line by line: a cell that is missing or unreadable stays
 /// zero or empty and the loading goes on.
 /// @throws TableError  when a file is missing or unreadable, or has too few rows for a default project (section row 49,
-///                     rail row 7, material row 2)
+///                     rail row 7, material row 2, each with a name)
 [[nodiscard]] ReferenceTables LoadTables(const std::string& folder);
 
 /// The row of a section by its designation. @return index from 0, or -1
