@@ -1,0 +1,63 @@
+#include "batch.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "calculation/calculation.h"
+#include "console.h"
+#include "exit_codes.h"
+#include "output.h"
+#include "project/project_file.h"
+#include "results/ratios.h"
+
+namespace borvik {
+
+namespace {
+
+bool load(Session& session, const std::string& file, Messages& messages) {
+    try {
+        LoadProject(file, session.project);
+    } catch (const ProjectFileError& error) {
+        messages.show(error.what());
+        return false;
+    }
+    FollowProject(session.tables, session.project, session.context);
+    session.context.FileName = session.context.FileTitle = file;
+    return true;
+}
+
+int outcome(const Session& session, const Options& options) {
+    if (!session.Fault.empty()) return kFault;
+    if (!session.Calculated) return kRefused;
+    return options.failAbove && LargestRatio(*session.results) > *options.failAbove ? kRatioAbove : kDone;
+}
+
+int runProject(const Options& options, const ReferenceTables& tables, const std::optional<std::string>& file,
+               Outputs& outputs) {
+    Console console(file.value_or("default project"), !options.quiet);
+    Session session(tables);
+    if (file && !load(session, *file, console)) return kFileFault;
+    Calculate(session, console, console, options.walk);
+    int exitCode = outcome(session, options);
+    const std::vector<std::string> messages = console.texts();
+    try {
+        for (const std::string& remark : outputs.write({session, messages, file})) console.show(remark);
+    } catch (const OutputError& error) {
+        console.show(error.what());
+        exitCode = kFileFault;
+    }
+    return exitCode;
+}
+
+}  // namespace
+
+int runBatch(const Options& options, const ReferenceTables& tables) {
+    Outputs outputs(options);
+    if (options.useDefault) return runProject(options, tables, std::nullopt, outputs);
+    int highest = kDone;
+    for (const std::string& file : options.files)
+        highest = std::max(highest, runProject(options, tables, file, outputs));
+    return highest;
+}
+
+}  // namespace borvik

@@ -1,0 +1,23 @@
+#include <iostream>
+
+#include "batch.h"
+#include "exit_codes.h"
+#include "options.h"
+#include "platform/data_folder.h"
+
+int main(int argc, char** argv) {
+    using namespace borvik;
+    const auto parsed = parseOptions(argc, argv);
+    if (const int* exitCode = std::get_if<int>(&parsed)) return *exitCode;
+    const Options& options = std::get<Options>(parsed);
+    try {
+        return runBatch(options,
+                        LoadTables(options.tables.empty() ? FindDataFolder(ProgramFolder(argv[0])) : options.tables));
+    } catch (const TableError& error) {
+        std::cerr << "borvik-calc: " << error.what() << '\n';
+        return kFileFault;
+    } catch (const std::exception& error) {
+        std::cerr << "borvik-calc: " << error.what() << '\n';
+        return kFault;
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "analysis/walk.h"
+
+namespace borvik {
+
+/// What the command line asks for.
+struct Options {
+    std::vector<std::string> files;  ///< projects to calculate
+    bool useDefault = false;         ///< the default project instead of files
+    std::string tables;              ///< folder of the reference tables; empty: where programs look for them
+    WalkMethod walk = WalkMethod::Fast;
+    bool summary = false;
+    std::string json;  ///< file, "-" for standard output, or folder; empty: none
+    std::string save;  ///< project file to write; empty: none
+    std::optional<double> failAbove;
+    bool quiet = false;
+
+    [[nodiscard]] std::size_t projects() const { return useDefault ? 1 : files.size(); }
+    /// The summary is printed when it is asked for, and when nothing else is.
+    [[nodiscard]] bool printsSummary() const { return summary || (json.empty() && save.empty() && !quiet); }
+};
+
+/// @return the options, or the exit code where the command line was answered already (help, version) or is wrong
+[[nodiscard]] std::variant<Options, int> parseOptions(int argc, const char* const* argv);
+
+}  // namespace borvik

@@ -1,0 +1,83 @@
+#include "output.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+#include "platform/version.h"
+#include "project/project_file.h"
+#include "results/json.h"
+#include "results/summary.h"
+
+namespace borvik {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void writeText(const std::string& path, const std::string& text) {
+    errno = 0;
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    file.close();
+    if (!file) throw OutputError("can't write " + path + (errno != 0 ? std::string(": ") + std::strerror(errno) : ""));
+}
+
+void print(const std::string& text) {
+    if (!(std::cout << text << std::flush)) throw OutputError("can't write to standard output");
+}
+
+}  // namespace
+
+std::vector<std::string> Outputs::write(const FinishedRun& run) {
+    std::vector<std::string> remarks;
+    std::string failed;
+    const auto attempt = [&](auto&& output) {
+        try {
+            output();
+        } catch (const std::runtime_error& error) {
+            failed += (failed.empty() ? "" : "; ") + std::string(error.what());
+        }
+    };
+    if (!options_.save.empty())
+        attempt([&] {
+            if (!SaveProject(options_.save, run.session.project))
+                remarks.push_back("characters beyond Windows-1252 were saved as \"?\"");
+        });
+    if (!options_.json.empty()) attempt([&] { writeJson(run); });
+    if (options_.printsSummary()) attempt([&] { writeSummary(run); });
+    if (!failed.empty()) throw OutputError(failed);
+    return remarks;
+}
+
+void Outputs::writeJson(const FinishedRun& run) {
+    const std::string text = ResultsJson(run.session, run.messages, run.file, kProgramAndVersion);
+    if (options_.json == "-")
+        print(text);
+    else
+        writeText(jsonFile(run), text);
+}
+
+/// With several projects, or where a folder is named: a file in that folder, named as the project. Projects of the same
+/// name in different folders get a number.
+std::string Outputs::jsonFile(const FinishedRun& run) {
+    const fs::path target = options_.json;
+    if (options_.projects() == 1 && !fs::is_directory(target)) return options_.json;
+    std::error_code failed;
+    fs::create_directories(target, failed);
+    const std::string stem = run.file ? fs::path(*run.file).stem().string() : "default";
+    std::string name = stem;
+    for (int number = 2; !taken_.insert(name).second; ++number) name = stem + "-" + std::to_string(number);
+    return (target / (name + ".json")).string();
+}
+
+void Outputs::writeSummary(const FinishedRun& run) {
+    std::string text = summaryPrinted_ ? "\n" : "";
+    if (run.file) text += *run.file + "\n";
+    print(text + SummaryText(run.session));
+    summaryPrinted_ = true;
+}
+
+}  // namespace borvik

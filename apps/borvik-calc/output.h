@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "calculation/session.h"
+#include "options.h"
+
+namespace borvik {
+
+/// A result file that can't be written; the text names it.
+class OutputError : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// One project of the batch after its run.
+struct FinishedRun {
+    const Session& session;
+    const std::vector<std::string>& messages;
+    std::optional<std::string> file;  ///< as given; nothing for the default project
+};
+
+/// Writes what the options ask for, one project after the other.
+class Outputs {
+public:
+    explicit Outputs(const Options& options) : options_(options) {}
+
+    /// All outputs of one project.
+    /// @return remarks for the user on what was written
+    /// @throws OutputError  after everything else has been written
+    std::vector<std::string> write(const FinishedRun& run);
+
+private:
+    void writeJson(const FinishedRun& run);
+    std::string jsonFile(const FinishedRun& run);
+    void writeSummary(const FinishedRun& run);
+
+    const Options& options_;
+    std::set<std::string> taken_;  ///< names of result files in the folder, so that none is written twice
+    bool summaryPrinted_ = false;
+};
+
+}  // namespace borvik
