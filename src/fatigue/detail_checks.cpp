@@ -1,0 +1,363 @@
+#include "fatigue/detail_checks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <string>
+
+#include "analysis/results.h"
+#include "base/fault.h"
+#include "base/number_text.h"
+#include "fatigue/stress_history.h"
+#include "fatigue/wheel_stress.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr int kSplices = 4;
+
+/// A point of the girder; at a support or splice also its number.
+struct Place {
+    int span = 0;
+    int point = 1;
+    int row = 0;
+};
+
+/// The stress there, 0 at a span beyond the girder (a monorail's splice read at the other field's span).
+double stressAt(const Table<Single>& table, const Place& place) {
+    return place.span >= 1 && place.span <= table.rows() ? double(table(place.span, place.point)) : 0.0;
+}
+
+/// One summand of the damage sum: factor x D^exponent, and what is printed of it.
+struct Summand {
+    double D = 0.0;
+    int exponent = 0;
+    double factor = 1.0;
+    const Term* term = nullptr;  ///< printed with its numbers; none: D itself is printed
+    double range = 0.0;
+    const char* joint = " + ";  ///< text between it and the summand before
+};
+
+struct Damage {
+    std::array<Summand, 6> summands;
+    std::size_t count = 0;
+
+    void add(const Summand& summand) { summands[count++] = summand; }
+    [[nodiscard]] double sum() const {
+        double total = 0.0;
+        for (std::size_t i = 0; i < count; ++i) {
+            total += summands[i].factor * std::pow(summands[i].D, summands[i].exponent);
+        }
+        return total;
+    }
+};
+
+/// Local stresses under the wheel in one span, as far as the detail needs them.
+struct LocalStress {
+    WheelStress wheel;
+    Single SigBend;
+};
+
+bool uses(const Detail& detail, Stress stress) {
+    return std::any_of(detail.terms.begin(), detail.terms.end(),
+                       [stress](const Term& term) { return term.exponent != 0 && term.stress == stress; });
+}
+
+/// The check of one detail.
+class DetailCheck {
+public:
+    DetailCheck(const Detail& detail, const DetailInput& input, Cranes cranes)
+        : detail_(detail), in_(input), project_(input.project), cranes_(cranes) {}
+
+    void run(FatigueResults& results) const {
+        Array<RowSet<4>> rows(1, rowCount());
+        RowSet<4> governing;
+        for (int row = 1; row <= rows.last(); ++row) {
+            watched(detail_.name, atSplices() ? 0 : std::min<int>(row, project_.NofSpans),
+                    [&] { check(row, rows(row)); });
+            if (ranksAbove(rows(row)(3), governing(3))) governing = rows(row);
+        }
+        results.FatRows(detail_.rows) = std::move(rows);
+        results.FatResult(detail_.result) = std::move(governing);
+    }
+
+private:
+    // Places
+    [[nodiscard]] bool atSplices() const;
+    [[nodiscard]] const SpliceFields& splices() const;
+    [[nodiscard]] int rowCount() const;
+    [[nodiscard]] Place firstPlace(int row) const;
+    [[nodiscard]] std::string placeText(const Place& place) const;
+
+    // Stress and damage at a place
+    [[nodiscard]] LocalStress localStress(const Place& place) const;
+    [[nodiscard]] double inThroats(const Weld& weld, const Place& place, double tau) const;
+    [[nodiscard]] double hangerReaction(const Weld& weld, const Place& place) const;
+    [[nodiscard]] double range(const Term& term, int crane, const StressSet& set, const Place& place,
+                               const LocalStress& local) const;
+    [[nodiscard]] Summand summand(const Term& term, double range) const;
+    [[nodiscard]] double category(std::int16_t Project::*field) const { return project_.*field; }
+    void addCrane(Damage& damage, int crane, const StressSet& set, const Place& place, const LocalStress& local) const;
+    void addEachSet(Damage& damage, const Place& place, const LocalStress& local) const;
+    void addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const;
+    void addBottomFlangeWeld(Damage& damage, const Place& place) const;
+    [[nodiscard]] Damage damageAt(const Place& place, const LocalStress& local) const;
+    [[nodiscard]] std::string numbers(const Damage& damage) const;
+
+    void check(int row, RowSet<4>& texts) const;
+
+    const Detail& detail_;
+    const DetailInput& in_;
+    const Project& project_;
+    Cranes cranes_;
+};
+
+bool DetailCheck::atSplices() const {
+    return detail_.places == Places::Splices || detail_.places == Places::MonorailSplices;
+}
+
+const SpliceFields& DetailCheck::splices() const {
+    return detail_.places == Places::MonorailSplices ? kMonorailSplices : kOverheadSplices;
+}
+
+int DetailCheck::rowCount() const {
+    if (atSplices()) return kSplices;
+    return detail_.places == Places::SpanPoints ? project_.NofSpans : project_.NofSpans + 1;
+}
+
+Place DetailCheck::firstPlace(int row) const {
+    const int n = project_.NofSpans;
+    if (atSplices()) {
+        const int span = roundHalfEven((project_.*splices().span)(row));
+        const double point = (project_.*splices().distance)(row)*20.0 / project_.Span(span) + 1.0;
+        return {roundHalfEven((project_.*splices().stressSpan)(row)), roundHalfEven(point), row};
+    }
+    if (detail_.places == Places::SpanPoints) return {row, 1, row};
+    const int span = detail_.places == Places::StrongerSide ? strongerSpanAtSupport(project_, row) : std::min(row, n);
+    return {span, span == row ? 1 : kPoints, row};
+}
+
+std::string DetailCheck::placeText(const Place& place) const {
+    if (detail_.places == Places::StrongerSide || detail_.places == Places::RightOfSupport) {
+        return " <  1.00 ( Support: " + generalText(place.row) + ")";
+    }
+    int span = place.span;
+    std::string spanText = generalText(span);
+    if (atSplices()) {
+        const Single stored = (project_.*splices().span)(place.row);
+        span = roundHalfEven(stored);
+        spanText = generalText(stored);
+    }
+    const std::int64_t twentieths = std::int64_t{place.point - 1} * project_.Span(span);
+    return " <  1.00 ( " + spanText + "/" + formatNumber(static_cast<double>(twentieths) / 20.0, "0") + " mm)";
+}
+
+LocalStress DetailCheck::localStress(const Place& place) const {
+    LocalStress local;
+    if (uses(detail_, Stress::Wheel)) {
+        local.wheel = wheelStress(project_, in_.rail, in_.factors, project_.SpanSection(place.span));
+    }
+    if (uses(detail_, Stress::FlangeBending)) {
+        local.SigBend = flangeBending(project_, in_.factors, project_.SpanSection(place.span));
+    }
+    return local;
+}
+
+/// Shear of the web in the two throats of a fillet weld; in the web itself with full penetration.
+double DetailCheck::inThroats(const Weld& weld, const Place& place, double tau) const {
+    if (project_.*weld.kind != "FW") return tau;
+    return project_.SpanSection(place.span).tw / (2.0 * project_.*weld.throat) * tau;
+}
+
+/// Range of the vertical stress under a hanger: crane 1's reaction, spread through the flange, in web or weld.
+double DetailCheck::hangerReaction(const Weld& weld, const Place& place) const {
+    const SectionRecord& section = project_.SpanSection(place.span);
+    const double bearing = 2.0 * section.tf1 + project_.RWS1d;
+    const double area = project_.*weld.kind == "FW" ? 2.0 * bearing * project_.*weld.throat : bearing * section.tw;
+    const double LamSig = in_.factors.Cr1.LamSig;
+    return std::abs(LamSig * in_.Cr1.RzMax(place.row) / area - LamSig * in_.Cr1.RzMin(place.row) / area);
+}
+
+double DetailCheck::range(const Term& term, int crane, const StressSet& set, const Place& place,
+                          const LocalStress& local) const {
+    switch (term.stress) {
+        case Stress::TopFlange:
+            return stressAt(set.Sig1Range, place);
+        case Stress::BottomFlange:
+            return stressAt(set.Sig2Range, place);
+        case Stress::Web:
+            return inThroats(term.weld, place, stressAt(set.TauRange, place));
+        case Stress::Support:
+            return set.SigSupRange(place.row);
+        case Stress::Wheel:
+            return local.wheel.SigLoc(crane);
+        case Stress::WebAndWheel:
+            return inThroats(term.weld, place, stressAt(set.TauRange, place)) + local.wheel.TauLoc(crane);
+        case Stress::HangerReaction:
+            return hangerReaction(term.weld, place);
+        case Stress::FlangeBending:
+            return local.SigBend;
+    }
+    return 0.0;
+}
+
+Summand DetailCheck::summand(const Term& term, double range) const {
+    const double GammaFf = project_.GammaFf;
+    const double GammaMf = project_.GammaMf;
+    const double C = category(term.category);
+    Summand summand{.exponent = term.exponent, .term = &term, .range = range};
+    switch (term.factors) {
+        case Factors::Usual:
+            summand.D = GammaFf * range / (C / GammaMf);
+            break;
+        case Factors::LoadOutside:
+            summand.factor = GammaFf;
+            summand.D = range / (C / GammaMf);
+            break;
+        case Factors::CategoryDivided:
+            summand.D = range * GammaFf / C / GammaMf;
+            break;
+    }
+    return summand;
+}
+
+void DetailCheck::addCrane(Damage& damage, int crane, const StressSet& set, const Place& place,
+                           const LocalStress& local) const {
+    const char* joint = " + ";  // between cranes; between the terms of one crane the blanks fall away
+    for (const Term& term : detail_.terms) {
+        if (term.exponent == 0) continue;
+        Summand next = summand(term, range(term, crane, set, place, local));
+        next.joint = joint;
+        damage.add(next);
+        joint = "+";
+    }
+}
+
+/// A D value of the sum of three: stored as a single, and the power is taken of what is stored.
+Summand stored(double D, int exponent) {
+    return {.D = Single(D), .exponent = exponent};
+}
+
+void DetailCheck::addEachSet(Damage& damage, const Place& place, const LocalStress& local) const {
+    const Term& term = detail_.terms[0];
+    for (const StressSet* set : {&in_.Cr1, &in_.Cr2, &in_.Cr12}) {
+        damage.add(stored(summand(term, range(term, 1, *set, place, local)).D, term.exponent));
+    }
+}
+
+/// The weld of top flange and web under the larger of the two cranes' wheels. Factors are crossed over between the
+/// cranes, and differently for a fillet weld (all direct terms with the factor of both cranes); crane 1's shear is that
+/// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. All of this
+/// is meant.
+void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const {
+    const auto& [Cr1, Cr2, Cr12] = in_.factors;
+    const double F1 = largestWheel(project_, 1);
+    const double F2 = largestWheel(project_, 2);
+    const double F = F1 > F2 ? Cr1.PhiFat * F1 : Cr2.PhiFat * F2;
+    const bool fillet = project_.W1 == "FW";
+
+    struct Crane {
+        double LamSigN, LamTauN;
+        const StressSet& set;
+    };
+    const Crane cranes[] = {
+        {Cr12.LamSigN, Cr1.LamTauN, in_.Cr12},
+        {fillet ? Cr12.LamSigN : Cr2.LamSigN, Cr2.LamTauN, in_.Cr2},
+        {fillet ? Cr12.LamSigN : Cr2.LamSigN, Cr2.LamTauN, in_.Cr12},
+    };
+    const auto& [direct, shear] = detail_.terms;
+    for (const Crane& crane : cranes) {
+        const double s = local.wheel.spread.stress(crane.LamSigN, F);
+        const double t = local.wheel.spread.stress(kLocalShear * crane.LamTauN, F);
+        damage.add(stored(summand(direct, s).D, direct.exponent));
+        damage.add(stored(summand(shear, t + stressAt(crane.set.TauRange, place)).D, shear.exponent));
+    }
+}
+
+/// The web's shear in the weld W2, here with the load factor inside the power. A fillet weld takes the throat factor of
+/// W1 in addition, and a full penetration weld keeps the throat factor of its own; both are meant.
+void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place) const {
+    const Term& term = detail_.terms[0];
+    const double GammaFf = project_.GammaFf;
+    const double tw = project_.SpanSection(place.span).tw;
+    const double C = category(term.category) / project_.GammaMf;
+    const double load = project_.W2 == "FW" ? tw * GammaFf / (2.0 * project_.W1a) : GammaFf;
+    for (const StressSet* set : {&in_.Cr1, &in_.Cr2, &in_.Cr12}) {
+        const double r = stressAt(set->TauRange, place);
+        damage.add(stored(load * r * tw / (2.0 * project_.W2a) / C, term.exponent));
+    }
+}
+
+Damage DetailCheck::damageAt(const Place& place, const LocalStress& local) const {
+    Damage damage;
+    if (cranes_ == Cranes::Together) {
+        switch (detail_.together) {
+            case Together::EachSet:
+                addEachSet(damage, place, local);
+                break;
+            case Together::TopFlangeWeld:
+                addTopFlangeWeld(damage, place, local);
+                break;
+            case Together::BottomFlangeWeld:
+                addBottomFlangeWeld(damage, place);
+                break;
+        }
+        return damage;
+    }
+    addCrane(damage, 1, in_.Cr1, place, local);
+    if (cranes_ == Cranes::Independent) addCrane(damage, 2, in_.Cr2, place, local);
+    return damage;
+}
+
+std::string DetailCheck::numbers(const Damage& damage) const {
+    std::string text;
+    for (std::size_t i = 0; i < damage.count; ++i) {
+        const Summand& summand = damage.summands[i];
+        if (i > 0) text += summand.joint;
+        if (summand.term == nullptr) {
+            text += formatNumber(summand.D, "0.000");
+        } else {
+            const std::string range = formatNumber(summand.range, "0.0");
+            text += "[" + formatNumber(project_.GammaFf, "0.00") + "*" +
+                    (summand.term->bracketed ? "(" + range + ")" : range) + "/(" +
+                    formatNumber(category(summand.term->category), "0") + "/" + formatNumber(project_.GammaMf, "0.00") +
+                    ")]";
+        }
+        text += "^" + generalText(summand.exponent);
+    }
+    return text + " = ";
+}
+
+void DetailCheck::check(int row, RowSet<4>& texts) const {
+    if (atSplices() && !(project_.*splices().used)(row)) return;
+
+    Place place = firstPlace(row);
+    const int lastPoint = detail_.places == Places::SpanPoints ? kPoints : place.point;
+    const LocalStress local = localStress(place);
+    Damage governing;
+    Place governingPlace;
+    for (; place.point <= lastPoint; ++place.point) {
+        const Damage damage = damageAt(place, local);
+        const double ratio = damage.sum();
+        const std::string IrText = detail_.rankedByFullDigits ? plainText(ratio) : formatNumber(ratio, "0.000");
+        if (!ranksAbove(IrText, texts(3))) continue;
+        texts(3) = detail_.rankedByFullDigits ? formatNumber(ratio, "0.000") : IrText;
+        texts.Ratio = ratio;
+        governing = damage;
+        governingPlace = place;
+    }
+    texts(1) = detail_.label[static_cast<std::size_t>(cranes_)];
+    texts(2) = numbers(governing);
+    texts(4) = placeText(governingPlace);
+}
+
+}  // namespace
+
+void checkDetails(std::span<const Detail> details, const DetailInput& input, Cranes cranes, FatigueResults& results) {
+    for (const Detail& detail : details) {
+        if (input.project.*detail.checked) DetailCheck(detail, input, cranes).run(results);
+    }
+}
+
+}  // namespace borvik
