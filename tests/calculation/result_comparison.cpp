@@ -127,17 +127,9 @@ void ResultComparison::compareArrays(const Place& place, const json& ours, const
         return;
     }
     const bool record = isRecord(place.quantity, theirs);
-    const std::size_t before = differences.size();
     for (std::size_t i = 0; i < theirs.size(); ++i) {
         const std::string index = "[" + std::to_string(i + 1) + "]";
         compare({place.path + index, place.quantity + (record ? index : "[]")}, ours[i], theirs[i]);
-    }
-    if (!record) return;
-    ++records;
-    const bool differs = differences.size() > before;
-    if (differs && differences[before].path != place.path + "[1]") {
-        ties.push_back(differences[before]);
-        differences.resize(before);
     }
 }
 
@@ -147,16 +139,14 @@ void ResultComparison::differ(const Place& place, const json& ours, const json& 
 
 std::ostream& operator<<(std::ostream& out, const ResultComparison& comparison) {
     constexpr std::size_t kShown = 12;
-    const auto show = [&](const char* title, const std::vector<Difference>& items) {
-        out << items.size() << ' ' << title << '\n';
-        for (std::size_t i = 0; i < std::min(items.size(), kShown); ++i)
-            out << "  " << items[i].path << ": ours " << items[i].ours << ", theirs " << items[i].theirs << '\n';
-    };
-    show("differences", comparison.differences);
+    out << comparison.differences.size() << " differences\n";
+    for (std::size_t i = 0; i < std::min(comparison.differences.size(), kShown); ++i) {
+        const Difference& difference = comparison.differences[i];
+        out << "  " << difference.path << ": ours " << difference.ours << ", theirs " << difference.theirs << '\n';
+    }
     std::map<std::string, int> counts;
     for (const Difference& difference : comparison.differences) ++counts[difference.quantity];
     for (const auto& [quantity, count] : counts) out << "    " << count << " x " << quantity << '\n';
-    show("records of another position with the same extreme", comparison.ties);
     return out;
 }
 

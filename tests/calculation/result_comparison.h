@@ -23,9 +23,6 @@ public:
     ResultComparison(const nlohmann::json& ours, const nlohmann::json& theirs);
 
     std::vector<Difference> differences;
-    /// Records whose extreme agrees, though at another position of the cranes: two positions were nearly equally bad.
-    std::vector<Difference> ties;
-    int records = 0;  ///< records of extremes compared
 
 private:
     struct Place {

@@ -42,8 +42,6 @@ TEST_P(Vectors, agreeWithTheIndependentResults) {
     const nlohmann::json theirs = nlohmann::json::parse(file);
     const ResultComparison comparison(calculated(name, method), theirs);
     EXPECT_TRUE(comparison.differences.empty()) << comparison;
-    // A few positions tie; many would mean that the positions are wrong.
-    EXPECT_LE(static_cast<int>(comparison.ties.size()), comparison.records / 50) << comparison;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Vectors,
@@ -59,23 +57,22 @@ TEST(ResultComparison, findsWhatDiffers) {
     const auto parse = [](const char* text) { return nlohmann::json::parse(text); };
     const struct {
         const char *ours, *theirs;
-        std::size_t differences, ties;
+        std::size_t differences;
     } cases[] = {
-        {R"({"Uls":{"RzMax":[1000,0.0002]}})", R"({"Uls":{"RzMax":[1000,0]}})", 0, 0},
-        {R"({"Uls":{"RzMax":[1000,0.0004]}})", R"({"Uls":{"RzMax":[1000,0]}})", 1, 0},
-        {R"({"Uls":{"RzMax":[1000.003,5]}})", R"({"Uls":{"RzMax":[1000,5]}})", 1, 0},
-        {R"({"Uls":{"MyMaxSpan":[[5,1,200]]}})", R"({"Uls":{"MyMaxSpan":[[5,1,400]]}})", 0, 1},
-        {R"({"Uls":{"MyMaxSpan":[[6,1,200]]}})", R"({"Uls":{"MyMaxSpan":[[5,1,400]]}})", 2, 0},
-        {R"({"Fls":{"Cr2":null}})", R"({"Fls":{"Cr2":{"RzMax":[1]}}})", 1, 0},
-        {R"({"Messages":["a"],"Program":"x"})", R"({"Messages":[],"Program":"y"})", 1, 0},
-        {R"({"Checks":{}})", R"({"Checks":{"ShearGov":["a"]}})", 1, 0},
-        {R"({"Fault":"one"})", R"({"Fault":"another"})", 0, 0},
-        {R"({"Fault":"one"})", R"({"Fault":null})", 1, 0},
+        {R"({"Uls":{"RzMax":[1000,0.0002]}})", R"({"Uls":{"RzMax":[1000,0]}})", 0},
+        {R"({"Uls":{"RzMax":[1000,0.0004]}})", R"({"Uls":{"RzMax":[1000,0]}})", 1},
+        {R"({"Uls":{"RzMax":[1000.003,5]}})", R"({"Uls":{"RzMax":[1000,5]}})", 1},
+        {R"({"Uls":{"MyMaxSpan":[[5,1,200]]}})", R"({"Uls":{"MyMaxSpan":[[5,1,400]]}})", 1},
+        {R"({"Uls":{"MyMaxSpan":[[6,1,200]]}})", R"({"Uls":{"MyMaxSpan":[[5,1,400]]}})", 2},
+        {R"({"Fls":{"Cr2":null}})", R"({"Fls":{"Cr2":{"RzMax":[1]}}})", 1},
+        {R"({"Messages":["a"],"Program":"x"})", R"({"Messages":[],"Program":"y"})", 1},
+        {R"({"Checks":{}})", R"({"Checks":{"ShearGov":["a"]}})", 1},
+        {R"({"Fault":"one"})", R"({"Fault":"another"})", 0},
+        {R"({"Fault":"one"})", R"({"Fault":null})", 1},
     };
     for (const auto& c : cases) {
         const ResultComparison comparison(parse(c.ours), parse(c.theirs));
         EXPECT_EQ(comparison.differences.size(), c.differences) << c.ours << " against " << c.theirs;
-        EXPECT_EQ(comparison.ties.size(), c.ties) << c.ours << " against " << c.theirs;
     }
     EXPECT_TRUE(agreeToTheLastDigit("72.4/763.5 = ", "72.5/763.5 = "));
     EXPECT_FALSE(agreeToTheLastDigit("72.4/763.5 = ", "72.6/763.5 = "));
