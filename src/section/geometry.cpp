@@ -71,6 +71,8 @@ double TorsionStiffness(const SectionRecord& s) {
 PlasticProperties PlasticAxis(const SectionRecord& s) {
     const double hw = s.h - s.tf1 - s.tf2;
     if (s.b1 == s.b2 && s.tf1 == s.tf2) {
+        // A quarter of the web, at the lever of the flanges: kept as the short way of equal flanges, not the exact
+        // modulus.
         return {s.h / 2.0, (hw * s.tw / 4.0 + s.b1 * s.tf1) * (s.h - s.tf1 / 2.0 - s.tf2 / 2.0)};
     }
     const double A1 = s.b1 * s.tf1;
