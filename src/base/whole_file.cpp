@@ -145,7 +145,7 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     const bool exists = ::stat(target.c_str(), &old) == 0;
     if (exists && S_ISDIR(old.st_mode)) fail(EISDIR);
     if (exists && !S_ISREG(old.st_mode)) fail(EINVAL);  // a device must not be replaced by a file
-    if (exists && ::access(target.c_str(), W_OK) != 0) fail(errno);
+    if (exists && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) fail(errno);
 
     TemporaryFile file(folder);
     file.write(bytes.data(), bytes.size());

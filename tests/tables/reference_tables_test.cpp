@@ -1,0 +1,174 @@
+#include "tables/reference_tables.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+#include <string>
+
+#include "base/number_text.h"
+#include "support/temp_folder.h"
+
+namespace borvik {
+namespace {
+
+using testing_support::bytesOf;
+using testing_support::TempFolder;
+using testing_support::writeBytes;
+
+const std::string kData = BORVIK_SOURCE_DIR "/data";
+
+/// The shipped tables in a folder of their own, one of them replaced.
+ReferenceTables loadWith(const char* file, const std::string& bytes) {
+    const TempFolder folder;
+    for (const auto& entry : std::filesystem::directory_iterator(kData))
+        std::filesystem::copy_file(entry.path(), folder.path() / entry.path().filename());
+    writeBytes(folder.path() / file, bytes);
+    return LoadTables(folder.path().string());
+}
+
+TEST(LoadTables, readsTheSectionsOfTheCatalogue) {
+    const ReferenceTables tables = LoadTables(kData);
+    struct Case {
+        int row;
+        const char *id, *name;
+        double h, b, tf, tw, R, A, weight, Iy, Wply, Iz, WplZ, It, Iw;  // WplZ is the elastic modulus of the weak axis
+    };
+    const Case cases[] = {
+        {0, "IPE", "IPE 80", 80, 46, 5.2, 3.8, 5, 764, 6, 800000, 23200, 85000, 3690, 7000, 118e6},
+        {49, "HEA", "HEA 300", 290, 300, 14, 8.5, 27, 11250, 88.3, 182.6e6, 1.38e6, 63.1e6, 421000, 856000, 1.2e12},
+        {110, "HEM", "HEM 1000", 1008, 302, 40, 21, 30, 44420, 349, 7223e6, 16.6e6, 18.46e6, 1.22e6, 17.1e6, 4.3e13},
+    };
+    EXPECT_EQ(tables.SectionTable.first(), 0);
+    EXPECT_EQ(tables.SectionTable.size(), 111);
+    for (const Case& c : cases) {
+        SectionRecord expected;
+        expected.Id = c.id;
+        expected.Fab = "R";
+        expected.TableName = expected.DisplayName = c.name;
+        expected.TableIndex = static_cast<std::int16_t>(c.row);
+        expected.CType = 1;
+        expected.h = c.h;
+        expected.b1 = expected.b2 = c.b;
+        expected.tf1 = expected.tf2 = c.tf;
+        expected.tw = c.tw;
+        expected.R = c.R;
+        expected.A = c.A;
+        expected.Weight = c.weight;
+        expected.Iy = c.Iy;
+        expected.Wply = c.Wply;
+        expected.Iz = c.Iz;
+        expected.WplZ = c.WplZ;
+        expected.It = c.It;
+        expected.Iw = c.Iw;
+        EXPECT_TRUE(tables.SectionTable(c.row) == expected) << c.name;
+        EXPECT_EQ(FindSection(tables, c.name), c.row);
+    }
+}
+
+TEST(LoadTables, everySectionIsComplete) {
+    const ReferenceTables tables = LoadTables(kData);
+    std::set<std::string> names;
+    for (const SectionRecord& section : tables.SectionTable) {
+        names.insert(section.TableName);
+        EXPECT_EQ(section.TableName.rfind(section.Id + " ", 0), 0U) << section.TableName;
+        for (const Single number :
+             {section.h, section.b1, section.tf1, section.tw, section.R, section.A, section.Weight, section.Iy,
+              section.Wply, section.Iz, section.WplZ, section.It, section.Iw})
+            EXPECT_GT(double(number), 0.0) << section.TableName;
+        EXPECT_NEAR(section.Weight, section.A * 7.85e-3, 0.012 * section.Weight)
+            << section.TableName << ": kg/m of mm2";
+    }
+    EXPECT_EQ(names.size(), 111U) << "a name stands twice";
+}
+
+TEST(LoadTables, readsRailsAndSteelGrades) {
+    const ReferenceTables tables = LoadTables(kData);
+    ASSERT_EQ(tables.RailTable.size(), 10);
+    const RailRecord a65 = {"A", "A 65", 5490, 43.1, 75, 175, 65, 6, 44.7, 3190000, 34, 30, 14, 10, 0, 0};
+    const RailRecord flat = {"P", "Pl 50x30", 1485, 11.6, 30, 50, 50, 6, 15, 112500, 30, 0, 0, 0, 0, 0};
+    EXPECT_TRUE(tables.RailTable(2) == a65);
+    EXPECT_TRUE(tables.RailTable(7) == flat);
+    EXPECT_EQ(FindRail(tables, "Pl 70x40"), 9);
+    EXPECT_EQ(FindRail(tables, "pl 70x40"), -1);
+
+    ASSERT_EQ(tables.MaterialTable.size(), 16);
+    EXPECT_EQ(double(tables.MaterialTable(2).fyk1), 355);
+    EXPECT_EQ(double(tables.MaterialTable(2).fyk2), 335);
+    EXPECT_EQ(double(tables.MaterialTable(3).fyk1), 440) << "S450 is 440 MPa";
+    EXPECT_EQ(FindMaterial(tables, "General"), 15);
+    EXPECT_EQ(double(tables.MaterialTable(15).fyk1), 0);
+    EXPECT_EQ(FindMaterial(tables, ""), -1);
+}
+
+TEST(LoadTables, toleratesDamagedLines) {
+    std::string rails = "heading\n";                      // bare line feeds
+    rails += "A;short\r\n";                               // cells are missing
+    rails += "\r\n";                                      // an empty line is a row of its own
+    rails += "A;R\xE4ls;12,5;x;1E1;-3;;;;;;;;;;;99\r\n";  // comma, no number, too many cells
+    for (int i = 0; i < 4; ++i) rails += "P;filler;1\r\n";
+    rails += "P;last;7";  // the file ends without a line break
+    const ReferenceTables tables = loadWith("Rail.csv", rails);
+    ASSERT_EQ(tables.RailTable.size(), 8);
+    EXPECT_EQ(tables.RailTable(0).Name, "short");
+    EXPECT_EQ(double(tables.RailTable(0).RailAx), 0);
+    EXPECT_TRUE(tables.RailTable(1) == RailRecord{});
+    const RailRecord odd = {"A", "R\u00E4ls", 12.5, 0, 10, -3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    EXPECT_TRUE(tables.RailTable(2) == odd);
+    EXPECT_EQ(double(tables.RailTable(7).RailAx), 7);
+
+    std::string sections = bytesOf(kData + "/Euprof.csv");
+    sections += "IPE;99999;R;wide type\r\nIPE;x;R;no type\r\n";
+    const ReferenceTables longer = loadWith("Euprof.csv", sections);
+    ASSERT_EQ(longer.SectionTable.size(), 113);
+    EXPECT_EQ(longer.SectionTable(111).CType, 0);
+    EXPECT_EQ(longer.SectionTable(112).CType, 0);
+    EXPECT_EQ(longer.SectionTable(112).TableIndex, 112);
+}
+
+TEST(LoadTables, refusesTablesThatGiveNoDefaultProject) {
+    const std::string rails = bytesOf(kData + "/Rail.csv");
+    const std::string materials = bytesOf(kData + "/ECmat.csv");
+    const std::string sections = bytesOf(kData + "/Euprof.csv");
+    struct Case {
+        const char* file;
+        std::string bytes;
+    };
+    const Case cases[] = {
+        {"Rail.csv", ""},
+        {"Rail.csv", rails.substr(0, rails.find("P;Pl 50x30"))},
+        {"ECmat.csv", materials.substr(0, materials.find("S355;"))},
+        {"ECmat.csv", "heading\r\n\r\n\r\n;355;335\r\n"},
+        {"Euprof.csv", sections.substr(0, sections.find("HEA;1;R;HEA 300"))},
+        {"Euprof.csv", std::string(40000, '\n')},
+    };
+    for (const Case& c : cases) {
+        try {
+            (void)loadWith(c.file, c.bytes);
+            ADD_FAILURE() << c.file << " of " << c.bytes.size() << " bytes was taken";
+        } catch (const TableError& error) {
+            EXPECT_NE(std::string(error.what()).find(c.file), std::string::npos) << error.what();
+        }
+    }
+}
+
+TEST(LoadTables, namesTheFileThatIsMissing) {
+    const TempFolder folder;
+    for (const char* file : {"Euprof.csv", "Rail.csv", "ECmat.csv"}) {
+        try {
+            (void)LoadTables(folder.path().string());
+            ADD_FAILURE() << file << " is missing";
+        } catch (const TableError& error) {
+            EXPECT_EQ(std::string(error.what()),
+                      "The table " + folder.file(file) + " can't be read: No such file or directory");
+        }
+        std::filesystem::copy_file(kData + "/" + file, folder.path() / file);
+    }
+    EXPECT_NO_THROW((void)LoadTables(folder.path().string()));
+    std::filesystem::remove(folder.path() / "Rail.csv");
+    std::filesystem::create_directory(folder.path() / "Rail.csv");
+    EXPECT_THROW((void)LoadTables(folder.path().string()), TableError) << "a folder of that name";
+}
+
+}  // namespace
+}  // namespace borvik
