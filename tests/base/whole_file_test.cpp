@@ -133,18 +133,12 @@ TEST(OverwriteFile, refusesWhatIsNoFile) {
 /// An ordinary user while this lives, also where the tests run as the superuser, who may write everything.
 class OrdinaryUser {
 public:
-    OrdinaryUser() {
-        if (before_ == 0) EXPECT_EQ(::seteuid(kNobody), 0);
-    }
+    OrdinaryUser() { EXPECT_EQ(before_ == 0 ? ::seteuid(kNobody) : 0, 0); }
     OrdinaryUser(const OrdinaryUser&) = delete;
     OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-    ~OrdinaryUser() {
-        if (before_ == 0) EXPECT_EQ(::seteuid(before_), 0);
-    }
+    ~OrdinaryUser() { EXPECT_EQ(before_ == 0 ? ::seteuid(before_) : 0, 0); }
     static void own(const fs::path& path) {
-        if (::geteuid() == 0) {
-            EXPECT_EQ(::chown(path.c_str(), kNobody, kNobody), 0);
-        }
+        EXPECT_EQ(::geteuid() == 0 ? ::chown(path.c_str(), kNobody, kNobody) : 0, 0);
     }
 
 private:
