@@ -1,9 +1,17 @@
 #include "forms/dialogs.h"
 
+#include "forms/setup_dialog.h"
+
 namespace borvik {
 
-std::unique_ptr<QDialog> makeDialog(DialogKind, Session&, Messages&, std::function<void()>, QWidget*) {
-    return nullptr;
+std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
+                                    std::function<void()> changed, QWidget* parent) {
+    switch (kind) {
+        case DialogKind::Setup:
+            return std::make_unique<SetupDialog>(session, messages, std::move(changed), parent);
+        default:
+            return nullptr;
+    }
 }
 
 }  // namespace borvik

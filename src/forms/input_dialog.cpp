@@ -1,0 +1,163 @@
+#include "forms/input_dialog.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace borvik {
+
+namespace {
+
+/// A scroll area that asks for the whole of its content, so that bars appear only on a screen too small for the form.
+class WholeContentArea : public QScrollArea {
+public:
+    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+}  // namespace
+
+InputDialog::InputDialog(const char* name, const QString& title, Session& session, Messages& messages,
+                         std::function<void()> changed, QWidget* parent, std::string mismatch)
+    : QDialog(parent),
+      session_(session),
+      project_(session.project),
+      messages_(messages),
+      binder_(messages, std::move(mismatch), this),
+      changed_(std::move(changed)) {
+    setObjectName(QString::fromUtf8(name));
+    setWindowTitle(title);
+    setModal(true);
+    binder_.accepted = [this] { inputChanged(); };
+}
+
+void InputDialog::done(int result) {
+    if (binder_.refusalPending()) return;
+    const auto* box = qobject_cast<const NumberBox*>(QApplication::focusWidget());
+    const bool insisted = box != nullptr && box == refusedAtClosing_ && box->standsRefused();
+    if (!insisted && !binder_.commitFocused()) {
+        refusedAtClosing_ = box;
+        return;
+    }
+    if (!mayClose()) return;
+    inputChanged();
+    QDialog::done(result);
+}
+
+void InputDialog::inputChanged() {
+    session_.inputChanged();
+    if (changed_) changed_();
+}
+
+void InputDialog::setContent(QLayout* content) {
+    auto* area = new WholeContentArea;
+    auto* inside = new QWidget;
+    inside->setLayout(content);
+    area->setWidget(inside);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
+    for (QComboBox* list : findChildren<QComboBox*>()) {
+        list->setFocusPolicy(Qt::StrongFocus);
+        list->installEventFilter(this);
+    }
+    // Enter moves on from box to box and must never press a button that doesn't have the focus.
+    for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+}
+
+void InputDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        const QSize room = screen()->availableSize() * 0.96;
+        resize(sizeHint().boundedTo(room));
+    }
+    QDialog::showEvent(event);
+}
+
+void InputDialog::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && event->modifiers().testFlag(Qt::ControlModifier)) {
+        accept();
+    } else if (enter && qobject_cast<QAbstractButton*>(QApplication::focusWidget()) != nullptr) {
+        qobject_cast<QAbstractButton*>(QApplication::focusWidget())->click();
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+bool InputDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && !qobject_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();  // the form scrolls instead of the choice changing
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+Group makeGroup(const char* name, const QString& title) {
+    auto* box = new QGroupBox(title);
+    box->setObjectName(QString::fromUtf8(name));
+    return {box, new QGridLayout(box)};
+}
+
+void addRow(QGridLayout* grid, const QString& label, QWidget* field, const QString& unit) {
+    const int row = grid->rowCount();
+    auto* text = new QLabel(label);
+    text->setBuddy(field);
+    grid->addWidget(text, row, 0);
+    grid->addWidget(field, row, 1);
+    grid->addWidget(new QLabel(unit), row, 2);
+}
+
+void addWide(QGridLayout* grid, QWidget* widget) {
+    grid->addWidget(widget, grid->rowCount(), 0, 1, -1);
+}
+
+QPushButton* makeButton(const char* name, const QString& text, const QString& tip, std::function<void()> clicked) {
+    return makeChoice<QPushButton>(name, text, tip, std::move(clicked));
+}
+
+QComboBox* makeList(const char* name, const QString& tip, std::function<void(int)> chosen) {
+    auto* list = new QComboBox;
+    list->setObjectName(QString::fromUtf8(name));
+    list->setToolTip(tip);
+    QObject::connect(list, &QComboBox::activated, list, [chosen = std::move(chosen)](int index) { chosen(index); });
+    return list;
+}
+
+QTreeWidget* makePropertyList(const char* name) {
+    auto* list = new QTreeWidget;
+    list->setObjectName(QString::fromUtf8(name));
+    list->setColumnCount(3);
+    list->setHeaderHidden(true);
+    list->setRootIsDecorated(false);
+    list->setAlternatingRowColors(true);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setFocusPolicy(Qt::NoFocus);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->header()->setStretchLastSection(true);
+    return list;
+}
+
+void fillPropertyList(QTreeWidget* list, const std::vector<PropertyRow>& rows) {
+    list->clear();
+    for (const PropertyRow& row : rows) {
+        auto* item = new QTreeWidgetItem(
+            list, {QString::fromUtf8(row.label), QString::fromStdString(row.value), QString::fromUtf8(row.unit)});
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        if (row.value.empty()) {
+            QFont bold = list->font();
+            bold.setBold(true);
+            item->setFont(0, bold);
+        }
+    }
+}
+
+}  // namespace borvik

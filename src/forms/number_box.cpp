@@ -1,0 +1,136 @@
+#include "forms/number_box.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace borvik {
+
+namespace {
+
+constexpr QRgb kFocusedGreen = qRgb(0, 255, 0);
+constexpr QRgb kRestingWhite = qRgb(255, 255, 255);
+constexpr QRgb kTextOnBoth = qRgb(16, 16, 16);
+constexpr QRgb kRefusedRed = qRgb(200, 0, 0);
+constexpr int kCharacters = 8;  // wide enough for "4000000" and for "1.234"
+
+}  // namespace
+
+NumberBox::NumberBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
+    setObjectName(name);
+    setAlignment(Qt::AlignRight);
+    setFocusPolicy(Qt::StrongFocus);  // no focus by the mouse wheel
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    paintBackground(kRestingWhite);
+}
+
+void NumberBox::showText(const QString& text) {
+    shown_ = text;
+    setText(text);
+    setModified(false);
+    setCursorPosition(0);
+}
+
+bool NumberBox::edited() const {
+    return isModified() || text() != shown_;
+}
+
+void NumberBox::markRefused(const QString& allowed) {
+    refused_ = true;
+    refusedText_ = text();
+    setToolTip(allowed + QLatin1String("\n") + meaning_);
+    setAccessibleDescription(allowed);
+    update();
+}
+
+void NumberBox::clearRefusal() {
+    refused_ = false;
+    setToolTip(meaning_);
+    setAccessibleDescription(meaning_);
+    update();
+}
+
+void NumberBox::setMeaning(const QString& meaning) {
+    meaning_ = meaning;
+    clearRefusal();
+}
+
+QSize NumberBox::sizeHint() const {
+    const int width = fontMetrics().horizontalAdvance(QLatin1Char('0')) * kCharacters;
+    const QMargins margins = textMargins();
+    return {width + margins.left() + margins.right() + fontMetrics().height(), QLineEdit::sizeHint().height()};
+}
+
+void NumberBox::paintBackground(const QColor& colour) {
+    QPalette colours = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        colours.setColor(group, QPalette::Base, colour);
+        colours.setColor(group, QPalette::Text, kTextOnBoth);
+    }
+    setPalette(colours);
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    paintBackground(kFocusedGreen);
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    selectAll();
+    selectOnRelease_ = event->reason() == Qt::MouseFocusReason;  // the press that follows would drop the selection
+}
+
+void NumberBox::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    paintBackground(kRestingWhite);
+    deselect();
+    Q_EMIT left();
+}
+
+void NumberBox::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (event->modifiers().testFlag(Qt::ControlModifier)) break;  // closes the form
+            event->accept();
+            Q_EMIT enterPressed();
+            return;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down: {
+            const auto modifiers = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+            bool taken = false;
+            if (modifiers == Qt::NoModifier) Q_EMIT arrowPressed(event->key(), taken);
+            if (taken) {
+                event->accept();
+                return;
+            }
+            break;
+        }
+        default:
+            break;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void NumberBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (selectOnRelease_ && !hasSelectedText()) selectAll();
+    selectOnRelease_ = false;
+}
+
+void NumberBox::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (!refused_) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(kRefusedRed), 2.0));
+    painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.drawText(rect().adjusted(fontMetrics().height() / 3, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("!"));
+}
+
+}  // namespace borvik

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "forms/input_dialog.h"
+
+class QListWidget;
+
+namespace borvik {
+
+/// frmSetup: load factors, partial factors, buckling parameters and deflection limits, and the load combinations that
+/// follow from them.
+class SetupDialog : public InputDialog {
+public:
+    SetupDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
+
+    /// Fills all controls from the record and builds the three combination texts anew.
+    void WriteSetup();
+
+private:
+    Group loadFactors();
+    Group deflectionLimits();
+    Group shearFactor();
+    Group bucklingParameters();
+    Group partialFactors();
+    NumberBox* factor(const char* name, Single& field, double lowest, double highest, const char* message,
+                      const QString& meaning);
+    void writeCombinations();
+
+    QListWidget* lstCombination_;
+};
+
+}  // namespace borvik
