@@ -1,17 +1,38 @@
 #include "forms/dialogs.h"
 
+#include "forms/load_dialog.h"
+#include "forms/load_runway_dialog.h"
 #include "forms/setup_dialog.h"
 
 namespace borvik {
 
-std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
-                                    std::function<void()> changed, QWidget* parent) {
-    switch (kind) {
-        case DialogKind::Setup:
-            return std::make_unique<SetupDialog>(session, messages, std::move(changed), parent);
-        default:
-            return nullptr;
-    }
+namespace {
+
+using Changed = std::function<void()>;
+
+template <class Form>
+std::unique_ptr<QDialog> make(Session& session, Messages& messages, Changed changed, QWidget* parent) {
+    return std::make_unique<Form>(session, messages, std::move(changed), parent);
+}
+
+}  // namespace
+
+std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages, Changed changed,
+                                    QWidget* parent) {
+    using Maker = std::unique_ptr<QDialog> (*)(Session&, Messages&, Changed, QWidget*);
+    const auto maker = [kind]() -> Maker {
+        switch (kind) {
+            case DialogKind::Setup:
+                return make<SetupDialog>;
+            case DialogKind::Load:
+                return make<LoadDialog>;
+            case DialogKind::LoadRunway:
+                return make<LoadRunwayDialog>;
+            default:
+                return nullptr;
+        }
+    }();
+    return maker == nullptr ? nullptr : maker(session, messages, std::move(changed), parent);
 }
 
 }  // namespace borvik

@@ -84,7 +84,7 @@ FormBinder::FormBinder(Messages& messages, std::string mismatch, QObject* parent
     : QObject(parent), messages_(messages), mismatch_(std::move(mismatch)) {}
 
 NumberBox* FormBinder::add(NumberRow row) {
-    auto* box = new NumberBox(QString::fromUtf8(row.name));
+    auto* box = new NumberBox(QString::fromStdString(row.name));
     box->setMeaning(row.meaning);
     entries_.push_back(std::make_unique<Entry>(Entry{box, std::move(row)}));
     connect(box, &NumberBox::left, this, [this, box] { leave(box); });

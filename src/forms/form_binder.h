@@ -55,7 +55,7 @@ private:
 
 /// One row of a form's table of numeric boxes: everything in which one box differs from another.
 struct NumberRow {
-    const char* name;  ///< of the control
+    std::string name;  ///< of the control
     NumberField field;
     const char* mask;
     std::function<Range()> range;          ///< asked at each test, since some limits move with other input

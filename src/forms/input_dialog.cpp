@@ -24,7 +24,7 @@ public:
 
 }  // namespace
 
-InputDialog::InputDialog(const char* name, const QString& title, Session& session, Messages& messages,
+InputDialog::InputDialog(const std::string& name, const QString& title, Session& session, Messages& messages,
                          std::function<void()> changed, QWidget* parent, std::string mismatch)
     : QDialog(parent),
       session_(session),
@@ -32,7 +32,7 @@ InputDialog::InputDialog(const char* name, const QString& title, Session& sessio
       messages_(messages),
       binder_(messages, std::move(mismatch), this),
       changed_(std::move(changed)) {
-    setObjectName(QString::fromUtf8(name));
+    setObjectName(QString::fromStdString(name));
     setWindowTitle(title);
     setModal(true);
     binder_.accepted = [this] { inputChanged(); };
@@ -101,9 +101,9 @@ bool InputDialog::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-Group makeGroup(const char* name, const QString& title) {
+Group makeGroup(const std::string& name, const QString& title) {
     auto* box = new QGroupBox(title);
-    box->setObjectName(QString::fromUtf8(name));
+    box->setObjectName(QString::fromStdString(name));
     return {box, new QGridLayout(box)};
 }
 
@@ -120,21 +120,21 @@ void addWide(QGridLayout* grid, QWidget* widget) {
     grid->addWidget(widget, grid->rowCount(), 0, 1, -1);
 }
 
-QPushButton* makeButton(const char* name, const QString& text, const QString& tip, std::function<void()> clicked) {
+QPushButton* makeButton(const std::string& name, const QString& text, const QString& tip, std::function<void()> clicked) {
     return makeChoice<QPushButton>(name, text, tip, std::move(clicked));
 }
 
-QComboBox* makeList(const char* name, const QString& tip, std::function<void(int)> chosen) {
+QComboBox* makeList(const std::string& name, const QString& tip, std::function<void(int)> chosen) {
     auto* list = new QComboBox;
-    list->setObjectName(QString::fromUtf8(name));
+    list->setObjectName(QString::fromStdString(name));
     list->setToolTip(tip);
     QObject::connect(list, &QComboBox::activated, list, [chosen = std::move(chosen)](int index) { chosen(index); });
     return list;
 }
 
-QTreeWidget* makePropertyList(const char* name) {
+QTreeWidget* makePropertyList(const std::string& name) {
     auto* list = new QTreeWidget;
-    list->setObjectName(QString::fromUtf8(name));
+    list->setObjectName(QString::fromStdString(name));
     list->setColumnCount(3);
     list->setHeaderHidden(true);
     list->setRootIsDecorated(false);

@@ -28,7 +28,7 @@ public:
     void done(int result) override;
 
 protected:
-    InputDialog(const char* name, const QString& title, Session& session, Messages& messages,
+    InputDialog(const std::string& name, const QString& title, Session& session, Messages& messages,
                 std::function<void()> changed, QWidget* parent, std::string mismatch = "Input string mismatch ");
 
     /// The last guard. @return false to stay open
@@ -59,26 +59,26 @@ struct Group {
     QGridLayout* grid;
 };
 
-[[nodiscard]] Group makeGroup(const char* name, const QString& title);
+[[nodiscard]] Group makeGroup(const std::string& name, const QString& title);
 /// Adds a row "label, field, unit" at the foot of a grid, the label as the field's buddy.
 void addRow(QGridLayout* grid, const QString& label, QWidget* field, const QString& unit = {});
 /// Adds a control over the whole width at the foot of a grid.
 void addWide(QGridLayout* grid, QWidget* widget);
 
-[[nodiscard]] QPushButton* makeButton(const char* name, const QString& text, const QString& tip,
+[[nodiscard]] QPushButton* makeButton(const std::string& name, const QString& text, const QString& tip,
                                       std::function<void()> clicked);
 /// An option, a check box, named; `clicked` is called when the user chooses it, not when the form is filled.
 template <class Button>
-[[nodiscard]] Button* makeChoice(const char* name, const QString& text, const QString& tip,
+[[nodiscard]] Button* makeChoice(const std::string& name, const QString& text, const QString& tip,
                                  std::function<void()> clicked) {
     auto* button = new Button(text);
-    button->setObjectName(QString::fromUtf8(name));
+    button->setObjectName(QString::fromStdString(name));
     button->setToolTip(tip);
     QObject::connect(button, &QAbstractButton::clicked, button, [clicked = std::move(clicked)] { clicked(); });
     return button;
 }
 /// A list to choose from; `chosen` gets the index when the user chooses, not when the form is filled.
-[[nodiscard]] QComboBox* makeList(const char* name, const QString& tip, std::function<void(int)> chosen);
+[[nodiscard]] QComboBox* makeList(const std::string& name, const QString& tip, std::function<void(int)> chosen);
 
 /// A row of a list of properties; a row without a value is a heading.
 struct PropertyRow {
@@ -88,7 +88,7 @@ struct PropertyRow {
 };
 
 /// A list of properties in three columns: label, value, unit.
-[[nodiscard]] QTreeWidget* makePropertyList(const char* name);
+[[nodiscard]] QTreeWidget* makePropertyList(const std::string& name);
 void fillPropertyList(QTreeWidget* list, const std::vector<PropertyRow>& rows);
 
 }  // namespace borvik

@@ -1,12 +1,11 @@
 #include "forms/setup_dialog.h"
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
+#include "forms/combination_list.h"
 #include "forms/info_picture.h"
 #include "pictures/info_pictures.h"
-#include "project/load_combinations.h"
 
 namespace borvik {
 
@@ -24,7 +23,7 @@ SetupDialog::SetupDialog(Session& session, Messages& messages, std::function<voi
     content->setRowStretch(4, 1);
     setContent(content);
     binder_.accepted = [this] {
-        writeCombinations();
+        lstCombination_->write(project_, CombinationText::WithPermanentLoad);
         inputChanged();
     };
     WriteSetup();
@@ -32,7 +31,7 @@ SetupDialog::SetupDialog(Session& session, Messages& messages, std::function<voi
 
 void SetupDialog::WriteSetup() {
     binder_.show();
-    writeCombinations();
+    lstCombination_->write(project_, CombinationText::WithPermanentLoad);
 }
 
 NumberBox* SetupDialog::factor(const char* name, Single& field, double lowest, double highest, const char* message,
@@ -57,12 +56,7 @@ Group SetupDialog::loadFactors() {
     addRow(group.grid, tr("FLS   Bruk   Loadfactor ="),
            factor("igammaFf", project_.GammaFf, 0.5, 1.5, " 0.5 <= gammaFf <=1.5 ",
                   tr("γFf, partial factor of the fatigue load, EN 1993-1-9, 3")));
-    lstCombination_ = new QListWidget;
-    lstCombination_->setObjectName(QStringLiteral("lstCombination"));
-    lstCombination_->setToolTip(tr("The load combinations that follow from the factors"));
-    lstCombination_->setFocusPolicy(Qt::NoFocus);
-    const QFontMetrics metrics = lstCombination_->fontMetrics();
-    lstCombination_->setMinimumSize(metrics.averageCharWidth() * 66, metrics.lineSpacing() * 4);
+    lstCombination_ = new CombinationList;
     group.grid->addWidget(lstCombination_, 0, 3, group.grid->rowCount(), 1);
     group.grid->setColumnStretch(3, 1);
     return group;
@@ -150,13 +144,6 @@ Group SetupDialog::partialFactors() {
                                      }),
                           group.grid->rowCount() - 1, 2);
     return group;
-}
-
-void SetupDialog::writeCombinations() {
-    const LoadCombinations texts = CombinationTexts(project_, CombinationText::WithPermanentLoad);
-    lstCombination_->clear();
-    for (const std::string& text : {texts.TextULS, texts.TextSLS, texts.TextFLS})
-        lstCombination_->addItem(QString::fromStdString(text));
 }
 
 }  // namespace borvik

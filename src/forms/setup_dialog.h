@@ -2,9 +2,9 @@
 
 #include "forms/input_dialog.h"
 
-class QListWidget;
-
 namespace borvik {
+
+class CombinationList;
 
 /// frmSetup: load factors, partial factors, buckling parameters and deflection limits, and the load combinations that
 /// follow from them.
@@ -23,9 +23,8 @@ private:
     Group partialFactors();
     NumberBox* factor(const char* name, Single& field, double lowest, double highest, const char* message,
                       const QString& meaning);
-    void writeCombinations();
 
-    QListWidget* lstCombination_;
+    CombinationList* lstCombination_;
 };
 
 }  // namespace borvik
