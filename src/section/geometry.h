@@ -55,9 +55,8 @@ struct PlasticProperties {
 };
 
 /// Of the three plates of a welded I: the axis of equal areas, but for an axis in a top flange that is thicker or
-/// thinner than the bottom one, where it stands tf1 - tf2 too low. With equal flanges the
-/// halves of the web count with centres (h - tf)/2 apart in place of hw/2: Wply is a little more than the exact
-/// modulus.
+/// thinner than the bottom one, where it stands tf1 - tf2 too low. With equal flanges the halves of the web count with
+/// centres (h - tf)/2 apart in place of hw/2: Wply is a little more than the exact modulus.
 [[nodiscard]] PlasticProperties PlasticAxis(const SectionRecord& section);
 
 /// Of any strips: the axis is the first height, in steps of 0.1 mm from 2 mm, with half of the area or more below it.

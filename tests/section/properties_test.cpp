@@ -306,6 +306,8 @@ TEST(UpdateSections, givesTheSameTwiceAndLeavesNothingOfFormerPlates) {
     EXPECT_EQ(bare.Iy, once(1).Iy);
     EXPECT_EQ(bare.WplZTop, once(1).WplZTop);
     EXPECT_EQ(bare.MyRdPos, once(1).MyRdPos);
+    EXPECT_EQ(bare.ZjPos, 0.0);
+    EXPECT_EQ(bare.ZjNeg, 0.0);
 }
 
 TEST(UpdateSections, aFaultNamesTheSpan) {

@@ -268,6 +268,22 @@ TEST(EffectiveSection, losesTheHoleOfTheWebOnly) {
     EXPECT_NEAR(s.WeffBottomNeg, s.WeffTopPos, 1e-6 * s.WeffTopPos);
 }
 
+// The axis lies in the heavy bottom flange, so that positive moment compresses the whole web and psi > 0.
+TEST(EffectiveSection, takesAWhollyCompressedWeb) {
+    // Iu 500x150x900x3x8x60: A = 1200 + 1296 + 54000 = 56496; R = 1.2, web 429.6, edges at 61.2 and 490.8.
+    const SectionRecord s = completed(welded("Iu", 500, 150, 900, 3, 8, 60));
+    ASSERT_EQ(s.ClassWebPos, 4);
+    ASSERT_LE(s.ClassTopFlange, 2);
+    const double z1 = (1200.0 * 496.0 + 1296.0 * 276.0 + 54000.0 * 30.0) / 56496.0;  // 45.541
+    const double wc = 490.8 - z1;
+    const double psi = (61.2 - z1) / wc;
+    const double lp = (429.6 / 3.0) / (28.4 * std::sqrt(8.2 / (1.05 + psi)));
+    const double rho = (lp - 0.055 * (3.0 + psi)) / (lp * lp);
+    const double hole = (1.0 - rho) * wc;
+    const double middle = z1 + 0.6 * rho * wc + hole / 2.0;
+    EXPECT_NEAR(s.EzEffPos, (56496.0 * z1 - 3.0 * hole * middle) / (56496.0 - 3.0 * hole), 1e-5);
+}
+
 TEST(EffectiveSection, isWorkedOutForBothSignsAsSoonAsOneIsClass4) {
     // Bottom outstand 300/2 - 6 - 7.5 = 136.5 over 8 mm is class 4, everything else is stout.
     const SectionRecord s = completed(welded("Iu", 500, 200, 300, 15, 25, 8));
