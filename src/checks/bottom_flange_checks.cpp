@@ -35,7 +35,8 @@ double flangeResistance(const Project& project, const SectionRecord& section, do
 }
 
 /// Coefficients of the local stresses at the web (1), under the wheel (2), at the flange tip (3), parallel flanges:
-/// EN 1993-6 Table 5.2.
+/// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu. That is
+/// meant.
 struct LocalCoefficients {
     double cx[3], cy[3];
 };
@@ -64,7 +65,7 @@ double smallestSpacing(const Project& project) {
 double vonMisesStress(const Project& project, const SectionRecord& section, double F, double s, double My, double Mz) {
     const double b2 = section.b2, tw = section.tw, tf2 = section.tf2;
     const LocalCoefficients c = localCoefficients(2 * project.Inn / (b2 - tw));
-    const double together = 1.5 * b2 > s ? 2 : 1;  // 5.8(4): close wheels add up
+    const double together = 1.5 * b2 > s ? 2 : 1;  // EN 1993-6 5.8: close wheels add up
 
     const double g = project.PsiV1 * project.LfULS;
     const double sb = My / g / section.Iy * (section.EzEl - tf2 / 2);

@@ -10,9 +10,9 @@ namespace borvik {
 
 namespace {
 
-constexpr double kE = 210000;  // N/mm2
-constexpr double kEtoG = 2.6;  // E/G
-constexpr double kPi = Single(3.1415927);
+constexpr double kE = 210000;              // N/mm2
+constexpr double kEtoG = 2.6;              // E/G
+constexpr double kPi = Single(3.1415927);  // a stored number: its width is part of Mcr
 
 /// Factors of the critical moment.
 struct CFactors {

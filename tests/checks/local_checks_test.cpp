@@ -184,13 +184,15 @@ TEST(VonMises, stressByHand) {
         EXPECT_EQ(m.checks.VonMisesSpan(1)(1), "IR = SigvM/fyk = ");
         EXPECT_EQ(m.checks.VonMisesGov(4), " <  1.00 (Ch 5.8/7.5/EN 1993-6)");
     }
-    // The tip of the flange takes Mz with the whole width: with Mz alone point 3 governs, 0.1 x 200.
+    // The tip of the flange takes Mz with the whole width: 1 x 200 + 75 x (2.91 e^-1.2 - 1.1534 x 0.2) = 200 + 75 x
+    // 0.645795.
     Monorail m;
-    m.project.V = {};
-    m.uls.MyMaxSpan(1, 3) = 1.485e6;
+    m.project.Inn = 19;
+    m.project.Avst(1) = 1000;
+    m.uls.MyMaxSpan(1, 3) = 1.485e7;
     VonMisesCheck(m.project, m.uls, m.checks);
-    EXPECT_EQ(m.checks.VonMisesSpan(1)(2), "20.0/250.0 = ");
-    EXPECT_EQ(m.checks.VonMisesSpan(1)(3), "0.080");
+    EXPECT_EQ(m.checks.VonMisesSpan(1)(2), "248.4/250.0 = ");
+    EXPECT_EQ(m.checks.VonMisesSpan(1)(3), "0.994");
 }
 
 TEST(LocalGoverning, onlyTheLastTwoSpansCount) {
