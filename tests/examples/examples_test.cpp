@@ -1,0 +1,83 @@
+// The projects in examples/: a newcomer opens them first, so each must load, calculate and look like sound design.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+#include "calculation/calculation.h"
+#include "project/project_file.h"
+#include "results/ratios.h"
+
+namespace borvik {
+namespace {
+
+const std::filesystem::path kExamples = BORVIK_SOURCE_DIR "/examples";
+
+struct CalculatedExample {
+    explicit CalculatedExample(const std::string& file) : session(LoadTables(BORVIK_SOURCE_DIR "/data")) {
+        LoadProject((kExamples / file).string(), session.project);
+        FollowProject(session.tables, session.project, session.context);
+        loaded = session.project;
+        Progress progress;
+        Calculate(session, messages, progress);
+    }
+    Session session;
+    Project loaded;
+    MessageList messages;
+};
+
+std::vector<std::string> exampleFiles() {
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(kExamples))
+        if (entry.path().extension() == ".brvk") files.push_back(entry.path().filename().string());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+double largestFatigueRatio(const FatigueResults& fatigue) {
+    double largest = 0;
+    for (const auto& result : fatigue.FatResult)
+        if (result) largest = std::max(largest, result->Ratio);
+    return largest;
+}
+
+class Examples : public testing::TestWithParam<std::string> {};
+
+TEST_P(Examples, calculateAsSavedAndHold) {
+    const CalculatedExample example(GetParam());
+    ASSERT_TRUE(example.session.Calculated) << testing::PrintToString(example.messages.texts);
+    EXPECT_TRUE(example.messages.texts.empty()) << testing::PrintToString(example.messages.texts);
+    EXPECT_FALSE(example.loaded.Proj.empty());
+    EXPECT_FALSE(example.loaded.Ident.empty());
+    EXPECT_LE(LargestRatio(*example.session.results), 1.0);
+    EXPECT_GE(LargestRatio(*example.session.results), 0.49);
+    // They were saved after a run, so another run changes nothing in them: no splice is dropped, no section moves.
+    EXPECT_TRUE(example.session.project == example.loaded);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Examples, testing::ValuesIn(exampleFiles()), [](const auto& test) {
+    std::string name = test.param.substr(0, test.param.rfind('.'));
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+});
+
+TEST(ExampleSet, showsEveryKindOfProject) {
+    std::set<std::string> kinds;
+    for (const std::string& file : exampleFiles()) {
+        const CalculatedExample example(file);
+        const Project& p = example.session.project;
+        const Results& results = *example.session.results;
+        if (p.NofCranes == 1 && p.CraneType == 1 && p.NofSpans == 1) kinds.insert("single span");
+        if (p.NofCranes == 2 && p.TwoCraneMode == 1) kinds.insert("independent cranes");
+        if (p.NofCranes == 2 && p.MinDistConst == 1.0) kinds.insert("constant distance");
+        if (p.CraneType == 2) kinds.insert("monorail");
+        if (p.SpanSection(1).Id == "Iu" && p.SpanSection(1).Reinforced) kinds.insert("reinforced plate girder");
+        if (largestFatigueRatio(results.Fatigue) == LargestRatio(results)) kinds.insert("governed by fatigue");
+    }
+    EXPECT_EQ(kinds.size(), 6u) << testing::PrintToString(kinds);
+}
+
+}  // namespace
+}  // namespace borvik
