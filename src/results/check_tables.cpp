@@ -1,0 +1,217 @@
+#include <algorithm>
+#include <array>
+
+#include "results/fatigue_details.h"
+#include "results/table_cells.h"
+#include "results/tables.h"
+
+namespace borvik {
+namespace {
+
+/// Formula, numbers, ratio, limit and reference: what every check row shows.
+template <int Rows>
+std::vector<TableCell> checkRow(std::string place, const RowSet<Rows>& set) {
+    return {textCell(std::move(place)), textCell(set(1)), textCell(set(2)), ratioCell(set), textCell(set(4))};
+}
+
+/// Adds where the cranes stood: rows 5, 6 for wheel 1 and, with two cranes, 7, 8 for wheel 5.
+void addCranes(std::vector<TableCell>& row, const RowSet<8>& set, bool twoCranes) {
+    row.push_back(textCell(set(5) + "/" + set(6)));
+    if (twoCranes) row.push_back(textCell(set(7) + "/" + set(8)));
+}
+
+class StaticRows {
+public:
+    StaticRows(ResultTable& table, const Project& project) : table_(table), twoCranes_(project.NofCranes == 2) {}
+
+    void section(const Array<RowSet<8>>& sets, int span, double position) {
+        auto row = checkRow(std::to_string(span) + "/" + formatNumber(position, "0"), sets(span));
+        addCranes(row, sets(span), twoCranes_);
+        table_.rows.push_back(std::move(row));
+    }
+    void wholeSpan(const Array<RowSet<8>>& sets, int span) {
+        auto row = checkRow(std::to_string(span), sets(span));
+        addCranes(row, sets(span), twoCranes_);
+        table_.rows.push_back(std::move(row));
+    }
+    void local(const Array<RowSet<4>>& sets, int span) {
+        if (sets.has(span)) table_.rows.push_back(checkRow(std::to_string(span), sets(span)));
+    }
+    void deflection(const Array<RowSet<5>>& sets, int span) {
+        auto row = checkRow(std::to_string(span), sets(span));
+        row.push_back(textCell(sets(span)(5)));
+        table_.rows.push_back(std::move(row));
+    }
+
+private:
+    ResultTable& table_;
+    bool twoCranes_;
+};
+
+const std::vector<TableColumn>& checkColumns() {
+    static const std::vector<TableColumn> columns{{"Bar/Point", "", "Span / distance from its left support in mm"},
+                                                  {"Interaction Ratio", "", "Formula"},
+                                                  {"Equation", "", "The formula with its numbers"},
+                                                  {"Ratio ", "", "Over 1.000: the check fails"},
+                                                  {"Reference ", "", "Limit, place and clause"}};
+    return columns;
+}
+
+const char* groupHeading(FatigueDetail::Place place) {
+    switch (place) {
+        case FatigueDetail::Place::Span:
+            return "Span: ";
+        case FatigueDetail::Place::Support:
+            return "Support:";
+        case FatigueDetail::Place::Splice:
+            return "Splice:";
+    }
+    return "";
+}
+
+/// The rows of one detail of an overhead crane live in its own entry but for detail 4, which shares that of detail 6.
+const Array<RowSet<4>>* rowsOf(const FatigueDetail& detail, const Project& project, const FatigueResults& fatigue) {
+    int entry = detail.number;
+    if (detail.flag == &Project::Fat4) {
+        if (project.Fat6) return nullptr;
+        entry = 6;
+    }
+    return fatigue.FatRows(entry) ? &*fatigue.FatRows(entry) : nullptr;
+}
+
+ResultTable fatigueTable(const Project& project, const Results& results, std::span<const FatigueDetail> details) {
+    ResultTable table;
+    table.columns = checkColumns();
+    table.note = "A ratio over 1.000 is not acceptable";
+    for (const FatigueDetail& detail : details) {
+        const auto& governing = results.Fatigue.FatResult(detail.number);
+        if (!(project.*detail.flag) || !governing) continue;
+        table.rows.push_back(
+            {textCell(groupHeading(detail.place), Emphasis::Heading), textCell(detail.name, Emphasis::Heading)});
+        const Array<RowSet<4>>* rows = rowsOf(detail, project, results.Fatigue);
+        if (rows == nullptr) {  // only the governing row of detail 4 is left where detail 6 took its place
+            table.rows.push_back(checkRow("", *governing));
+            continue;
+        }
+        for (int row = rows->first(); row <= rows->last(); ++row)
+            if (!(*rows)(row)(3).empty()) table.rows.push_back(checkRow(std::to_string(row), (*rows)(row)));
+    }
+    return table;
+}
+
+/// A line of a summary, taken from a row set of any length.
+struct SummaryLine {
+    std::string control;
+    TableCell ratio;
+    std::string reference;
+};
+
+template <int Rows>
+SummaryLine summaryLine(const RowSet<Rows>& set) {
+    return {set(1) + set(2), ratioCell(set), set(4)};
+}
+
+void addHeading(ResultTable& table, const char* text) {
+    table.rows.push_back({textCell(text, Emphasis::Heading)});
+}
+
+void addLine(ResultTable& table, const SummaryLine& line) {
+    table.rows.push_back({textCell(line.control), line.ratio, textCell(line.reference)});
+}
+
+std::vector<SummaryLine> ulsLines(const Project& project, const CheckResults& checks) {
+    std::vector<SummaryLine> lines{summaryLine(checks.ShearGov), summaryLine(checks.BendGov),
+                                   summaryLine(checks.LtbGov), summaryLine(checks.LocalGov)};
+    if (project.CraneType == 2) lines.push_back(summaryLine(checks.VonMisesGov));
+    return lines;
+}
+
+ResultTable summaryTable(const std::vector<SummaryLine>& uls) {
+    ResultTable table;
+    table.columns = {{"Control", "", "Formula with its numbers"},
+                     {"Interaction Ratio", "", "Over 1.000: the check fails"},
+                     {"Reference ", "", "Limit, place and clause"}};
+    table.note = "A ratio over 1.000 is not acceptable";
+    addHeading(table, "ULS - Section Control/Lateral Torsional Buckling");
+    for (const SummaryLine& line : uls) addLine(table, line);
+    return table;
+}
+
+void addDeflections(ResultTable& table, const Project& project, const CheckResults& checks) {
+    addHeading(table, "SLS - Deflection Control");
+    addLine(table, summaryLine(checks.DefZGov));
+    if (project.HasLoadsY) addLine(table, summaryLine(checks.DefYGov));
+}
+
+void addFatigue(ResultTable& table, const Project& project, const FatigueResults& fatigue, const char* heading) {
+    addHeading(table, heading);
+    for (const FatigueDetail& detail : fatigueDetails(project))
+        if (const auto& governing = fatigue.FatResult(detail.number); project.*detail.flag && governing)
+            addLine(table, summaryLine(*governing));
+}
+
+}  // namespace
+
+ResultTable TableCodeStatic(const Project& project, const Results& results) {
+    const CheckResults& checks = results.Checks;
+    const UlsResults& uls = results.Uls;
+    constexpr int kPlaceSlot = 9;  // x of the governing point in the span records
+
+    ResultTable table;
+    table.columns = checkColumns();
+    table.columns.push_back({"Crane 1", "", "Span of wheel 1 / its distance from the left support in mm"});
+    table.columns.push_back({"Crane 2", "", "Span of wheel 5 / its distance from the left support in mm"});
+    table.note = "A ratio over 1.000 is not acceptable";
+    StaticRows rows(table, project);
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        rows.section(checks.ShearMax, span, uls.VzMaxSpan(span, kPlaceSlot));
+        rows.section(checks.ShearMin, span, uls.VzMinSpan(span, kPlaceSlot));
+        rows.section(checks.BendMax, span, uls.MyMaxSpan(span, kPlaceSlot));
+        rows.section(checks.BendMin, span, uls.MyMinSpan(span, kPlaceSlot));
+        rows.wholeSpan(checks.LtbPos, span);
+        rows.wholeSpan(checks.LtbNeg, span);
+        rows.local(checks.LocalSpan, span);
+        if (project.CraneType == 2) rows.local(checks.VonMisesSpan, span);
+        rows.deflection(checks.DefZSpan, span);
+        if (project.HasLoadsY) rows.deflection(checks.DefYSpan, span);
+    }
+    table.rows.push_back({textCell("Note:", Emphasis::Note),
+                          textCell("Crane Position: Span/Distance from left wheel to left support", Emphasis::Note)});
+    return table;
+}
+
+ResultTable TableCodeFatigue(const Project& project, const Results& results) {
+    return fatigueTable(project, results, kOverheadDetails);
+}
+
+ResultTable TableCodeFatigueR(const Project& project, const Results& results) {
+    return fatigueTable(project, results, kMonorailDetails);
+}
+
+ResultTable ShowSummaryULS(const Project& project, const Results& results) {
+    return summaryTable(ulsLines(project, results.Checks));
+}
+
+ResultTable ShowSummaryULSSLS(const Project& project, const Results& results) {
+    ResultTable table = ShowSummaryULS(project, results);
+    addDeflections(table, project, results.Checks);
+    return table;
+}
+
+ResultTable ShowSummaryAll(const Project& project, const Results& results) {
+    ResultTable table = ShowSummaryULSSLS(project, results);
+    addFatigue(table, project, results.Fatigue, "FLS - Fatigue  Control");
+    return table;
+}
+
+ResultTable ShowSummary(const Project& project, const Results& results) {
+    std::vector<SummaryLine> uls = ulsLines(project, results.Checks);
+    std::stable_sort(uls.begin(), uls.end(),
+                     [](const SummaryLine& a, const SummaryLine& b) { return ranksAbove(a.ratio.text, b.ratio.text); });
+    ResultTable table = summaryTable(uls);
+    addDeflections(table, project, results.Checks);
+    addFatigue(table, project, results.Fatigue, "FLS - Fatigue Control");
+    return table;
+}
+
+}  // namespace borvik

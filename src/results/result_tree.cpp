@@ -1,0 +1,77 @@
+#include "results/result_tree.h"
+
+namespace borvik {
+namespace {
+
+TreeNode head(const char* key, const char* text, std::vector<TreeNode> children = {}) {
+    return {key, text, NodeOpens::Nothing, "", false, std::move(children)};
+}
+
+TreeNode form(const char* key, const char* text) {
+    return {key, text, NodeOpens::InputForm, text, false, {}};
+}
+
+TreeNode table(const char* key, const char* text, const char* name, bool needsLoadsY = false) {
+    return {key, text, NodeOpens::Table, name, needsLoadsY, {}};
+}
+
+TreeNode picture(const char* key, const char* text, bool needsLoadsY = false) {
+    return {key, text, NodeOpens::Picture, key, needsLoadsY, {}};
+}
+
+TreeNode flsDiagrams(const Project& project) {
+    TreeNode fls =
+        head("FLS", "FLS",
+             {picture("Cr1Sp1", "Cr1-Point 1"), picture("Cr1Sp2", "Cr1-Point 2"), picture("Cr1Sp3", "Cr1-Point 3")});
+    if (project.NofCranes == 2) {
+        fls.children.push_back(picture("Cr2Sp1", "Cr2-Point 1"));
+        fls.children.push_back(picture("Cr2Sp2", "Cr2-Point 2"));
+        fls.children.push_back(picture("Cr2Sp3", "Cr2-Point 3"));
+    }
+    return fls;
+}
+
+}  // namespace
+
+TreeNode mainTree(const Project& project, bool withResults) {
+    TreeNode root =
+        head("root", "Borvik",
+             {head("Input", "Input",
+                   {form("Setup", "Setup"), form("Beam", "Beam"), form("Profile", "Profile"), form("Rail", "Rail"),
+                    form("LatTors", "Lateral Tors Buckl"), form("Load", "Loads"), form("Fatigue", "Fatigue")})});
+    if (!withResults) return root;
+    root.children.push_back(
+        head("Result", "Results",
+             {table("Uls", "ULS", "SummaryULS"), table("UlsSLs", "ULS + SLS", "SummaryULSSLS"),
+              table("UlsSlsFls", "ULS + SLS + FLS", "SummaryAll"), table("Sum", "Summary", "Summary")}));
+    root.children.push_back(
+        head("Diagram", "Diagram",
+             {head("ULS/SLS", "ULS/SLS",
+                   {picture("MyVz", "My + Vz"), picture("MzVy", "Mz + Vy", true), picture("Uz", "Uz + Uy")}),
+              flsDiagrams(project), picture("CrRz", "Reactions")}));
+    root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
+    return root;
+}
+
+TreeNode detailedTree(const Project& project) {
+    TreeNode fls = head("FLS", "FLS", {table("FLS1", "FLS - Crane 1", "Stress1")});
+    if (project.NofCranes == 2) fls.children.push_back(table("FLS2", "FLS - Crane 2", "Stress2"));
+    return head("root", "Borvik",
+                {head("ULS", "ULS",
+                      {head("Moment", "Moment",
+                            {table("MyVz", "MyVz max/min", "MyVz"), table("MzVy", "MzVy max/min", "MzVy", true)}),
+                       table("Reactions", "Reactions", "Reactions")}),
+                 head("SLS", "SLS", {table("Deflection", "Uz/Uy", "Deflection")}),
+                 head("CodeCheck", "Codecheck",
+                      {table("Stat", "Static", "CodeStatic"), table("Fat", "Fatigue", "CodeFatigue")}),
+                 fls});
+}
+
+const TreeNode* findNode(const TreeNode& root, std::string_view text) {
+    if (root.text == text) return &root;
+    for (const TreeNode& child : root.children)
+        if (const TreeNode* found = findNode(child, text)) return found;
+    return nullptr;
+}
+
+}  // namespace borvik
