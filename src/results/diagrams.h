@@ -43,15 +43,18 @@ struct DiagramData {
 };
 
 /// Draws one diagram. It is 1000 units wide, the beam from X0 + 50 to X0 + 950; the largest value takes 40 units. On
-/// paper a frame stands around it, from (X0 - 5, Y0 - 10) to X0 + 1010 and down to Y0 - 10 + diagramHeight. On the
-/// screen it covers Y0 to Y0 + diagramHeight. The logical frame of the surface must have been set; DrawPicture does so.
-/// The drawing is meant for white paper, on the screen too. A diagram without results is empty but for its title and
-/// the beam.
+/// paper a frame stands around it, from (X0 - 5, Y0 - 10) to X0 + 1010 and as deep as diagramArea says. The logical
+/// frame of the surface must have been set; DrawPicture does so. The drawing is meant for white paper, on the screen
+/// too. A diagram without results is empty but for its title and the beam.
 void DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0, double Y0,
                  DiagramMode mode);
 
-/// Height of a diagram in logical units: 200 on the screen; on paper 98, or more where two diagrams stand above each
-/// other.
+/// What a diagram covers from top to bottom, in units below Y0.
+struct DiagramArea {
+    double top, bottom;
+};
+[[nodiscard]] DiagramArea diagramArea(Diagram diagram, DiagramMode mode);
+/// Height of that area: on paper 98, or more where two diagrams stand above each other.
 [[nodiscard]] double diagramHeight(Diagram diagram, DiagramMode mode);
 
 /// The title as drawn: "SLS - Uz (mm)".

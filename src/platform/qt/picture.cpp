@@ -1,0 +1,61 @@
+#include "platform/qt/picture.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <algorithm>
+
+#include "platform/qt/qt_surface.h"
+
+namespace borvik {
+namespace {
+
+constexpr int kDotsPerInch = 96;
+
+/// Text of a large picture grows with it, so that it stays readable when the picture is shown smaller.
+double textScale(QSize pixels) {
+    return std::max(1.0, pixels.width() / 1000.0);
+}
+
+QByteArray asSvg(const PictureDrawing& drawing, QSize pixels, const QString& title) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(kDotsPerInch);
+    generator.setSize(pixels);
+    generator.setViewBox(QRect(QPoint(), pixels));
+    generator.setTitle(title);
+    QPainter painter(&generator);
+    QtSurface surface(painter, QRectF(QPointF(), QSizeF(pixels)), textScale(pixels));
+    drawing(surface);
+    painter.end();
+    return bytes;
+}
+
+}  // namespace
+
+QImage renderPicture(const PictureDrawing& drawing, QSize pixels) {
+    QImage image(pixels, QImage::Format_RGB32);
+    image.setDotsPerMeterX(qRound(kDotsPerInch / 0.0254));
+    image.setDotsPerMeterY(qRound(kDotsPerInch / 0.0254));
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QtSurface surface(painter, QRectF(QPointF(), QSizeF(pixels)), textScale(pixels));
+    drawing(surface);
+    return image;
+}
+
+QString savePicture(const QString& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title) {
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    const bool svg = fileName.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+    const bool written =
+        svg ? file.write(asSvg(drawing, pixels, title)) >= 0 : renderPicture(drawing, pixels).save(&file, "PNG");
+    if (!written || !file.commit())
+        return file.errorString().isEmpty() ? QStringLiteral("The picture cannot be written") : file.errorString();
+    return {};
+}
+
+}  // namespace borvik

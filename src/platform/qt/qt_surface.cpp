@@ -1,0 +1,158 @@
+#include "platform/qt/qt_surface.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPolygonF>
+
+namespace borvik {
+namespace {
+
+QColor toQt(Colour colour) {
+    return {colour.red, colour.green, colour.blue};
+}
+
+/// The font asked for, or an installed sans serif one of the same width.
+QFont toQt(const Font& font, double scale) {
+    const QString name = QString::fromUtf8(font.name.data(), static_cast<qsizetype>(font.name.size()));
+    const bool narrow = name.endsWith(QLatin1String(" Narrow"));
+    const QStringList candidates =
+        narrow ? QStringList{name, QStringLiteral("Liberation Sans Narrow"), QStringLiteral("DejaVu Sans Condensed"),
+                             QStringLiteral("Noto Sans Condensed")}
+               : QStringList{name, QStringLiteral("Liberation Sans"), QStringLiteral("Helvetica"),
+                             QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans")};
+    QFont made;
+    made.setStyleHint(QFont::SansSerif);
+    bool found = false;
+    for (const QString& candidate : candidates)
+        if (QFontDatabase::hasFamily(candidate)) {
+            made.setFamily(candidate);
+            found = true;
+            break;
+        }
+    if (narrow && !found) made.setStretch(QFont::SemiCondensed);
+    made.setPointSizeF(font.points * scale);
+    made.setBold(font.bold);
+    made.setUnderline(font.underline);
+    made.setHintingPreference(QFont::PreferNoHinting);  // extents must not jump with the size
+    return made;
+}
+
+QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+QtSurface::QtSurface(QPainter& painter, const QRectF& area, double textScale)
+    : painter_(painter), area_(area), textScale_(textScale) {
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter_.setBrush(Qt::NoBrush);
+    applyPen();
+    setFont({});
+}
+
+QPointF QtSurface::toArea(Place place) const {
+    return {area_.left() + (place.x - frame_.left()) / frame_.width() * area_.width(),
+            area_.top() + (place.y - frame_.top()) / frame_.height() * area_.height()};
+}
+
+Place QtSurface::toLogical(QPointF place) const {
+    return {frame_.left() + (place.x() - area_.left()) / area_.width() * frame_.width(),
+            frame_.top() + (place.y() - area_.top()) / area_.height() * frame_.height()};
+}
+
+void QtSurface::applyPen() {
+    pen_.setCapStyle(Qt::FlatCap);
+    pen_.setJoinStyle(Qt::RoundJoin);
+    painter_.setPen(pen_);
+}
+
+void QtSurface::scale(double left, double top, double right, double bottom) {
+    frame_ = QRectF(QPointF(left, top), QPointF(right, bottom));
+}
+
+void QtSurface::line(Place from, Place to) {
+    painter_.drawLine(toArea(from), toArea(to));
+}
+
+void QtSurface::polyline(std::span<const Place> places) {
+    QPolygonF polygon;
+    for (const Place place : places) polygon << toArea(place);
+    painter_.drawPolyline(polygon);
+}
+
+void QtSurface::polygon(std::span<const Place> places, Colour fill) {
+    QPolygonF polygon;
+    for (const Place place : places) polygon << toArea(place);
+    painter_.save();
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(toQt(fill));
+    painter_.drawPolygon(polygon, Qt::WindingFill);
+    painter_.restore();
+}
+
+void QtSurface::rectangle(Place corner, Place opposite) {
+    painter_.drawRect(QRectF(toArea(corner), toArea(opposite)).normalized());
+}
+
+void QtSurface::circle(Place centre, double radius) {
+    const double onArea = radius / frame_.height() * area_.height();
+    painter_.drawEllipse(toArea(centre), onArea, onArea);
+}
+
+void QtSurface::text(Place corner, std::string_view text, TextDirection direction) {
+    const QFontMetricsF metrics(painter_.font(), painter_.device());
+    const QPointF at = toArea(corner);
+    if (direction == TextDirection::Across) {
+        painter_.drawText(QPointF(at.x(), at.y() + metrics.ascent()), toQt(text));
+        return;
+    }
+    painter_.save();
+    painter_.translate(at.x(), at.y() + metrics.horizontalAdvance(toQt(text)));
+    painter_.rotate(-90.0);
+    painter_.drawText(QPointF(0.0, metrics.ascent()), toQt(text));
+    painter_.restore();
+}
+
+Extent QtSurface::extent(std::string_view text, TextDirection direction) const {
+    const QFontMetricsF metrics(painter_.font(), painter_.device());
+    const double wide = metrics.horizontalAdvance(toQt(text));
+    const double high = metrics.height();
+    const double unitsX = frame_.width() / area_.width();
+    const double unitsY = frame_.height() / area_.height();
+    if (direction == TextDirection::Across) return {wide * unitsX, high * unitsY};
+    return {high * unitsX, wide * unitsY};
+}
+
+void QtSurface::setFont(const Font& font) {
+    painter_.setFont(toQt(font, textScale_));
+}
+
+void QtSurface::setColour(Colour colour) {
+    pen_.setColor(toQt(colour));
+    applyPen();
+}
+
+void QtSurface::setFill(std::optional<Colour> fill) {
+    if (fill)
+        painter_.setBrush(toQt(*fill));
+    else
+        painter_.setBrush(Qt::NoBrush);
+}
+
+void QtSurface::setPenWidth(double width) {
+    pen_.setWidthF(width);
+    applyPen();
+}
+
+void QtSurface::setDashed(bool dashed) {
+    pen_.setStyle(dashed ? Qt::DashLine : Qt::SolidLine);
+    applyPen();
+}
+
+double QtSurface::unitsPerMillimetre() const {
+    return painter_.device()->logicalDpiX() / 25.4;
+}
+
+}  // namespace borvik

@@ -1,0 +1,150 @@
+#include "results/diagram_canvas.h"
+
+#include "results/diagram_series.h"
+
+namespace borvik {
+namespace {
+
+constexpr double kBeamStart = 50.0;
+constexpr double kBeamLength = 900.0;
+constexpr double kWidth = 1000.0;
+constexpr double kSupportMark = 6.0;
+
+// Pen widths on paper, mm.
+constexpr double kFramePen = 0.25;
+constexpr std::array<double, 3> kPaperPens{0.2, 0.35, 0.5};
+
+enum class Shape { Sketch, Forces, Deflection, Stress, Range, Reactions };
+
+Shape shapeOf(Diagram diagram) {
+    switch (diagram) {
+        case Diagram::Sketch:
+            return Shape::Sketch;
+        case Diagram::UlsMyVz:
+        case Diagram::UlsMzVy:
+            return Shape::Forces;
+        case Diagram::SlsUz:
+        case Diagram::SlsUy:
+            return Shape::Deflection;
+        case Diagram::FlsReactions:
+            return Shape::Reactions;
+        default:
+            return stressDiagram(diagram).range ? Shape::Range : Shape::Stress;
+    }
+}
+
+}  // namespace
+
+DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode) {
+    const bool screen = mode == DiagramMode::Screen;
+    switch (shapeOf(diagram)) {
+        case Shape::Sketch:
+            return screen ? DiagramLayout{{0.0, 160.0}, {90.0}} : DiagramLayout{{-10.0, 88.0}, {42.0}};
+        case Shape::Forces:
+            return screen ? DiagramLayout{{0.0, 268.0}, {76.0, 190.0}, 248.0}
+                          : DiagramLayout{{-10.0, 192.0}, {52.0, 136.0}, 177.0};
+        case Shape::Deflection:
+            return screen ? DiagramLayout{{80.0, 188.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {20.0}};
+        case Shape::Stress:
+            return screen ? DiagramLayout{{44.0, 180.0}, {120.0}} : DiagramLayout{{-10.0, 124.0}, {66.0}};
+        case Shape::Range:
+            return screen ? DiagramLayout{{40.0, 134.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {70.0}};
+        case Shape::Reactions:
+            return screen ? DiagramLayout{{80.0, 180.0}, {120.0}, 128.0} : DiagramLayout{{-10.0, 88.0}, {20.0}, 27.0};
+    }
+    return {};
+}
+
+DiagramCanvas::DiagramCanvas(DrawingSurface& target, Diagram diagram, const Project& of, double left, double top,
+                             DiagramMode how)
+    : surface(target),
+      project(of),
+      mode(how),
+      X0(left),
+      Y0(top),
+      layout(diagramLayout(diagram, how)),
+      labelFont{"Arial Narrow", how == DiagramMode::Screen ? 9.0 : 7.0},
+      labels({left, top + layout.area.top, left + kWidth, top + layout.area.bottom}),
+      diagram_(diagram),
+      penWidth_{1.0, 2.0, 3.0} {
+    if (mode == DiagramMode::Paper)
+        for (std::size_t i = 0; i < penWidth_.size(); ++i) penWidth_[i] = kPaperPens[i] * surface.unitsPerMillimetre();
+    starts_.push_back(0.0);
+    for (int span = 1; span <= project.NofSpans; ++span) starts_.push_back(total_ += project.Span(span));
+}
+
+double DiagramCanvas::x(int span, double position) const {
+    return X0 + kBeamStart + (starts_[static_cast<std::size_t>(span - 1)] + position) * unitsPerMm();
+}
+
+double DiagramCanvas::supportX(int support) const {
+    return X0 + kBeamStart + starts_[static_cast<std::size_t>(support - 1)] * unitsPerMm();
+}
+
+void DiagramCanvas::drawHead(const std::string& remark, bool withSigns) {
+    const double top = Y0 + layout.area.top;
+    surface.setFill(std::nullopt);
+    surface.setColour(colours::black);
+    if (mode == DiagramMode::Paper) {
+        surface.setPenWidth(kFramePen * surface.unitsPerMillimetre());
+        surface.rectangle({X0 - 5.0, top}, {X0 + 1010.0, Y0 + layout.area.bottom});
+    }
+    surface.setPenWidth(penWidth(1));
+
+    Font titleFont{"Arial", labelFont.points, false, true};
+    const std::string title = diagramTitle(diagram_, project);
+    surface.setFont(titleFont);
+    const Place corner{X0, top + 1.0};
+    const Extent size = surface.extent(title);
+    surface.text(corner, title);
+    labels.keepClear({corner.x, corner.y, corner.x + size.width, corner.y + size.height});
+
+    double right = X0 + kWidth;
+    if (withSigns) {
+        surface.setFont(labelFont);
+        const Box signs = drawSigns(surface, diagram_, {right, top + 1.0});
+        labels.keepClear(signs);
+        right = signs.left;
+    }
+    if (remark.empty()) return;
+    for (Font font = labelFont; font.points >= 5.0; font.points -= 0.5) {
+        surface.setFont(font);
+        const double left = corner.x + size.width + 1.5 * emOf(surface).x;
+        const Extent room = surface.extent(remark);
+        if (left + room.width > right && font.points > 5.0) continue;
+        surface.setColour(colours::grey);
+        surface.text({left, corner.y + size.height - room.height}, remark);
+        surface.setColour(colours::black);
+        labels.keepClear({left, corner.y, left + room.width, corner.y + size.height});
+        return;
+    }
+}
+
+void DiagramCanvas::drawLine(Place from, Place to, Colour colour, int pen) {
+    surface.setColour(colour);
+    surface.setPenWidth(penWidth(pen));
+    surface.line(from, to);
+    labels.avoid(from, to);
+}
+
+void DiagramCanvas::drawBeam(double y, Colour colour) {
+    drawLine({X0 + kBeamStart, y}, {X0 + kBeamStart + kBeamLength, y}, colour, 1);
+    for (int support = 1; support <= project.NofSpans + 1; ++support)
+        drawLine({supportX(support), y - kSupportMark}, {supportX(support), y + kSupportMark}, colours::black, 2);
+}
+
+void DiagramCanvas::drawCurve(double base, const std::function<double(int, int)>& at, Colour line, Colour tint) {
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        std::vector<Place> places{{x(span, 0.0), base}};
+        for (int k = 1; k <= kPoints; ++k)
+            places.push_back({x(span, project.Span(span) * (k - 1) / 20.0), at(span, k)});
+        places.push_back({x(span, project.Span(span)), base});
+        surface.polygon(places, tint);
+        surface.setColour(line);
+        surface.setPenWidth(penWidth(1));
+        surface.polyline(places);
+        for (std::size_t i = 1; i < places.size(); ++i) labels.avoid(places[i - 1], places[i]);
+    }
+}
+
+}  // namespace borvik

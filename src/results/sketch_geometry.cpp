@@ -1,0 +1,87 @@
+#include "results/sketch_geometry.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+
+namespace borvik {
+namespace {
+
+constexpr double kBeamStart = 50.0;
+constexpr double kBeamLength = 900.0;
+
+/// Wheels of a crane that are worth drawing: the first, and all up to the last that has a load or a distance to its
+/// neighbour.
+int wheelsOf(const Project& project, int firstWheel, int firstGap) {
+    int count = 1;
+    for (int i = 1; i <= 3; ++i)
+        if (project.V(firstWheel + i) != 0.0 || project.Avst(firstGap + i - 1) != 0.0) count = i + 1;
+    return count;
+}
+
+}  // namespace
+
+DistinctSections::DistinctSections(const Project& project) {
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const std::string name = project.SpanSection.has(span) ? project.SpanSection(span).DisplayName : "";
+        if (name.empty()) {
+            numbers_.push_back(0);
+            continue;
+        }
+        const auto place = std::find(names_.begin(), names_.end(), name);
+        numbers_.push_back(static_cast<int>(place - names_.begin()) + 1);
+        if (place == names_.end()) names_.push_back(name);
+    }
+}
+
+CraneGeometry craneGeometry(const Project& project) {
+    CraneGeometry cranes;
+    double total = 0.0;
+    for (int span = 1; span <= project.NofSpans; ++span) total += project.Span(span);
+    if (total <= 0.0) return cranes;
+    const double unitsPerMm = kBeamLength / total;
+    const bool two = project.NofCranes == 2;
+
+    const double crane1 = project.Avst(1) + project.Avst(2) + project.Avst(3);
+    const double crane2 = project.Avst(4) + project.Avst(5) + project.Avst(6);
+    const double train = two ? crane1 + project.MinAvst + crane2 : crane1;
+    const double first = kBeamStart + (project.Fixerad ? project.Position * unitsPerMm : 0.0);
+    const double last = first + train * unitsPerMm;
+    // A short train would be a heap of wheels: its distances are changed by a factor, and the title says so. The factor
+    // is taken from where the last wheel stands, not from the length of the train.
+    const double limit = two ? 350.0 : 100.0;
+    if ((two || project.Avst(1) != 0.0) && last - first < limit) cranes.factor = limit / last;
+
+    const double scale = unitsPerMm * cranes.factor;
+    double x = first;
+    for (int i = 1, count = wheelsOf(project, 1, 1); i <= count; ++i) {
+        cranes.wheels.push_back({i, x});
+        if (i < count) x += project.Avst(i) * scale;
+    }
+    if (!two) return cranes;
+    x = first + (crane1 + project.MinAvst) * scale;
+    for (int i = 1, count = wheelsOf(project, 5, 4); i <= count; ++i) {
+        cranes.wheels.push_back({4 + i, x});
+        if (i < count) x += project.Avst(3 + i) * scale;
+    }
+    return cranes;
+}
+
+std::vector<SplicePlace> splicePlaces(const Project& project) {
+    const bool monorail = project.CraneType == 2;
+    const auto& used = monorail ? project.ChkFatR5Sp : project.ChkFat5Sp;
+    const auto& spans = monorail ? project.FatR5Span : project.Fat5Span;
+    const auto& distances = monorail ? project.FatR5d1 : project.Fat5d1;
+    std::vector<SplicePlace> places;
+    if (!(monorail ? project.FatR5 : project.Fat5)) return places;
+    for (int splice = 1; splice <= 10; ++splice) {
+        const double number = spans(splice);
+        if (!used(splice) || !(number >= 1.0 && number <= project.NofSpans)) continue;
+        const int span = roundHalfEven(number);
+        if (distances(splice) >= 0.0 && distances(splice) <= project.Span(span))
+            places.push_back({span, distances(splice)});
+    }
+    return places;
+}
+
+}  // namespace borvik
