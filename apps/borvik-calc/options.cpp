@@ -4,7 +4,10 @@
 #include <map>
 
 #include "exit_codes.h"
+#include "pictures.h"
 #include "platform/version.h"
+#include "results/diagrams.h"
+#include "results/tables.h"
 
 namespace borvik {
 
@@ -14,6 +17,18 @@ constexpr const char* kFooter = R"(
 Messages go to standard error with the file's name in front.
 Exit: 0 done, 1 a ratio above X, 2 usage, 3 refused by the input checks, 4 run-time fault in the
 calculation, 5 a file can't be read or written. Of several projects the highest counts.)";
+
+std::string listOf(const std::vector<std::string>& names) {
+    std::string list;
+    for (const std::string& name : names) list += (list.empty() ? "" : ", ") + name;
+    return list;
+}
+
+std::string tableNames() {
+    std::vector<std::string> names;
+    for (const TableEntry& entry : tableEntries()) names.emplace_back(entry.name);
+    return listOf(names);
+}
 
 void addOptions(CLI::App& app, Options& options) {
     const std::map<std::string, WalkMethod> walks{{"plain", WalkMethod::Plain}, {"fast", WalkMethod::Fast}};
@@ -28,6 +43,21 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_option("--json", options.json,
                    "Write all results as JSON; \"-\" is standard output; with several projects a folder")
         ->type_name("FILE");
+    app.add_option("--table", options.table, "Print a result table, columns separated by tabs")
+        ->type_name("NAME")
+        ->check([](const std::string& name) {
+            return findTable(name) != nullptr ? std::string() : "unknown table: one of " + tableNames();
+        });
+    if (kHasPictures) {
+        CLI::Option* picture = app.add_option("--png", options.picture, "File of the diagram; .svg makes an SVG of it");
+        picture->type_name("FILE");
+        CLI::Option* diagram =
+            app.add_option("--diagram", options.diagram, "Draw a diagram of the results, or the sketch");
+        diagram->type_name("NAME")->needs(picture)->check([](const std::string& name) {
+            return isPictureName(name) ? std::string() : "unknown diagram: one of " + listOf(pictureNames());
+        });
+        picture->needs(diagram);
+    }
     app.add_option("--save", options.save, "Write the project as it stands after the run")->type_name("FILE.brvk");
     app.add_option("--fail-above", options.failAbove, "Exit 1 if any ratio is greater than X")
         ->type_name("X")
@@ -46,6 +76,8 @@ void checkTogether(const Options& options) {
     if (options.projects() == 0) throw CLI::RequiredError("A project file, or --default,");
     if (options.projects() > 1 && !options.save.empty())
         throw CLI::ValidationError("--save", "takes the project of a single file");
+    if (options.projects() > 1 && !options.picture.empty())
+        throw CLI::ValidationError("--png", "takes the diagram of a single project");
 }
 
 }  // namespace

@@ -6,10 +6,12 @@
 #include <fstream>
 #include <iostream>
 
+#include "pictures.h"
 #include "platform/version.h"
 #include "project/project_file.h"
 #include "results/json.h"
 #include "results/summary.h"
+#include "results/tables.h"
 
 namespace borvik {
 
@@ -47,6 +49,8 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
                 remarks.push_back("characters beyond Windows-1252 were saved as \"?\"");
         });
     if (!options_.json.empty()) attempt([&] { writeJson(run); });
+    if (!options_.table.empty()) attempt([&] { writeTable(run); });
+    if (!options_.diagram.empty()) attempt([&] { savePictureOf(run.session, options_.diagram, options_.picture); });
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
@@ -71,6 +75,13 @@ std::string Outputs::jsonFile(const FinishedRun& run) {
     std::string name = stem;
     for (int number = 2; !taken_.insert(name).second; ++number) name = stem + "-" + std::to_string(number);
     return (target / (name + ".json")).string();
+}
+
+/// Several projects make one text, each under its name.
+void Outputs::writeTable(const FinishedRun& run) {
+    if (!run.session.Calculated || !run.session.results) return;
+    std::string text = options_.projects() > 1 ? run.file.value_or("") + "\n" : "";
+    print(text + tabSeparated(findTable(options_.table)->fill(run.session.project, *run.session.results)));
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {

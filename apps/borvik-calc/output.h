@@ -36,6 +36,7 @@ public:
 private:
     void writeJson(const FinishedRun& run);
     std::string jsonFile(const FinishedRun& run);
+    void writeTable(const FinishedRun& run);
     void writeSummary(const FinishedRun& run);
 
     const Options& options_;

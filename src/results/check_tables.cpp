@@ -57,20 +57,21 @@ const std::vector<TableColumn>& checkColumns() {
     return columns;
 }
 
-const char* groupHeading(FatigueDetail::Place place) {
+const char* groupHeading(FatigueDetailTitle::Place place) {
     switch (place) {
-        case FatigueDetail::Place::Span:
+        case FatigueDetailTitle::Place::Span:
             return "Span: ";
-        case FatigueDetail::Place::Support:
+        case FatigueDetailTitle::Place::Support:
             return "Support:";
-        case FatigueDetail::Place::Splice:
+        case FatigueDetailTitle::Place::Splice:
             return "Splice:";
     }
     return "";
 }
 
 /// The rows of one detail of an overhead crane live in its own entry but for detail 4, which shares that of detail 6.
-const Array<RowSet<4>>* rowsOf(const FatigueDetail& detail, const Project& project, const FatigueResults& fatigue) {
+const Array<RowSet<4>>* rowsOf(const FatigueDetailTitle& detail, const Project& project,
+                               const FatigueResults& fatigue) {
     int entry = detail.number;
     if (detail.flag == &Project::Fat4) {
         if (project.Fat6) return nullptr;
@@ -79,11 +80,11 @@ const Array<RowSet<4>>* rowsOf(const FatigueDetail& detail, const Project& proje
     return fatigue.FatRows(entry) ? &*fatigue.FatRows(entry) : nullptr;
 }
 
-ResultTable fatigueTable(const Project& project, const Results& results, std::span<const FatigueDetail> details) {
+ResultTable fatigueTable(const Project& project, const Results& results, std::span<const FatigueDetailTitle> details) {
     ResultTable table;
     table.columns = checkColumns();
     table.note = "A ratio over 1.000 is not acceptable";
-    for (const FatigueDetail& detail : details) {
+    for (const FatigueDetailTitle& detail : details) {
         const auto& governing = results.Fatigue.FatResult(detail.number);
         if (!(project.*detail.flag) || !governing) continue;
         table.rows.push_back(
@@ -145,7 +146,7 @@ void addDeflections(ResultTable& table, const Project& project, const CheckResul
 
 void addFatigue(ResultTable& table, const Project& project, const FatigueResults& fatigue, const char* heading) {
     addHeading(table, heading);
-    for (const FatigueDetail& detail : fatigueDetails(project))
+    for (const FatigueDetailTitle& detail : fatigueDetails(project))
         if (const auto& governing = fatigue.FatResult(detail.number); project.*detail.flag && governing)
             addLine(table, summaryLine(*governing));
 }
@@ -181,11 +182,11 @@ ResultTable TableCodeStatic(const Project& project, const Results& results) {
 }
 
 ResultTable TableCodeFatigue(const Project& project, const Results& results) {
-    return fatigueTable(project, results, kOverheadDetails);
+    return fatigueTable(project, results, kOverheadDetailTitles);
 }
 
 ResultTable TableCodeFatigueR(const Project& project, const Results& results) {
-    return fatigueTable(project, results, kMonorailDetails);
+    return fatigueTable(project, results, kMonorailDetailTitles);
 }
 
 ResultTable ShowSummaryULS(const Project& project, const Results& results) {
