@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "analysis/key_search.h"
 #include "analysis/position.h"
 #include "analysis/recorder.h"
 #include "analysis/results.h"
@@ -45,6 +46,7 @@ private:
 
 class UlsPostProcess : public PostProcess {
 public:
+    static constexpr Quantity quantity = Quantity::Forces;
     UlsPostProcess(const LoadedBeam& loaded, UlsResults& results);
     void record(const SolvedPosition& position, SpanMask mask) override;
 
@@ -59,6 +61,7 @@ private:
 
 class FlsPostProcess : public PostProcess {
 public:
+    static constexpr Quantity quantity = Quantity::Forces;
     FlsPostProcess(const LoadedBeam& loaded, FlsResults& results);
     void record(const SolvedPosition& position, SpanMask mask) override;
 
@@ -71,6 +74,7 @@ private:
 
 class SlsPostProcess : public PostProcess {
 public:
+    static constexpr Quantity quantity = Quantity::Deflections;
     SlsPostProcess(const LoadedBeam& loaded, SlsResults& results);
     void record(const SolvedPosition& position, SpanMask mask) override;
 

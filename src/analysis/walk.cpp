@@ -65,7 +65,7 @@ Results runWalk(const char* name, Walk walk, const Project& project, const RunLo
         const WalkSteps steps(project, loads.NCranes);
         progress.walkStarts(walk);
         if (log != nullptr) results.*log = logPositions(steps, loaded.placer);
-        if (method == WalkMethod::Plain || !walkFast(steps, loaded, post, walk, progress))
+        if (method == WalkMethod::Plain || !walkFast(steps, loaded, Post::quantity, post, walk, progress))
             walkPlain(steps, loaded, post, walk, progress);
         progress.walkEnds(walk);
     });

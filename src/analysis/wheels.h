@@ -35,6 +35,8 @@ public:
     void placeCrane2(double x4, int k, Wheels& wheels) const;
 
     [[nodiscard]] const RunLoads& loads() const noexcept { return loads_; }
+    /// Smallest distance between the cranes, mm.
+    [[nodiscard]] double minAvst() const noexcept { return minAvst_; }
 
 private:
     void stand(int w, double x, Wheels& wheels) const;

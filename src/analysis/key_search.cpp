@@ -1,0 +1,465 @@
+#include "analysis/key_search.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace borvik {
+
+// --- Candidates
+// ---------------------------------------------------------------------------------------------------------
+
+void Candidates::add(int j, int k, SpanMask spans) {
+    if (tooMany_) return;
+    items_.push_back({j, k, spans});
+    if (items_.size() < mergeAt_) return;
+    merge();
+    tooMany_ = items_.size() > most_;
+    mergeAt_ = std::max(mergeAt_, 2 * items_.size());
+}
+
+const std::vector<Candidates::Item>& Candidates::inOrder() {
+    merge();
+    return items_;
+}
+
+void Candidates::merge() {
+    std::sort(items_.begin(), items_.end(),
+              [](const Item& a, const Item& b) { return a.j != b.j ? a.j < b.j : a.k < b.k; });
+    std::size_t kept = 0;
+    for (const Item& item : items_) {
+        if (kept > 0 && items_[kept - 1].j == item.j && items_[kept - 1].k == item.k)
+            items_[kept - 1].spans |= item.spans;
+        else
+            items_[kept++] = item;
+    }
+    items_.resize(kept);
+}
+
+namespace {
+
+constexpr int kMostLanes = 2 * kPoints;
+constexpr double kNothing = -std::numeric_limits<double>::infinity();
+using LaneValues = std::array<double, kMostLanes>;
+
+/// Bounds of what rounding makes of the support moments, uniform over all positions, and their magnitudes.
+struct MomentBounds {
+    PerSpan error{};      ///< [0..n] |stored - ideal|, Nmm
+    PerSpan magnitude{};  ///< [0..n] |ideal|
+    PerSpan kept{};       ///< [0..n] error of keeping the responses of both cranes as singles
+    double load = 0;      ///< sum of all wheel loads, N
+
+    MomentBounds(const Plane& plane, const Magnitudes& m1, const Magnitudes& m2) : load(m1.load + m2.load) {
+        const int last = plane.beam.n - 1;
+        const int wheels = m1.wheels + m2.wheels;
+        PerSpan eliminated{};  // error of the eliminated load terms
+        PerSpan size{};        // and their magnitude
+        for (int r = 1; r <= last; ++r) {
+            const double dead = std::abs(plane.deadTerms[r]);
+            const double terms = kUnit * ((wheels + 1) * dead + wheels * (m1.rotation[r] + m2.rotation[r]));
+            size[r] = std::abs(plane.deadEliminated[r]) + m1.eliminated[r] + m2.eliminated[r];
+            eliminated[r] = (terms + std::abs(plane.matrix.factor[r]) * eliminated[r - 1]) * (1 + kUnit) +
+                            kUnit * size[r] + kSmallest;
+        }
+        for (int r = last; r >= 1; --r) {
+            magnitude[r] = std::abs(plane.deadMoments[r]) + m1.moment[r] + m2.moment[r];
+            kept[r] = kUnit * (m1.moment[r] + m2.moment[r]);
+            error[r] = ((eliminated[r] + kUnit * size[r]) / std::abs(plane.matrix.diagonal[r]) +
+                        std::abs(plane.fromRight[r]) * error[r + 1]) *
+                           (1 + kUnit) +
+                       kUnit * magnitude[r] + kSmallest;
+        }
+    }
+
+    static constexpr double kSmallest = 1e-30;  ///< where singles get so small that their relative error grows
+};
+
+/// The quantities of one span: lane k - 1 is the first quantity at point k, lane 21 + k - 1 the second.
+/// Value = dead + left Ma + right Mb + wheels, linear in the loads.
+class Lanes {
+public:
+    Lanes(const Plane& plane, int i, Quantity quantity, const MomentBounds& bounds)
+        : count(quantity == Quantity::Forces ? 2 * kPoints : kPoints),
+          points_(plane.points[static_cast<std::size_t>(i)]) {
+        const SpanPoints& p = points_;
+        const double W = bounds.load;
+        for (int k = 1; k <= kPoints; ++k) {
+            const double x = p.x[k];
+            const double rest = p.rest[k];
+            if (quantity == Quantity::Forces) {
+                // A wheel a rounding beyond the end of the span gives a moment of at most its load times a millimetre.
+                set(k - 1, p.leftShare[k], x / p.L, p.deadM[k], W * (x * rest / p.L + 1));
+                set(kPoints + k - 1, -1 / p.L, 1 / p.L, p.deadV[k], W);
+            } else {
+                // (1 - t) t (2 - t) and (1 - t) t (1 + t) are at most 0.385.
+                const double cubic = std::max(0.385 * p.L * p.L * x + p.x3[k], p.rest3[k] + 0.385 * p.L * p.L * rest);
+                set(k - 1, -p.leftU[k] * rest * p.L / p.c6EI, -p.rightU[k] * x * p.L / p.c6EI, p.deadU[k],
+                    W * cubic / p.c6EI);
+            }
+        }
+        const auto at = static_cast<std::size_t>(i);
+        for (std::size_t l = 0; l < static_cast<std::size_t>(count); ++l) {
+            const double a = std::abs(left[l]);
+            const double b = std::abs(right[l]);
+            const double size =
+                a * bounds.magnitude[at - 1] + b * bounds.magnitude[at] + wheels_[l] + std::abs(dead[l]);
+            error[l] = a * (bounds.error[at - 1] + bounds.kept[at - 1]) + b * (bounds.error[at] + bounds.kept[at]) +
+                       (kUnit + 0x1p-46) * size + MomentBounds::kSmallest;
+            dead[l] += left[l] * plane.deadMoments[at - 1] + right[l] * plane.deadMoments[at];
+            fromLeft[l] = left[l] - right[l] * plane.fromLeft[at];
+            fromRight[l] = right[l] - left[l] * plane.fromRight[at - 1];
+        }
+    }
+
+    /// Values that a crane gives at position p.
+    void row(const CraneResponse& crane, int i, int p, double* values) const {
+        const double Ma = crane.moments(i - 1)[p];
+        const double Mb = crane.moments(i)[p];
+        for (std::size_t l = 0; l < static_cast<std::size_t>(count); ++l) values[l] = left[l] * Ma + right[l] * Mb;
+        const SpanWheels wheels = crane.wheelsIn(i, p);
+        if (wheels.count == 0) return;
+        PointValues first{}, second{};
+        for (int w = 0; w < wheels.count; ++w)
+            count > kPoints ? points_.addForces(wheels.item[w], first, second)
+                            : points_.subtractDeflection(wheels.item[w], first);
+        for (int k = 1; k <= kPoints; ++k) values[k - 1] += first[k];
+        if (count > kPoints)
+            for (int k = 1; k <= kPoints; ++k) values[kPoints + k - 1] += second[k];
+    }
+
+    int count;
+    LaneValues left{}, right{};  ///< shares of the end moments Ma, Mb
+    LaneValues dead{};           ///< value under dead load alone
+    LaneValues error{};          ///< bound of |stored - ideal|
+    LaneValues fromLeft{},
+        fromRight{};  ///< value per Ma while a crane stands left of the span, per Mb while it stands right
+
+private:
+    void set(int lane, double a, double b, double deadValue, double wheels) {
+        const auto l = static_cast<std::size_t>(lane);
+        left[l] = a;
+        right[l] = b;
+        dead[l] = deadValue;
+        wheels_[l] = wheels;
+    }
+    const SpanPoints& points_;
+    LaneValues wheels_{};  ///< magnitude of the wheels' share
+};
+
+/// Largest or smallest from a position to the end of its range.
+std::vector<float> suffix(const float* values, int first, int end, bool largest) {
+    std::vector<float> best(static_cast<std::size_t>(std::max(0, end - first)));
+    for (int p = end - 1; p >= first; --p) {
+        const auto at = static_cast<std::size_t>(p - first);
+        best[at] = p + 1 == end ? values[p]
+                   : largest    ? std::max(values[p], best[at + 1])
+                                : std::min(values[p], best[at + 1]);
+    }
+    return best;
+}
+
+/// A range of positions in which a crane loads only what is on one side of the span, so that all lanes follow one
+/// support moment: the moment, and its extremes from each position to the end of the range.
+struct OneSided {
+    int first = 0, end = 0;
+    const float* moment = nullptr;
+    std::vector<float> largest, smallest;
+
+    OneSided(const float* values, int from, int to)
+        : first(from),
+          end(to),
+          moment(values),
+          largest(suffix(values, from, to, true)),
+          smallest(suffix(values, from, to, false)) {}
+    /// Largest of factor x moment over p..end - 1; p must lie in the range.
+    [[nodiscard]] double best(double factor, int p) const {
+        const auto at = static_cast<std::size_t>(p - first);
+        return factor >= 0 ? factor * double{largest[at]} : factor * double{smallest[at]};
+    }
+    [[nodiscard]] bool has(int p) const { return p >= first && p < end; }
+};
+
+/// Pairs that give the same bits as an earlier one are left out: the earlier one came first.
+struct PairRules {
+    const CraneResponse &crane1, &crane2;
+    Candidates& candidates;
+
+    /// Crane 1 without a loaded wheel on the beam, now and a step before: crane 2 stood there at the step before, too.
+    [[nodiscard]] bool repeats(int j) const { return j > 0 && !crane1.acts(j) && !crane1.acts(j - 1); }
+    /// Crane 2 that acts no more: the nearest such distance stands for all further ones.
+    [[nodiscard]] int lastS(int j, int limit) const { return std::min(limit, std::max(j, crane2.idleFrom())); }
+    void add(int j, int s, SpanMask spans) const {
+        if (s > j && !crane2.acts(s) && !crane2.acts(s - 1)) return;
+        candidates.add(j, s - j, spans);
+    }
+};
+
+/// Search of one span in one plane. The positions of each crane fall into three ranges: left of the span (until it
+/// arrives), on it, and right of it (when it has left). Crane 2 is never left of crane 1.
+class SpanSearch {
+public:
+    SpanSearch(const Plane& plane, int i, const Lanes& lanes, const CraneResponse& crane1, const CraneResponse& crane2,
+               int last, Quantity quantity, Candidates& candidates)
+        : i_(i),
+          N_(last),
+          lanes_(lanes),
+          count_(static_cast<std::size_t>(lanes.count)),
+          crane1_(crane1),
+          crane2_(crane2),
+          rules_{crane1, crane2, candidates},
+          a2_(crane2.present() ? crane2.arrives(i) : crane1.arrives(i)),
+          b2_(crane2.present() ? crane2.leaves(i) : a2_),
+          b1_(crane1.present() ? crane1.leaves(i) : b2_),
+          left1_(crane1.moments(i - 1), 0, a2_),
+          left2_(crane2.moments(i - 1), 0, a2_),
+          right1_(crane1.moments(i), b1_, N_ + 1),
+          right2_(crane2.moments(i), b2_, N_ + 1) {
+        fillRows(crane1, a2_, b1_, rows1_);
+        fillRows(crane2, a2_, b2_, rows2_);
+        for (Side& side : sides_) findBest(side);
+        setThresholds(plane, quantity);
+        for (const Side& side : sides_) collect(side);
+    }
+
+    /// Values of one lane at every position of crane 1 and of crane 2.
+    [[nodiscard]] std::vector<double> allOf1(int lane) const { return allOf(lane, crane1_, rows1_, b1_); }
+    [[nodiscard]] std::vector<double> allOf2(int lane) const { return allOf(lane, crane2_, rows2_, b2_); }
+
+private:
+    /// The search for the largest (sign 1) or the smallest (sign -1) values: both look for the largest of sign x value.
+    struct Side {
+        double sign;
+        std::vector<double> suffix;  ///< [s - a2][lane] best of crane 2 from s on, s = a2..b2 - 1
+        LaneValues best{};           ///< best of both cranes together
+        LaneValues threshold{};      ///< what a pair must reach to be a candidate
+    };
+
+    void fillRows(const CraneResponse& crane, int first, int end, std::vector<double>& rows) const {
+        rows.resize(static_cast<std::size_t>(std::max(0, end - first)) * count_);
+        for (int p = first; p < end; ++p)
+            lanes_.row(crane, i_, p, rows.data() + static_cast<std::size_t>(p - first) * count_);
+    }
+    [[nodiscard]] std::vector<double> allOf(int lane, const CraneResponse& crane, const std::vector<double>& rows,
+                                            int end) const {
+        const auto l = static_cast<std::size_t>(lane);
+        std::vector<double> values(static_cast<std::size_t>(N_) + 1);
+        const float* Ma = crane.moments(i_ - 1);
+        const float* Mb = crane.moments(i_);
+        for (int p = 0; p <= N_; ++p)
+            values[static_cast<std::size_t>(p)] =
+                p >= a2_ && p < end ? rows[static_cast<std::size_t>(p - a2_) * count_ + l]
+                                    : lanes_.left[l] * double{Ma[p]} + lanes_.right[l] * double{Mb[p]};
+        return values;
+    }
+    [[nodiscard]] const double* row1(int j) const { return rows1_.data() + static_cast<std::size_t>(j - a2_) * count_; }
+    [[nodiscard]] const double* row2(int s) const { return rows2_.data() + static_cast<std::size_t>(s - a2_) * count_; }
+
+    /// Best of crane 2 over s..N, for s from a2 on.
+    void suffixAt(const Side& side, int s, double* best) const {
+        if (s < b2_) {
+            std::copy_n(side.suffix.data() + static_cast<std::size_t>(s - a2_) * count_, count_, best);
+            return;
+        }
+        for (std::size_t l = 0; l < count_; ++l)
+            best[l] = s <= N_ ? right2_.best(side.sign * lanes_.fromRight[l], s) : kNothing;
+    }
+
+    void findBest(Side& side) {
+        side.suffix.resize(rows2_.size());
+        LaneValues from{};
+        suffixAt(side, b2_, from.data());
+        for (int s = b2_ - 1; s >= a2_; --s) {
+            const double* row = row2(s);
+            for (std::size_t l = 0; l < count_; ++l) from[l] = std::max(from[l], side.sign * row[l]);
+            std::copy_n(from.data(), count_, side.suffix.data() + static_cast<std::size_t>(s - a2_) * count_);
+        }
+
+        side.best.fill(kNothing);
+        const auto improve = [&](std::size_t l, double value) { side.best[l] = std::max(side.best[l], value); };
+        if (a2_ > 0) {
+            suffixAt(side, a2_, from.data());
+            const auto [low, high] = extremesOfSum(left1_, left2_);
+            for (std::size_t l = 0; l < count_; ++l) {
+                const double factor = side.sign * lanes_.fromLeft[l];
+                improve(l, factor * (factor >= 0 ? high : low));
+                improve(l, left1_.best(factor, 0) + from[l]);
+            }
+        }
+        for (int j = a2_; j < b1_; ++j) {
+            suffixAt(side, j, from.data());
+            const double* row = row1(j);
+            for (std::size_t l = 0; l < count_; ++l) improve(l, side.sign * row[l] + from[l]);
+        }
+        if (b1_ <= N_) {
+            const auto [low, high] = extremesOfSum(right1_, right2_);
+            for (std::size_t l = 0; l < count_; ++l) {
+                const double factor = side.sign * lanes_.fromRight[l];
+                improve(l, factor * (factor >= 0 ? high : low));
+            }
+        }
+    }
+
+    /// Smallest and largest sum of the moments of crane 1 at j and of crane 2 at some s >= j of its range.
+    static std::pair<double, double> extremesOfSum(const OneSided& one, const OneSided& two) {
+        double low = -kNothing;
+        double high = kNothing;
+        for (int j = one.first; j < one.end; ++j) {
+            const auto at = static_cast<std::size_t>(j - two.first);
+            low = std::min(low, double{one.moment[j]} + double{two.smallest[at]});
+            high = std::max(high, double{one.moment[j]} + double{two.largest[at]});
+        }
+        return {low, high};
+    }
+
+    /// A value can be the first to reach an extreme only within twice the error of the best, and only if it may lie
+    /// beyond 0. Forces keep largest and smallest apart; of a deflection the larger magnitude counts.
+    void setThresholds(const Plane& plane, Quantity quantity) {
+        for (std::size_t l = 0; l < count_; ++l) {
+            const double E = lanes_.error[l];
+            const double D = lanes_.dead[l];
+            const double magnitude = std::max(sides_[0].best[l] + D, sides_[1].best[l] - D);
+            for (Side& side : sides_) {
+                const double toReach = quantity == Quantity::Forces ? std::max(side.best[l] - 2 * E, -E - side.sign * D)
+                                                                    : magnitude - 2 * E - side.sign * D;
+                side.threshold[l] = alwaysZero(plane, quantity, l) ? -kNothing : toReach;
+            }
+        }
+    }
+
+    /// Moments at the ends of the beam and deflections over supports are exactly 0 at every position.
+    [[nodiscard]] bool alwaysZero(const Plane& plane, Quantity quantity, std::size_t lane) const {
+        const bool first = lane == 0;
+        const bool lastPoint = lane == kPoints - 1;
+        if (quantity == Quantity::Deflections) return first || lastPoint;
+        return (first && i_ == 1) || (lastPoint && i_ == plane.beam.n);
+    }
+
+    void collect(const Side& side) {
+        LaneValues from{};
+        if (a2_ > 0) suffixAt(side, a2_, from.data());
+        for (std::size_t l = 0; l < count_ && a2_ > 0; ++l) collectLeft(side, l, from[l]);
+        for (int j = a2_; j < b1_; ++j) {
+            if (rules_.repeats(j)) continue;
+            suffixAt(side, j, from.data());
+            const double* row = row1(j);
+            int any = 0;
+            for (std::size_t l = 0; l < count_; ++l) any |= side.sign * row[l] + from[l] >= side.threshold[l];
+            if (any == 0) continue;
+            for (std::size_t l = 0; l < count_; ++l)
+                if (side.sign * row[l] + from[l] >= side.threshold[l])
+                    pairFrom(side, l, j, j, side.threshold[l] - side.sign * row[l]);
+        }
+        for (std::size_t l = 0; l < count_ && b1_ <= N_; ++l) collectRight(side, l);
+    }
+
+    /// Crane 1 left of the span, crane 2 left of it too, or on it, or right of it.
+    void collectLeft(const Side& side, std::size_t l, double fromArrival) {
+        const double factor = side.sign * lanes_.fromLeft[l];
+        const double threshold = side.threshold[l];
+        const bool across = left1_.best(factor, 0) + fromArrival >= threshold;
+        for (int j = 0; j < a2_; ++j) {
+            const double value = factor * double{left1_.moment[j]};
+            if (across && value + fromArrival >= threshold && !rules_.repeats(j))
+                pairFrom(side, l, j, a2_, threshold - value);
+            if (value + left2_.best(factor, j) < threshold || rules_.repeats(j)) continue;
+            const int end = rules_.lastS(j, a2_ - 1) + 1;
+            for (int s = j; s < end; ++s)
+                if (value + factor * double{left2_.moment[s]} >= threshold) add(j, s);
+        }
+    }
+
+    void collectRight(const Side& side, std::size_t l) {
+        const double factor = side.sign * lanes_.fromRight[l];
+        for (int j = b1_; j <= N_; ++j) {
+            const double value = factor * double{right1_.moment[j]};
+            if (value + right2_.best(factor, j) < side.threshold[l] || rules_.repeats(j)) continue;
+            pairFrom(side, l, j, j, side.threshold[l] - value);
+        }
+    }
+
+    /// Pairs j with every s >= first at which crane 2 gives at least `needed`. @param first  from a2 on
+    void pairFrom(const Side& side, std::size_t l, int j, int first, double needed) {
+        int s = std::max(first, j);
+        const int end = rules_.lastS(j, N_) + 1;
+        for (; s < std::min(b2_, end); ++s)
+            if (side.sign * row2(s)[l] >= needed) add(j, s);
+        const double factor = side.sign * lanes_.fromRight[l];
+        for (; s < end && right2_.best(factor, s) >= needed; ++s)
+            if (factor * double{right2_.moment[s]} >= needed) add(j, s);
+    }
+
+    void add(int j, int s) { rules_.add(j, s, SpanMask{1} << i_); }
+
+    const int i_, N_;
+    const Lanes& lanes_;
+    const std::size_t count_;
+    const CraneResponse &crane1_, &crane2_;
+    const PairRules rules_;
+    const int a2_, b2_, b1_;
+    const OneSided left1_, left2_, right1_, right2_;
+    std::vector<double> rows1_, rows2_;  ///< [j - a2][lane] and [s - a2][lane]
+    std::array<Side, 2> sides_{{{1, {}, {}, {}}, {-1, {}, {}, {}}}};
+};
+
+/// One value that follows from a whole position: the shears that meet over a support.
+struct EndShear {
+    std::vector<double> crane1, crane2;  ///< at every position
+    double dead = 0, error = 0;
+};
+
+EndShear endShear(const SpanSearch& search, const Lanes& lanes, int lane) {
+    const auto l = static_cast<std::size_t>(lane);
+    return {search.allOf1(lane), search.allOf2(lane), lanes.dead[l], lanes.error[l]};
+}
+
+/// Search of the reaction over the support between two spans: shear at the start of the right one less shear at the end
+/// of the left one.
+void searchReaction(const EndShear& leftEnd, const EndShear& rightStart, const PairRules& rules, SpanMask spans) {
+    const std::size_t count = leftEnd.crane1.size();
+    const int N = static_cast<int>(count) - 1;
+    std::vector<double> one(count), two(count), suffix(count);
+    const double dead = rightStart.dead - leftEnd.dead;
+    for (const double sign : {1.0, -1.0}) {
+        double largest1 = 0;
+        double largest2 = 0;
+        double best = kNothing;
+        for (int p = N; p >= 0; --p) {
+            const auto at = static_cast<std::size_t>(p);
+            one[at] = sign * (rightStart.crane1[at] - leftEnd.crane1[at]);
+            two[at] = sign * (rightStart.crane2[at] - leftEnd.crane2[at]);
+            suffix[at] = p == N ? two[at] : std::max(two[at], suffix[at + 1]);
+            best = std::max(best, one[at] + suffix[at]);
+            largest1 = std::max(largest1, std::abs(one[at]));
+            largest2 = std::max(largest2, std::abs(two[at]));
+        }
+        const double size = std::abs(dead) + largest1 + largest2;
+        const double E = leftEnd.error + rightStart.error + kUnit * size;
+        const double threshold = std::max(best - 2 * E, -E - sign * dead);
+        for (int j = 0; j <= N; ++j) {
+            const auto at = static_cast<std::size_t>(j);
+            if (one[at] + suffix[at] < threshold || rules.repeats(j)) continue;
+            for (int s = j; s <= rules.lastS(j, N); ++s)
+                if (one[at] + two[static_cast<std::size_t>(s)] >= threshold) rules.add(j, s, spans);
+        }
+    }
+}
+
+}  // namespace
+
+void searchPlane(const Plane& plane, const CraneResponse& crane1, const CraneResponse& crane2, int last,
+                 Quantity quantity, Candidates& candidates) {
+    const MomentBounds bounds(plane, crane1.magnitudes(), crane2.magnitudes());
+    EndShear leftEnd;
+    for (int i = 1; i <= plane.beam.n && !candidates.tooMany(); ++i) {
+        const Lanes lanes(plane, i, quantity, bounds);
+        const SpanSearch search(plane, i, lanes, crane1, crane2, last, quantity, candidates);
+        if (quantity != Quantity::Forces) continue;
+        if (i > 1)
+            searchReaction(leftEnd, endShear(search, lanes, kPoints), {crane1, crane2, candidates},
+                           SpanMask{3} << (i - 1));
+        leftEnd = endShear(search, lanes, 2 * kPoints - 1);
+    }
+}
+
+}  // namespace borvik

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/crane_response.h"
+
+namespace borvik {
+
+/// The positions that may be the first to reach an extreme: pairs (j, k) with the spans to compare there.
+class Candidates {
+public:
+    struct Item {
+        int j, k;
+        SpanMask spans;
+    };
+
+    /// @param most  pairs beyond which collecting ends; the plain walk is as quick then
+    explicit Candidates(std::size_t most) : most_(most) {}
+    void add(int j, int k, SpanMask spans);
+    [[nodiscard]] bool tooMany() const noexcept { return tooMany_; }
+    /// In the order of the walk, each pair once.
+    [[nodiscard]] const std::vector<Item>& inOrder();
+
+private:
+    void merge();
+    std::size_t most_;
+    std::size_t mergeAt_ = 1 << 16;
+    bool tooMany_ = false;
+    std::vector<Item> items_;
+};
+
+/// What a run compares at each point.
+enum class Quantity { Forces, Deflections };
+
+/// Searches one plane for the positions that may be the first to reach an extreme.
+/// Crane 1 stands at positions j = 0..last, crane 2 at s = j + k with s from j to last. A plane in which the cranes
+/// move as one has all wheels in `crane1` and nothing in `crane2`.
+void searchPlane(const Plane& plane, const CraneResponse& crane1, const CraneResponse& crane2, int last,
+                 Quantity quantity, Candidates& candidates);
+
+}  // namespace borvik
