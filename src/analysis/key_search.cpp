@@ -47,7 +47,7 @@ using LaneValues = std::array<double, kMostLanes>;
 struct MomentBounds {
     PerSpan error{};      ///< [0..n] |stored - ideal|, Nmm
     PerSpan magnitude{};  ///< [0..n] |ideal|
-    PerSpan kept{};       ///< [0..n] error of keeping the responses of both cranes as singles
+    PerSpan kept{};       ///< [0..n] error of keeping the responses of both cranes, and their sum, as singles
     double load = 0;      ///< sum of all wheel loads, N
 
     MomentBounds(const Plane& plane, const Magnitudes& m1, const Magnitudes& m2) : load(m1.load + m2.load) {
@@ -64,7 +64,7 @@ struct MomentBounds {
         }
         for (int r = last; r >= 1; --r) {
             magnitude[r] = std::abs(plane.deadMoments[r]) + m1.moment[r] + m2.moment[r];
-            kept[r] = kUnit * (m1.moment[r] + m2.moment[r]);
+            kept[r] = 2 * kUnit * (m1.moment[r] + m2.moment[r]);
             error[r] = ((eliminated[r] + kUnit * size[r]) / std::abs(plane.matrix.diagonal[r]) +
                         std::abs(plane.fromRight[r]) * error[r + 1]) *
                            (1 + kUnit) +
@@ -147,37 +147,87 @@ private:
     LaneValues wheels_{};  ///< magnitude of the wheels' share
 };
 
-/// Largest or smallest from a position to the end of its range.
-std::vector<float> suffix(const float* values, int first, int end, bool largest) {
-    std::vector<float> best(static_cast<std::size_t>(std::max(0, end - first)));
-    for (int p = end - 1; p >= first; --p) {
-        const auto at = static_cast<std::size_t>(p - first);
-        best[at] = p + 1 == end ? values[p]
-                   : largest    ? std::max(values[p], best[at + 1])
-                                : std::min(values[p], best[at + 1]);
-    }
-    return best;
-}
+/// A number at each position of a range, with the extremes of blocks of positions, so that those which reach a value
+/// are found without looking at all.
+class Profile {
+public:
+    Profile(int first, int end) : first_(first), values_(static_cast<std::size_t>(std::max(0, end - first))) {}
+    [[nodiscard]] float& operator[](int p) { return values_[static_cast<std::size_t>(p - first_)]; }
+    [[nodiscard]] float operator[](int p) const { return values_[static_cast<std::size_t>(p - first_)]; }
+    [[nodiscard]] bool empty() const { return values_.empty(); }
 
-/// A range of positions in which a crane loads only what is on one side of the span, so that all lanes follow one
-/// support moment: the moment, and its extremes from each position to the end of the range.
+    /// To be called when all values are set.
+    void close() {
+        for (std::size_t p = 0; p < values_.size(); p += kBlock) {
+            const auto [low, high] = std::minmax_element(
+                values_.begin() + static_cast<std::ptrdiff_t>(p),
+                values_.begin() + static_cast<std::ptrdiff_t>(std::min(p + kBlock, values_.size())));
+            low_.push_back(*low);
+            high_.push_back(*high);
+            lowest_ = std::min(lowest_, *low);
+            highest_ = std::max(highest_, *high);
+        }
+    }
+    /// Largest of factor x value. The profile must not be empty.
+    [[nodiscard]] double best(double factor) const { return factor * double{factor >= 0 ? highest_ : lowest_}; }
+
+    /// Calls visit(p) for each position at which factor x value reaches `needed`, in rising order.
+    template <class Visit>
+    void reaching(double factor, double needed, Visit visit) const {
+        if (empty() || best(factor) < needed) return;
+        const std::vector<float>& extreme = factor >= 0 ? high_ : low_;
+        for (std::size_t block = 0; block < extreme.size(); ++block) {
+            if (factor * double{extreme[block]} < needed) continue;
+            const std::size_t end = std::min((block + 1) * kBlock, values_.size());
+            for (std::size_t at = block * kBlock; at < end; ++at)
+                if (factor * double{values_[at]} >= needed) visit(first_ + static_cast<int>(at));
+        }
+    }
+
+private:
+    static constexpr std::size_t kBlock = 32;
+    int first_;
+    std::vector<float> values_, low_, high_;
+    float lowest_ = std::numeric_limits<float>::infinity();
+    float highest_ = -std::numeric_limits<float>::infinity();
+};
+
+/// A range of positions in which each crane loads only what is on one side of the span, so that all lanes follow the
+/// moment over one support. Sums of singles are kept as singles; the error bound has room for that.
 struct OneSided {
-    int first = 0, end = 0;
-    const float* moment = nullptr;
-    std::vector<float> largest, smallest;
+    const float* moment2;
+    Profile moment1;              ///< of crane 1 at j
+    Profile largest2, smallest2;  ///< of crane 2 over s..end - 1
+    Profile highest, lowest;      ///< of both: crane 1 at j with the best of crane 2 over s >= j
 
-    OneSided(const float* values, int from, int to)
-        : first(from),
-          end(to),
-          moment(values),
-          largest(suffix(values, from, to, true)),
-          smallest(suffix(values, from, to, false)) {}
-    /// Largest of factor x moment over p..end - 1; p must lie in the range.
-    [[nodiscard]] double best(double factor, int p) const {
-        const auto at = static_cast<std::size_t>(p - first);
-        return factor >= 0 ? factor * double{largest[at]} : factor * double{smallest[at]};
+    /// @param first1  crane 1 from here on; @param first2 <= first1  crane 2 from here on; @param end  of both
+    OneSided(const float* one, const float* two, int first1, int first2, int end)
+        : moment2(two),
+          moment1(first1, end),
+          largest2(first2, end),
+          smallest2(first2, end),
+          highest(first1, end),
+          lowest(first1, end) {
+        float high = -std::numeric_limits<float>::infinity();
+        float low = std::numeric_limits<float>::infinity();
+        for (int p = end - 1; p >= first2; --p) {
+            largest2[p] = high = std::max(high, two[p]);
+            smallest2[p] = low = std::min(low, two[p]);
+            if (p < first1) continue;
+            moment1[p] = one[p];
+            highest[p] = one[p] + high;
+            lowest[p] = one[p] + low;
+        }
+        moment1.close();
+        highest.close();
+        lowest.close();
     }
-    [[nodiscard]] bool has(int p) const { return p >= first && p < end; }
+    /// Largest of factor x moment of crane 2 over s..end - 1.
+    [[nodiscard]] double best2(double factor, int s) const {
+        return factor * double{factor >= 0 ? largest2[s] : smallest2[s]};
+    }
+    /// Largest of factor x sum of both.
+    [[nodiscard]] double best(double factor) const { return (factor >= 0 ? highest : lowest).best(factor); }
 };
 
 /// Pairs that give the same bits as an earlier one are left out: the earlier one came first.
@@ -211,10 +261,8 @@ public:
           a2_(crane2.present() ? crane2.arrives(i) : crane1.arrives(i)),
           b2_(crane2.present() ? crane2.leaves(i) : a2_),
           b1_(crane1.present() ? crane1.leaves(i) : b2_),
-          left1_(crane1.moments(i - 1), 0, a2_),
-          left2_(crane2.moments(i - 1), 0, a2_),
-          right1_(crane1.moments(i), b1_, N_ + 1),
-          right2_(crane2.moments(i), b2_, N_ + 1) {
+          left_(crane1.moments(i - 1), crane2.moments(i - 1), 0, 0, a2_),
+          right_(crane1.moments(i), crane2.moments(i), b1_, b2_, N_ + 1) {
         fillRows(crane1, a2_, b1_, rows1_);
         fillRows(crane2, a2_, b2_, rows2_);
         for (Side& side : sides_) findBest(side);
@@ -262,7 +310,7 @@ private:
             return;
         }
         for (std::size_t l = 0; l < count_; ++l)
-            best[l] = s <= N_ ? right2_.best(side.sign * lanes_.fromRight[l], s) : kNothing;
+            best[l] = s <= N_ ? right_.best2(side.sign * lanes_.fromRight[l], s) : kNothing;
     }
 
     void findBest(Side& side) {
@@ -279,11 +327,10 @@ private:
         const auto improve = [&](std::size_t l, double value) { side.best[l] = std::max(side.best[l], value); };
         if (a2_ > 0) {
             suffixAt(side, a2_, from.data());
-            const auto [low, high] = extremesOfSum(left1_, left2_);
             for (std::size_t l = 0; l < count_; ++l) {
                 const double factor = side.sign * lanes_.fromLeft[l];
-                improve(l, factor * (factor >= 0 ? high : low));
-                improve(l, left1_.best(factor, 0) + from[l]);
+                improve(l, left_.best(factor));
+                improve(l, left_.moment1.best(factor) + from[l]);
             }
         }
         for (int j = a2_; j < b1_; ++j) {
@@ -291,25 +338,7 @@ private:
             const double* row = row1(j);
             for (std::size_t l = 0; l < count_; ++l) improve(l, side.sign * row[l] + from[l]);
         }
-        if (b1_ <= N_) {
-            const auto [low, high] = extremesOfSum(right1_, right2_);
-            for (std::size_t l = 0; l < count_; ++l) {
-                const double factor = side.sign * lanes_.fromRight[l];
-                improve(l, factor * (factor >= 0 ? high : low));
-            }
-        }
-    }
-
-    /// Smallest and largest sum of the moments of crane 1 at j and of crane 2 at some s >= j of its range.
-    static std::pair<double, double> extremesOfSum(const OneSided& one, const OneSided& two) {
-        double low = -kNothing;
-        double high = kNothing;
-        for (int j = one.first; j < one.end; ++j) {
-            const auto at = static_cast<std::size_t>(j - two.first);
-            low = std::min(low, double{one.moment[j]} + double{two.smallest[at]});
-            high = std::max(high, double{one.moment[j]} + double{two.largest[at]});
-        }
-        return {low, high};
+        for (std::size_t l = 0; l < count_ && b1_ <= N_; ++l) improve(l, right_.best(side.sign * lanes_.fromRight[l]));
     }
 
     /// A value can be the first to reach an extreme only within twice the error of the best, and only if it may lie
@@ -357,25 +386,23 @@ private:
     void collectLeft(const Side& side, std::size_t l, double fromArrival) {
         const double factor = side.sign * lanes_.fromLeft[l];
         const double threshold = side.threshold[l];
-        const bool across = left1_.best(factor, 0) + fromArrival >= threshold;
-        for (int j = 0; j < a2_; ++j) {
-            const double value = factor * double{left1_.moment[j]};
-            if (across && value + fromArrival >= threshold && !rules_.repeats(j))
-                pairFrom(side, l, j, a2_, threshold - value);
-            if (value + left2_.best(factor, j) < threshold || rules_.repeats(j)) continue;
-            const int end = rules_.lastS(j, a2_ - 1) + 1;
-            for (int s = j; s < end; ++s)
-                if (value + factor * double{left2_.moment[s]} >= threshold) add(j, s);
-        }
+        left_.moment1.reaching(factor, threshold - fromArrival, [&](int j) {
+            if (!rules_.repeats(j)) pairFrom(side, l, j, a2_, threshold - factor * double{left_.moment1[j]});
+        });
+        (factor >= 0 ? left_.highest : left_.lowest).reaching(factor, threshold, [&](int j) {
+            if (rules_.repeats(j)) return;
+            const double needed = threshold - factor * double{left_.moment1[j]};
+            for (int s = j; s <= rules_.lastS(j, a2_ - 1); ++s)
+                if (factor * double{left_.moment2[s]} >= needed) add(j, s);
+        });
     }
 
     void collectRight(const Side& side, std::size_t l) {
         const double factor = side.sign * lanes_.fromRight[l];
-        for (int j = b1_; j <= N_; ++j) {
-            const double value = factor * double{right1_.moment[j]};
-            if (value + right2_.best(factor, j) < side.threshold[l] || rules_.repeats(j)) continue;
-            pairFrom(side, l, j, j, side.threshold[l] - value);
-        }
+        const double threshold = side.threshold[l];
+        (factor >= 0 ? right_.highest : right_.lowest).reaching(factor, threshold, [&](int j) {
+            if (!rules_.repeats(j)) pairFrom(side, l, j, j, threshold - factor * double{right_.moment1[j]});
+        });
     }
 
     /// Pairs j with every s >= first at which crane 2 gives at least `needed`. @param first  from a2 on
@@ -385,8 +412,8 @@ private:
         for (; s < std::min(b2_, end); ++s)
             if (side.sign * row2(s)[l] >= needed) add(j, s);
         const double factor = side.sign * lanes_.fromRight[l];
-        for (; s < end && right2_.best(factor, s) >= needed; ++s)
-            if (factor * double{right2_.moment[s]} >= needed) add(j, s);
+        for (; s < end && right_.best2(factor, s) >= needed; ++s)
+            if (factor * double{right_.moment2[s]} >= needed) add(j, s);
     }
 
     void add(int j, int s) { rules_.add(j, s, SpanMask{1} << i_); }
@@ -397,7 +424,7 @@ private:
     const CraneResponse &crane1_, &crane2_;
     const PairRules rules_;
     const int a2_, b2_, b1_;
-    const OneSided left1_, left2_, right1_, right2_;
+    const OneSided left_, right_;
     std::vector<double> rows1_, rows2_;  ///< [j - a2][lane] and [s - a2][lane]
     std::array<Side, 2> sides_{{{1, {}, {}, {}}, {-1, {}, {}, {}}}};
 };
