@@ -60,8 +60,8 @@ void addOptions(CLI::App& app, Options& options) {
     }
     app.add_option("--save", options.save, "Write the project as it stands after the run")->type_name("FILE.brvk");
     app.add_option("--fail-above", options.failAbove, "Exit 1 if any ratio is greater than X")
-        ->type_name("X")
-        ->check(CLI::NonNegativeNumber);
+        ->check(CLI::NonNegativeNumber)
+        ->option_text("X");
     app.add_option("--walk", options.walk, "How the cranes are walked along the beam; both give the same results")
         ->type_name("plain|fast")
         ->transform(CLI::Transformer(walks))

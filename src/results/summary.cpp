@@ -11,6 +11,8 @@ namespace {
 
 constexpr const char* kMark = " !!";
 constexpr const char* kGap = "   ";
+/// A longer text stands on a line of its own, so that the ratios stay within sight.
+constexpr std::size_t kWidest = 76;
 
 /// Characters of a UTF-8 text, not bytes.
 std::size_t lengthOf(const std::string& text) {
@@ -18,17 +20,17 @@ std::size_t lengthOf(const std::string& text) {
         std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-std::string marked(const TableCell& cell) {
-    return cell.emphasis == Emphasis::OverLimit ? cell.text + kMark : cell.text;
+std::string trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string shown(const TableCell& cell) {
+    return trimmed(cell.text) + (cell.emphasis == Emphasis::OverLimit ? kMark : "");
 }
 
 bool isHeading(const std::vector<TableCell>& row) {
     return !row.empty() && (row.front().emphasis == Emphasis::Heading || row.front().emphasis == Emphasis::Note);
-}
-
-std::string withoutTrailingBlanks(std::string line) {
-    line.erase(line.find_last_not_of(' ') + 1);
-    return line;
 }
 
 std::string plural(int count, const char* noun) {
@@ -43,6 +45,19 @@ std::string projectLine(const Project& project) {
            (project.CraneType == 2 ? "monorail hoist" : plural(project.NofCranes, "crane")) + "\n";
 }
 
+std::string lineOf(const std::vector<TableCell>& row, const std::vector<std::size_t>& widths) {
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const std::string text = shown(row[i]);
+        line += (i == 0 ? "" : kGap) + text;
+        const bool last = i + 1 == row.size() || isHeading(row);
+        if (last) break;
+        if (lengthOf(text) > widths[i]) line += "\n" + std::string(widths[i], ' ');
+        if (lengthOf(text) < widths[i]) line += std::string(widths[i] - lengthOf(text), ' ');
+    }
+    return line + "\n";
+}
+
 }  // namespace
 
 std::string PlainText(const ResultTable& table) {
@@ -53,18 +68,10 @@ std::string PlainText(const ResultTable& table) {
     std::vector<std::size_t> widths(table.columns.size());
     for (const auto& line : lines)
         for (std::size_t i = 0; i < std::min(line.size(), widths.size()); ++i)
-            if (!isHeading(line)) widths[i] = std::max(widths[i], lengthOf(marked(line[i])));
+            if (!isHeading(line)) widths[i] = std::max(widths[i], std::min(kWidest, lengthOf(shown(line[i]))));
 
     std::string text;
-    for (const auto& line : lines) {
-        std::string shown;
-        for (std::size_t i = 0; i < line.size(); ++i) {
-            const std::string cell = marked(line[i]);
-            const std::size_t width = i < widths.size() && !isHeading(line) ? widths[i] : 0;
-            shown += (i == 0 ? "" : kGap) + cell + std::string(width - std::min(width, lengthOf(cell)), ' ');
-        }
-        text += withoutTrailingBlanks(shown) + "\n";
-    }
+    for (const auto& line : lines) text += lineOf(line, widths);
     return text;
 }
 

@@ -1,0 +1,79 @@
+// Whole calculations: sections, ULS, SLS, checks and fatigue.
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+#include "calculation/calculation.h"
+#include "runways.h"
+
+namespace borvik {
+namespace {
+
+double secondsOf(Session& session, WalkMethod method) {
+    const auto start = std::chrono::steady_clock::now();
+    MessageList messages;
+    Progress progress;
+    if (!Calculate(session, messages, progress, method)) throw std::runtime_error(messages.texts.back());
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void calculate(benchmark::State& state, Session session, WalkMethod method) {
+    for (auto _ : state) secondsOf(session, method);
+}
+
+/// The time is that of the fast walk; the counter says how many times longer the plain one takes.
+void plainAgainstFast(benchmark::State& state, Session session) {
+    double plain = 0, fast = 0;
+    for (auto _ : state) {
+        plain += secondsOf(session, WalkMethod::Plain);
+        const double seconds = secondsOf(session, WalkMethod::Fast);
+        fast += seconds;
+        state.SetIterationTime(seconds);
+    }
+    state.counters["plain/fast"] = plain / fast;
+}
+
+void growth(benchmark::State& state, WalkMethod method) {
+    const auto spans = static_cast<int>(state.range(0));
+    calculate(state, runway(spans, 30000, Cranes::Independent), method);
+    state.SetComplexityN(spans);
+}
+
+constexpr auto kMs = benchmark::kMillisecond;
+
+BENCHMARK_CAPTURE(calculate, DefaultProject, defaultSession(), WalkMethod::Fast)->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Train_30x30m, runway(30, 30000, Cranes::Train), WalkMethod::Fast)->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Independent_3x10m, runway(3, 10000, Cranes::Independent), WalkMethod::Fast)->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Independent_30x30m, runway(30, 30000, Cranes::Independent), WalkMethod::Fast)->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Slow_Independent_30x30m_plain, runway(30, 30000, Cranes::Independent), WalkMethod::Plain)
+    ->Unit(benchmark::kSecond)
+    ->Iterations(1);
+
+BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, Cranes::Train))->UseManualTime()->Unit(kMs);
+BENCHMARK_CAPTURE(plainAgainstFast, Independent_3x10m, runway(3, 10000, Cranes::Independent))
+    ->UseManualTime()
+    ->Unit(kMs)
+    ->Iterations(3);
+BENCHMARK_CAPTURE(plainAgainstFast, Independent_10x12m, runway(10, 12000, Cranes::Independent))
+    ->UseManualTime()
+    ->Unit(kMs)
+    ->Iterations(1);
+
+BENCHMARK_CAPTURE(growth, Fast_spans_of_30m, WalkMethod::Fast)
+    ->Arg(3)
+    ->Arg(6)
+    ->Arg(12)
+    ->Arg(24)
+    ->Unit(kMs)
+    ->Complexity();
+BENCHMARK_CAPTURE(growth, Plain_spans_of_30m, WalkMethod::Plain)
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(kMs)
+    ->Iterations(1)
+    ->Complexity();
+
+}  // namespace
+}  // namespace borvik

@@ -1,0 +1,123 @@
+#include "results/json.h"
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "calculation/calculation.h"
+
+namespace borvik {
+namespace {
+
+using Document = nlohmann::ordered_json;
+
+struct DefaultRun {
+    DefaultRun() : session(LoadTables(BORVIK_SOURCE_DIR "/data")) {}
+    Document document(const std::optional<std::string>& file = std::nullopt) {
+        Progress progress;
+        Calculate(session, messages, progress);
+        text = ResultsJson(session, messages.texts, file, "Borvik 1.2.3");
+        return Document::parse(text);
+    }
+    Session session;
+    MessageList messages;
+    std::string text;
+};
+
+std::vector<std::string> keysOf(const Document& object) {
+    std::vector<std::string> keys;
+    for (const auto& [key, item] : object.items()) keys.push_back(key);
+    return keys;
+}
+
+/// Lengths of the nested arrays: {3, 21, 8}.
+std::vector<std::size_t> shapeOf(const Document& array) {
+    std::vector<std::size_t> shape;
+    for (const Document* level = &array; level->is_array(); level = &level->front()) {
+        shape.push_back(level->size());
+        if (level->empty()) break;
+    }
+    return shape;
+}
+
+using Shape = std::vector<std::size_t>;
+
+TEST(ResultsJson, keysAndShapesOfTheDefaultProject) {
+    DefaultRun run;
+    const Document d = run.document();
+    EXPECT_EQ(keysOf(d),
+              (std::vector<std::string>{"Schema", "Program", "File", "Calculated", "Messages", "Fault", "Project",
+                                        "Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"}));
+    EXPECT_EQ(d["Schema"], 1);
+    EXPECT_EQ(d["Program"], "Borvik 1.2.3");
+    EXPECT_TRUE(d["File"].is_null());
+    EXPECT_TRUE(d["Fault"].is_null());
+    EXPECT_EQ(d["Project"]["BeamLength"], 15000);
+    EXPECT_EQ(d["Sections"].size(), 3u);
+
+    const std::map<std::string, Shape> shapes{
+        {"/Uls/RzMax", {4}},
+        {"/Uls/MyMaxPoint", {3, 21, 8}},
+        {"/Uls/VyMinPoint", {3, 21, 6}},
+        {"/Uls/MyMaxSpan", {3, 9}},
+        {"/Uls/VyMaxSpan", {3, 7}},
+        {"/Uls/MySupportSpan", {3, 8}},
+        {"/Sls/UzMaxPoint", {3, 21, 3}},
+        {"/Sls/UyMaxSpan", {3, 3}},
+        {"/Checks/BendMax", {3, 8}},
+        {"/Checks/LtbGov", {8}},
+        {"/Checks/LocalSpan", {3, 4}},
+        {"/Checks/LocalGov", {6}},
+        {"/Checks/DefZSpan", {3, 5}},
+        {"/Fls/Cr1/TauRange", {3, 21}},
+        {"/Fls/Cr1/SigSupMax", {4}},
+        {"/Fls/Cr1/Sig1MaxPeak", {3, 2}},
+        {"/Fatigue/FatRows1", {3, 4}},
+        {"/Fatigue/FatRows2", {4, 4}},
+        {"/Fatigue/FatResult6", {4}},
+    };
+    for (const auto& [path, shape] : shapes) EXPECT_EQ(shapeOf(d.at(Document::json_pointer(path))), shape) << path;
+    for (const char* path :
+         {"/Checks/VonMisesSpan", "/Fls/Cr2", "/Fls/Cr12", "/Fatigue/FatRows4", "/Fatigue/FatResult4"})
+        EXPECT_TRUE(d.at(Document::json_pointer(path)).is_null()) << path;
+    EXPECT_EQ(d["Steps"]["StepA1"].size(), d["Steps"]["StepNo"].size());
+    EXPECT_EQ(d["Steps"]["StepNo"].front(), 0);
+}
+
+TEST(ResultsJson, storedNumbersAreShort) {
+    DefaultRun run;
+    run.session.project.Avst(1) = 1900.1;
+    run.document();
+    EXPECT_NE(run.text.find("\"CraneLength1\":1900.1,"), std::string::npos);
+    EXPECT_NE(run.text.find("\"tw\":8.5,"), std::string::npos);
+    EXPECT_EQ(run.text.find('\n'), run.text.size() - 1) << "one line a project";
+}
+
+TEST(ResultsJson, aRefusedProjectHasMessagesAndNoResults) {
+    DefaultRun run;
+    run.session.project.Span(1) = 0;
+    const Document d = run.document("beam.brvk");
+    EXPECT_EQ(d["Calculated"], false);
+    EXPECT_EQ(d["Messages"].front(), " First Beam must have a length ");
+    EXPECT_EQ(d["File"], "beam.brvk");
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"})
+        EXPECT_TRUE(d[key].is_null()) << key;
+}
+
+TEST(ResultsJson, resultsOfAFormerRunAreOutOfReach) {
+    DefaultRun run;
+    run.document();
+    run.session.inputChanged();
+    EXPECT_TRUE(Document::parse(ResultsJson(run.session, {}, std::nullopt, ""))["Uls"].is_null());
+}
+
+TEST(ResultsJson, anyTextSurvives) {
+    DefaultRun run;
+    run.session.project.Proj = "Kran \"väst\"\\\n";
+    const Document d = run.document("caf\xE9.brvk");  // a file name in another encoding
+    EXPECT_EQ(d["Project"]["Proj"], "Kran \"väst\"\\\n");
+    EXPECT_EQ(d["File"], "caf\xEF\xBF\xBD.brvk");
+}
+
+}  // namespace
+}  // namespace borvik
