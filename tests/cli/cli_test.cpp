@@ -1,0 +1,199 @@
+// The built borvik-calc, run as a script runs it.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "platform/version.h"
+#include "project/project_file.h"
+
+namespace borvik {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+struct Outcome {
+    int exitCode;
+    std::string out, err;
+};
+
+/// Each test works in an empty folder of its own.
+class CommandLine : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "borvik-cli-XXXXXX").string();
+        folder = ::mkdtemp(pattern.data());
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    Outcome run(const std::string& arguments) const {
+        const std::string command = "cd '" + folder.string() + "' && " BORVIK_CALC " " + arguments + " >.out 2>.err";
+        const int status = std::system(command.c_str());
+        return {WEXITSTATUS(status), contentOf(folder / ".out"), contentOf(folder / ".err")};
+    }
+
+    /// Puts a project of the tests into the folder.
+    std::string take(const std::string& name, const std::string& as) const {
+        fs::copy_file(fs::path(BORVIK_SOURCE_DIR "/tests/data/vectors") / (name + ".brvk"), folder / as);
+        return as;
+    }
+
+    void write(const std::string& name, const std::string& content) const {
+        std::ofstream(folder / name, std::ios::binary) << content;
+    }
+
+    fs::path folder;
+};
+
+TEST_F(CommandLine, wrongUseExitsWith2) {
+    for (const char* arguments :
+         {"", "--nonsense", "--default a.brvk", "--save x.brvk a.brvk b.brvk", "--default --fail-above much",
+          "--default --fail-above -1", "--default --walk slow", "--json"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.exitCode, 2) << arguments;
+        EXPECT_NE(outcome.err, "") << arguments;
+        EXPECT_EQ(outcome.out, "") << arguments;
+    }
+}
+
+TEST_F(CommandLine, answersHelpAndVersion) {
+    EXPECT_EQ(run("--version").out, std::string("Borvik ") + kVersion + "\n");
+    const Outcome help = run("--help");
+    EXPECT_EQ(help.exitCode, 0);
+    for (const char* option : {"--default", "--tables DIR", "--summary", "--json FILE", "--save FILE.brvk",
+                               "--fail-above X", "--walk plain|fast", "--quiet", "--version"})
+        EXPECT_THAT(help.out, HasSubstr(option));
+}
+
+TEST_F(CommandLine, theDefaultProjectGivesItsSummary) {
+    const Outcome outcome = run("--default");
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_THAT(outcome.out, StartsWith("TestProjekt, TestTravers: 3 spans, 15 m, 1 crane\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("Largest ratio 0."));
+    EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(CommandLine, exitCodesTellWhatHappened) {
+    take("default", "good.brvk");
+    take("gap_in_spans", "gap.brvk");
+    write("cut.brvk", contentOf(folder / "good.brvk").substr(0, 3000));
+    write("empty.brvk", "");
+    Project faulty;
+    LoadProject((folder / "good.brvk").string(), faulty);
+    faulty.fyk = 0;  // a strength that the window would refuse: the resistances divide by it
+    SaveProject((folder / "faulty.brvk").string(), faulty);
+
+    const struct {
+        std::string arguments;
+        int exitCode;
+        std::string message;
+    } cases[] = {
+        {"good.brvk", 0, ""},
+        {"--fail-above 0.2 good.brvk", 1, ""},
+        {"--fail-above 0.6 good.brvk", 0, ""},
+        {"gap.brvk", 3, "gap.brvk:  An inner beam can't have length = 0 \n"},
+        {"faulty.brvk", 4, "faulty.brvk: Run-time error."},
+        {"missing.brvk", 5, "missing.brvk: "},
+        {"cut.brvk", 5, "cut.brvk: "},
+        {"empty.brvk", 5, "empty.brvk: "},
+        {".", 5, ".: "},
+        {"--json nowhere/results.json good.brvk", 5, "good.brvk: can't write nowhere/results.json"},
+        {"--save nowhere/x.brvk good.brvk", 5, "good.brvk: "},
+        {"--tables . good.brvk", 5, "borvik-calc: "},
+    };
+    for (const auto& c : cases) {
+        const Outcome outcome = run(c.arguments);
+        EXPECT_EQ(outcome.exitCode, c.exitCode) << c.arguments << '\n' << outcome.err;
+        EXPECT_THAT(outcome.err, StartsWith(c.message)) << c.arguments;
+        EXPECT_EQ(outcome.err.empty(), c.message.empty()) << c.arguments;
+    }
+}
+
+TEST_F(CommandLine, aDamagedFileIsAMessageAtEveryLength) {
+    take("case-4", "good.brvk");
+    const std::string whole = contentOf(folder / "good.brvk");
+    for (std::size_t length = 0; length < whole.size(); length += 1201) {
+        write("cut.brvk", whole.substr(0, length));
+        const Outcome outcome = run("--quiet cut.brvk");
+        EXPECT_EQ(outcome.exitCode, 5) << length;
+        EXPECT_THAT(outcome.err, StartsWith("cut.brvk: ")) << length;
+    }
+}
+
+TEST_F(CommandLine, oneBadFileDoesNotStopTheOthers) {
+    take("default", "a.brvk");
+    take("gap_in_spans", "b.brvk");
+    fs::create_directory(folder / "other");
+    take("simultaneous", "other/a.brvk");
+    const Outcome outcome = run("--json results a.brvk missing.brvk b.brvk other/a.brvk");
+    EXPECT_EQ(outcome.exitCode, 5);
+    EXPECT_THAT(outcome.err, HasSubstr("missing.brvk: "));
+    EXPECT_THAT(outcome.err, HasSubstr("b.brvk:  An inner beam"));
+    const auto document = [&](const char* name) { return nlohmann::json::parse(contentOf(folder / "results" / name)); };
+    EXPECT_EQ(document("a.json")["File"], "a.brvk");
+    EXPECT_EQ(document("b.json")["Calculated"], false);
+    EXPECT_EQ(document("a-2.json")["File"], "other/a.brvk");
+    EXPECT_EQ(document("a-2.json")["Calculated"], true);
+}
+
+TEST_F(CommandLine, jsonOnStandardOutputIsOneLineAProject) {
+    take("default", "a.brvk");
+    take("independent", "b.brvk");
+    const Outcome outcome = run("--json - a.brvk b.brvk");
+    EXPECT_EQ(outcome.exitCode, 0);
+    std::istringstream lines(outcome.out);
+    std::vector<std::string> files;
+    for (std::string line; std::getline(lines, line);) files.push_back(nlohmann::json::parse(line)["File"]);
+    EXPECT_THAT(files, testing::ElementsAre("a.brvk", "b.brvk"));
+}
+
+TEST_F(CommandLine, bothWalksGiveTheSameBytes) {
+    take("independent", "a.brvk");
+    const Outcome plain = run("--json - --walk plain a.brvk");
+    const Outcome fast = run("--json - --walk fast a.brvk");
+    EXPECT_EQ(plain.exitCode, 0) << plain.err;
+    EXPECT_GT(plain.out.size(), 10000u);
+    EXPECT_TRUE(plain.out == fast.out);
+}
+
+TEST_F(CommandLine, savesTheProjectAsItStandsAfterTheRun) {
+    take("splices_dropped", "a.brvk");
+    EXPECT_EQ(run("--save b.brvk a.brvk").exitCode, 0);
+    Project before, after;
+    LoadProject((folder / "a.brvk").string(), before);
+    LoadProject((folder / "b.brvk").string(), after);
+    EXPECT_EQ(after.BeamLength, 9000.0);
+    EXPECT_FALSE(after.ChkFat5Sp == before.ChkFat5Sp) << "splices that no longer fit are dropped";
+    EXPECT_EQ(after.V(1), before.V(1));
+}
+
+TEST_F(CommandLine, quietSaysNothingUnlessAsked) {
+    EXPECT_EQ(run("--quiet --default").out, "");
+    EXPECT_NE(run("--quiet --summary --default").out, "");
+}
+
+TEST_F(CommandLine, severalOutputsComeTogether) {
+    const Outcome outcome = run("--default --summary --json results.json --save saved.brvk");
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_THAT(outcome.out, HasSubstr("Largest ratio"));
+    EXPECT_TRUE(nlohmann::json::parse(contentOf(folder / "results.json"))["File"].is_null());
+    EXPECT_TRUE(fs::exists(folder / "saved.brvk"));
+}
+
+}  // namespace
+}  // namespace borvik
