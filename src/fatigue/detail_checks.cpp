@@ -130,8 +130,9 @@ Place DetailCheck::firstPlace(int row) const {
     const int n = project_.NofSpans;
     if (atSplices()) {
         const int span = roundHalfEven((project_.*splices().span)(row));
-        const double point = (project_.*splices().distance)(row)*20.0 / project_.Span(span) + 1.0;
-        return {roundHalfEven((project_.*splices().stressSpan)(row)), roundHalfEven(point), row};
+        const double distance = (project_.*splices().distance)(row);
+        const int point = roundHalfEven(distance * 20.0 / project_.Span(span) + 1.0);
+        return {roundHalfEven((project_.*splices().stressSpan)(row)), point, row};
     }
     if (detail_.places == Places::SpanPoints) return {row, 1, row};
     const int span = detail_.places == Places::StrongerSide ? strongerSpanAtSupport(project_, row) : std::min(row, n);
