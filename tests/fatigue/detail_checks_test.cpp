@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 #include "base/fault.h"
@@ -421,6 +422,15 @@ TEST(DetailChecks, withoutASecondCraneTheIndependentSumIsThatOfCrane1) {
         EXPECT_EQ(ratioAndPlace(*alone.FatResult(d)), ratioAndPlace(*independent.FatResult(d))) << "detail " << d;
         EXPECT_EQ(alone.FatResult(d)->Ratio, independent.FatResult(d)->Ratio) << "detail " << d;
     }
+}
+
+// The three D values are held as singles, and the powers are taken of what is held.
+TEST(DetailChecks, powersAreTakenOfTheHeldValues) {
+    Girder girder;
+    railToFlange(girder);
+    const auto held = [](double range) { return double(float(double(1.1F) * range / (115.0 / double(1.15F)))); };
+    EXPECT_DOUBLE_EQ(girder.check(kOverheadDetails, Cranes::Together).FatResult(1)->Ratio,
+                     std::pow(held(100), 3) + std::pow(held(50), 3) + std::pow(held(80), 3));
 }
 
 // The direct stress of the six: 120 kN of crane 2 when its largest wheel is the larger one, or as large.
