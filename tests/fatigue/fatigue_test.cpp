@@ -107,6 +107,26 @@ TEST_F(Fatigue, cranesTogetherRollOnTheGapsOfCrane2) {
     EXPECT_EQ(loads.NCranes, 1);
 }
 
+// 88 kN over 85 mm and 10 mm are 103.53 MPa; LamSigN of both is 0.198 x 2^(1/3): D = 1.1 x 25.83/(36/1.15).
+TEST_F(Fatigue, bothTogetherCountTheWheelsOfBoth) {
+    girder.project.NofCranes = 2;
+    girder.project.TwoCraneMode = 2;
+    girder.project.Fat3 = true;
+    EXPECT_THAT((*run().FatResult(3))(2), StartsWith("0.908^3 + "));
+}
+
+// No bearing length and no stiffener: 2 x 20 x 10 mm2 of web for crane 1, 2 x 2 x 20 x 3 mm2 of fillet for the others.
+TEST_F(Fatigue, onlyCrane1TakesTheWholeWebOfARolledSection) {
+    girder.project.NofCranes = 2;
+    girder.project.TwoCraneMode = 2;
+    girder.project.W3 = "FW";
+    girder.project.SpanSection(1).Fab = "R";
+    const FatigueResults results = run();
+    EXPECT_NEAR(results.Cr1->SigSupRange(1), results.Cr1->RzMax(1) * 0.397 / 400, kSmall);
+    EXPECT_NEAR(results.Cr2->SigSupRange(1), results.Cr2->RzMax(1) * 0.25 / 240, kSmall);
+    EXPECT_NEAR(results.Cr12->SigSupRange(1), results.Cr12->RzMax(1) * 0.198 / 240, kSmall);
+}
+
 // Crane 2 runs with the dynamic factor and the class of crane 1: 88 x 10/4 + 50 x 1.1 x 1/2 = 247.5 kNm.
 TEST_F(Fatigue, aTrainIsOneCrane) {
     girder.project.NofCranes = 2;
