@@ -9,6 +9,7 @@ namespace borvik {
 
 namespace {
 
+constexpr int kRows = 8;  // more than any crane's group has; what room is left goes below
 constexpr const char* kPsiMessage = " Psi factor >= 0.8 ! ";
 
 QString tr(const char* text) {
@@ -49,6 +50,7 @@ CraneGroup::CraneGroup(FormBinder& binder, Project& project, int crane, const Cr
     for (const char* name : CraneClassName) class_->addItem(QString::fromUtf8(name));
     addRow(grid, tr("Crane Class:"), class_);
     addWide(grid, wheels(binder, project, crane, text, gapMask));
+    grid->setRowStretch(kRows, 1);
     show();
 }
 

@@ -1,8 +1,11 @@
 #include "forms/dialogs.h"
 
+#include "forms/beam_dialog.h"
 #include "forms/load_dialog.h"
 #include "forms/load_runway_dialog.h"
+#include "forms/rail_dialog.h"
 #include "forms/setup_dialog.h"
+#include "forms/vipping_dialog.h"
 
 namespace borvik {
 
@@ -24,10 +27,16 @@ std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages&
         switch (kind) {
             case DialogKind::Setup:
                 return make<SetupDialog>;
+            case DialogKind::Beam:
+                return make<BeamDialog>;
             case DialogKind::Load:
                 return make<LoadDialog>;
             case DialogKind::LoadRunway:
                 return make<LoadRunwayDialog>;
+            case DialogKind::Rail:
+                return make<RailDialog>;
+            case DialogKind::Lateral:
+                return make<VippingDialog>;
             default:
                 return nullptr;
         }

@@ -107,8 +107,12 @@ Group makeGroup(const std::string& name, const QString& title) {
     return {box, new QGridLayout(box)};
 }
 
+int nextRow(const QGridLayout* grid) {
+    return grid->count() == 0 ? 0 : grid->rowCount();
+}
+
 void addRow(QGridLayout* grid, const QString& label, QWidget* field, const QString& unit) {
-    const int row = grid->rowCount();
+    const int row = nextRow(grid);
     auto* text = new QLabel(label);
     text->setBuddy(field);
     grid->addWidget(text, row, 0);
@@ -117,10 +121,11 @@ void addRow(QGridLayout* grid, const QString& label, QWidget* field, const QStri
 }
 
 void addWide(QGridLayout* grid, QWidget* widget) {
-    grid->addWidget(widget, grid->rowCount(), 0, 1, -1);
+    grid->addWidget(widget, nextRow(grid), 0, 1, -1);
 }
 
-QPushButton* makeButton(const std::string& name, const QString& text, const QString& tip, std::function<void()> clicked) {
+QPushButton* makeButton(const std::string& name, const QString& text, const QString& tip,
+                        std::function<void()> clicked) {
     return makeChoice<QPushButton>(name, text, tip, std::move(clicked));
 }
 

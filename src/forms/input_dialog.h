@@ -60,6 +60,8 @@ struct Group {
 };
 
 [[nodiscard]] Group makeGroup(const std::string& name, const QString& title);
+/// The first empty row at the foot of a grid.
+[[nodiscard]] int nextRow(const QGridLayout* grid);
 /// Adds a row "label, field, unit" at the foot of a grid, the label as the field's buddy.
 void addRow(QGridLayout* grid, const QString& label, QWidget* field, const QString& unit = {});
 /// Adds a control over the whole width at the foot of a grid.

@@ -16,16 +16,16 @@ namespace borvik {
 
 LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmLoad", tr("Overhead crane - Loads"), session, messages, std::move(changed), parent) {
-    auto* content = new QGridLayout;
+    const auto edited = [this] { takeEdit(); };
     auto* left = new QVBoxLayout;
     left->addWidget(gangway().box);
-    const auto edited = [this] { takeEdit(); };
     position_ = std::make_unique<PositionGroup>(binder_, project_, tr("Loadpositioning"),
                                                 tr("Position for first wheel (Cr 1) from left beamsupport:"), edited);
     left->addWidget(position_->box());
-    left->addWidget(numberOfCranes().box);
-    left->addStretch();
+    left->addWidget(loads().box);
+    auto* content = new QGridLayout;
     content->addLayout(left, 0, 0);
+    content->addWidget(numberOfCranes().box, 0, 1);
 
     const char* last = "Only positiv value";
     const char* inner = "Only positiv value!";
@@ -42,15 +42,14 @@ LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void(
                        "First wheel for Crane  2 must have a vertical force!", inner},
         project_.CraneClass2, nullptr, edited);
     addWide(crane2_->grid(), new QLabel(tr("  Vertical load = Dead load + Hoist load ")));
-    content->addWidget(crane1_->box(), 0, 1);
-    content->addWidget(crane2_->box(), 0, 2);
-
-    picture_ = new Picture(cranesPicture(project_), 90, 9);
+    content->addWidget(crane1_->box(), 1, 0);
+    content->addWidget(crane2_->box(), 1, 1);
+    picture_ = new Picture(cranesPicture(project_), 90, 7);
     picture_->setToolTip(tr("Numbers of the wheels and their distances"));
-    content->addWidget(picture_, 1, 0, 1, 3);
-    content->addWidget(loads().box, 2, 0, 1, 3);
+    content->addWidget(picture_, 2, 0, 1, 2);
+    content->setRowStretch(2, 1);
     content->addWidget(
-        makeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); }), 3, 2,
+        makeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); }), 3, 1,
         Qt::AlignRight);
     setContent(content);
     binder_.accepted = edited;
@@ -144,6 +143,7 @@ Group LoadDialog::numberOfCranes() {
     LblUF_->setMinimumWidth(
         LblUF_->fontMetrics().horizontalAdvance(QStringLiteral("IR = D(Cr1)^3 + D(Cr2)^3 + D(Cr1+Cr2)^3  ")));
     group.grid->addWidget(acting.box, 3, 0, 1, 4);
+    group.grid->setRowStretch(4, 1);
     return group;
 }
 

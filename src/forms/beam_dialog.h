@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/input_dialog.h"
+
+class QCheckBox;
+class QTreeWidgetItem;
+
+namespace borvik {
+
+class Picture;
+
+/// frmBeam: length and section of each of up to 30 spans.
+class BeamDialog : public InputDialog {
+public:
+    BeamDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
+
+    /// Fills the list and the boxes from the record.
+    void Write();
+
+protected:
+    bool mayClose() override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    enum What { Length = 1, Profile = 2 };
+
+    Group entry();
+    void makeList30();
+    void fillSections();
+    /// Rows to be changed: the selected ones, or all in use.
+    [[nodiscard]] std::vector<int> selectedRows() const;
+    [[nodiscard]] std::vector<int> rowsInUse() const;
+    void apply(const std::vector<int>& rows, int what);
+    void clearSelected();
+    void selectColumn(int column);
+    void showRow(int row);
+    void moveDown();
+    void bringSectionsUpToDate();
+    void openSectionForm();
+
+    std::string BeamLengthText;
+    QTreeWidget* lstViewTill_;
+    QComboBox* cboProf_;
+    QCheckBox* chkDead_;
+    NumberBox* txtBeamLength_;
+    Picture* picture_;
+    std::unique_ptr<QDialog> sectionForm_;
+};
+
+}  // namespace borvik

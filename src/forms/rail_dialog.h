@@ -1,0 +1,29 @@
+#pragma once
+
+#include "forms/input_dialog.h"
+
+class QCheckBox;
+class QRadioButton;
+
+namespace borvik {
+
+class Picture;
+
+/// frmRail: the crane rail, whether its weight counts, and how it is fastened to the flange.
+class RailDialog : public InputDialog {
+public:
+    RailDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
+
+private:
+    Group choice();
+    Group fastening();
+    void chooseRail(int row);
+    void writeList();
+
+    QComboBox* cboRail_;
+    QCheckBox* chkRail_;
+    QTreeWidget* list_;
+    Picture* picture_;
+};
+
+}  // namespace borvik
