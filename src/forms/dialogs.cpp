@@ -1,6 +1,8 @@
 #include "forms/dialogs.h"
 
 #include "forms/beam_dialog.h"
+#include "forms/fatigue1_dialog.h"
+#include "forms/fatigue2_dialog.h"
 #include "forms/load_dialog.h"
 #include "forms/load_runway_dialog.h"
 #include "forms/rail_dialog.h"
@@ -37,6 +39,10 @@ std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages&
                 return make<RailDialog>;
             case DialogKind::Lateral:
                 return make<VippingDialog>;
+            case DialogKind::Fatigue1:
+                return make<Fatigue1Dialog>;
+            case DialogKind::Fatigue2:
+                return make<Fatigue2Dialog>;
             default:
                 return nullptr;
         }
