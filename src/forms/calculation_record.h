@@ -1,0 +1,20 @@
+#pragma once
+
+#include <memory>
+
+#include "calculation/session.h"
+
+namespace borvik {
+
+/// A finished calculation with the input it was made from. What is shown of it stays true to itself while the user edits
+/// the project.
+struct CalculationRecord {
+    Project project;
+    Results results;
+};
+using CalculationPtr = std::shared_ptr<const CalculationRecord>;
+
+/// What stands at results that the input has left behind.
+inline constexpr const char* kOutOfDate = "Out of date: the input has changed since this was calculated";
+
+}  // namespace borvik

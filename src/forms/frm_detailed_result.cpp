@@ -1,0 +1,85 @@
+#include "forms/frm_detailed_result.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "forms/printing.h"
+
+namespace borvik {
+
+namespace {
+
+QPushButton* closeButton(const char* name, QDialog* dialog) {
+    auto* button = new QPushButton("OK");
+    button->setObjectName(name);
+    button->setDefault(true);
+    QObject::connect(button, &QPushButton::clicked, dialog, &QDialog::accept);
+    return button;
+}
+
+QSize generousSize(const QWidget* parent) {
+    return parent == nullptr ? QSize(900, 600) : parent->size() * 0.9;
+}
+
+}  // namespace
+
+FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent)
+    : QDialog(parent), calculation_(std::move(calculation)) {
+    setObjectName("frmDetailedResult");
+    setWindowTitle("Detailed Results");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    tree_ = new ResultTreeView("TreeView1");
+    tree_->showTree(detailedTree(calculation_->project));
+    pane_ = new ResultTablePane("lstViewDetailed");
+    auto* splitter = new QSplitter;
+    splitter->addWidget(tree_);
+    splitter->addWidget(pane_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({220, 700});
+    splitter->setChildrenCollapsible(false);
+
+    cmdDetailedResult_ = new QPushButton("Export to Excel");
+    cmdDetailedResult_->setObjectName("cmdDetailedResult");
+    cmdDetailedResult_->setAutoDefault(false);
+    cmdDetailedResult_->setEnabled(false);
+    connect(cmdDetailedResult_, &QPushButton::clicked, this, [this] { exportTable(pane_->list()->table(), this); });
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDetailedResult_);
+    buttons->addStretch();
+    buttons->addWidget(closeButton("cmbOk", this));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(splitter, 1);
+    layout->addLayout(buttons);
+    resize(generousSize(parent));
+    connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::show);
+}
+
+void FrmDetailedResult::show(const TreeNode& node) {
+    if (node.needsLoadsY && !calculation_->project.HasLoadsY) return;
+    const TableEntry* entry = findTable(node.name);
+    if (entry == nullptr) return;
+    pane_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
+    cmdDetailedResult_->setEnabled(canExportTable());
+}
+
+FrmTemp::FrmTemp(const CalculationPtr& calculation, QWidget* parent) : QDialog(parent) {
+    setObjectName("frmTemp");
+    setWindowTitle("TempResults");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* pane = new ResultTablePane("lstViewTemp");
+    if (calculation) {
+        pane->showTable(tr("Positions of the cranes in the last walk"),
+                        TableSteps(calculation->project, calculation->results));
+    } else {
+        pane->showTable(tr("No calculation of the present input"), TableSteps(Project{}, Results{}));
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(pane, 1);
+    layout->addWidget(closeButton("cmdOK", this), 0, Qt::AlignRight);
+    resize(generousSize(parent));
+}
+
+}  // namespace borvik

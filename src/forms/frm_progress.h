@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "platform/progress.h"
+
+namespace borvik {
+
+/// frmProgress: the progress of a run with two cranes. It shows itself, without blocking, when the first walk starts, and
+/// stays after the run until the user closes it.
+class FrmProgress : public QDialog, public Progress {
+    Q_OBJECT
+
+public:
+    explicit FrmProgress(QWidget* parent);
+
+    void walkStarts(Walk walk) override;
+    void position(Walk walk, double percent) override;
+    void walkEnds(Walk walk) override;
+
+    /// The run has ended: appends its line and lets the user close the window.
+    /// @param secondsStatic  time of the ULS and SLS part. The line names FLS all the same, which is meant.
+    void finish(double secondsStatic);
+
+Q_SIGNALS:
+    /// The user has closed the window by its button.
+    void closedByUser();
+
+protected:
+    void reject() override;
+
+private:
+    void repaintNow();
+
+    ProgressText lines_;
+    QPlainTextEdit* txt_;
+    QProgressBar* bar_;
+    QPushButton* cmdOK_;
+    QElapsedTimer sinceRepaint_;
+};
+
+}  // namespace borvik

@@ -1,0 +1,240 @@
+#include "forms/result_table_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "forms/calculation_record.h"
+#include "forms/icons.h"
+#include "forms/printing.h"
+
+namespace borvik {
+
+namespace {
+
+QString asHtml(const QString& tabSeparatedText) {
+    QString html = "<table>";
+    for (const QString& line : tabSeparatedText.split('\n', Qt::SkipEmptyParts))
+        html += "<tr><td>" + line.toHtmlEscaped().replace('\t', "</td><td>") + "</td></tr>";
+    return html + "</table>";
+}
+
+}  // namespace
+
+ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(this) {
+    setModel(&model_);
+    setAlternatingRowColors(true);
+    setSelectionMode(ExtendedSelection);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setResizeContentsPrecision(300);
+    horizontalHeader()->setSectionsMovable(false);
+    buildFirstColumn();
+}
+
+void ResultTableView::buildFirstColumn() {
+    firstColumn_ = new QTableView(this);
+    firstColumn_->setModel(&model_);
+    firstColumn_->setSelectionModel(selectionModel());
+    firstColumn_->setFocusPolicy(Qt::NoFocus);
+    firstColumn_->setFrameShape(QFrame::NoFrame);
+    firstColumn_->setAlternatingRowColors(true);
+    firstColumn_->setWordWrap(false);
+    firstColumn_->verticalHeader()->hide();
+    firstColumn_->verticalHeader()->setDefaultSectionSize(verticalHeader()->defaultSectionSize());
+    firstColumn_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    firstColumn_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    firstColumn_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    firstColumn_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    firstColumn_->setVerticalScrollMode(verticalScrollMode());
+    firstColumn_->hide();
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, firstColumn_->verticalScrollBar(), &QScrollBar::setValue);
+    connect(firstColumn_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeFirstColumn(); });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { placeFirstColumn(); });
+}
+
+void ResultTableView::placeFirstColumn() {
+    // Needed only while the column itself is scrolled out of sight: headings may then run over all columns.
+    const bool needed = horizontalScrollBar()->value() > 0 && model_.columnCount() > 1;
+    firstColumn_->setVisible(needed);
+    if (!needed) return;
+    for (int column = 1; column < model_.columnCount(); ++column) firstColumn_->setColumnHidden(column, true);
+    const int width = std::min(columnWidth(0), viewport()->width() / 2);
+    firstColumn_->setColumnWidth(0, width);
+    firstColumn_->horizontalHeader()->setFixedHeight(horizontalHeader()->height());
+    firstColumn_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + horizontalHeader()->height());
+    firstColumn_->verticalScrollBar()->setValue(verticalScrollBar()->value());
+    firstColumn_->raise();
+}
+
+void ResultTableView::showTable(ResultTable table) {
+    clearSpans();
+    model_.setTable(std::move(table));
+    const int columns = model_.columnCount();
+    if (columns > 1)
+        for (int row = 0; row < model_.rowCount(); ++row)
+            if (model_.isLine(row)) setSpan(row, 0, 1, columns);
+    fitColumns();
+    scrollToTop();
+    horizontalScrollBar()->setValue(0);
+    placeFirstColumn();
+}
+
+void ResultTableView::fitColumns() {
+    const int columns = model_.columnCount();
+    if (columns == 0) return;
+    resizeColumnsToContents();
+    const int room = viewport()->width();
+    int total = 0;
+    for (int column = 0; column < columns; ++column) {
+        setColumnWidth(column, std::clamp(columnWidth(column) + 12, 60, std::max(120, room / 2)));
+        total += columnWidth(column);
+    }
+    for (int column = 0; column < columns && total < room; ++column)
+        setColumnWidth(column, columnWidth(column) + (room - total) / columns);
+}
+
+void ResultTableView::setOutOfDate(bool outOfDate) {
+    outOfDate_ = outOfDate;
+    model_.setOutOfDate(outOfDate);
+}
+
+void ResultTableView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    placeFirstColumn();
+}
+
+QModelIndex ResultTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex current = QTableView::moveCursor(action, modifiers);
+    const int covered = firstColumn_->isVisible() ? firstColumn_->width() : 0;
+    const int left = visualRect(current).left();
+    if (action == MoveLeft && current.column() > 0 && left < covered)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + left - covered);
+    return current;
+}
+
+QString ResultTableView::selectionText(bool withHeaders) const {
+    QModelIndexList cells = selectionModel()->selectedIndexes();
+    if (cells.isEmpty()) return {};
+    std::sort(cells.begin(), cells.end());
+    QList<int> columns;
+    for (const QModelIndex& cell : cells)
+        if (!columns.contains(cell.column())) columns.append(cell.column());
+    std::sort(columns.begin(), columns.end());
+    QString text;
+    if (withHeaders) {
+        QStringList heads;
+        for (const int column : columns)
+            heads << model_.headerData(column, Qt::Horizontal).toString().replace('\n', ' ').trimmed();
+        text = heads.join('\t') + '\n';
+    }
+    for (auto cell = cells.cbegin(); cell != cells.cend();) {
+        const int row = cell->row();
+        QStringList line(columns.size());
+        for (; cell != cells.cend() && cell->row() == row; ++cell)
+            line[columns.indexOf(cell->column())] = cell->data().toString();
+        text += line.join('\t') + '\n';
+    }
+    return text;
+}
+
+QString ResultTableView::wholeText() const { return QString::fromStdString(tabSeparated(model_.table())); }
+
+void ResultTableView::copy(const QString& text) {
+    if (text.isEmpty()) return;
+    const QString marked = outOfDate_ ? QString::fromLatin1(kOutOfDate) + '\n' + text : text;
+    auto* data = new QMimeData;
+    data->setText(marked);
+    data->setHtml(asHtml(marked));
+    QApplication::clipboard()->setMimeData(data);
+}
+
+void ResultTableView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        copy(selectionText(false));
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu;
+    const bool some = selectionModel()->hasSelection();
+    QAction* copySelection = menu.addAction(themeIcon("edit-copy", QStyle::SP_FileIcon), tr("Copy"));
+    copySelection->setShortcut(QKeySequence::Copy);
+    QAction* copyWithHeaders = menu.addAction(tr("Copy with headers"));
+    QAction* copyAll = menu.addAction(tr("Copy whole table"));
+    copySelection->setEnabled(some);
+    copyWithHeaders->setEnabled(some);
+    copyAll->setEnabled(model_.rowCount() > 0);
+    menu.addSeparator();
+    QAction* exportAll = menu.addAction(tr("Export to Excel"));
+    exportAll->setEnabled(canExportTable() && model_.columnCount() > 0 && !outOfDate_);
+    const QAction* chosen = menu.exec(event->globalPos());
+    if (chosen == copySelection) copy(selectionText(false));
+    if (chosen == copyWithHeaders) copy(selectionText(true));
+    if (chosen == copyAll) copy(wholeText());
+    if (chosen == exportAll && chosen != nullptr) exportTable(model_.table(), this);
+}
+
+ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWidget(parent) {
+    title_ = new QLabel;
+    title_->setObjectName(listName + "Title");
+    outOfDate_ = new QLabel(QString::fromUtf8("\u26a0 ") + QString::fromLatin1(kOutOfDate));
+    outOfDate_->setObjectName(listName + "OutOfDate");
+    QFont bold = font();
+    bold.setBold(true);
+    title_->setFont(bold);
+    outOfDate_->setFont(bold);
+    outOfDate_->setAlignment(Qt::AlignRight);
+    outOfDate_->hide();
+    note_ = new QLabel;
+    note_->setObjectName(listName + "Note");
+    note_->setWordWrap(true);
+    note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    note_->hide();
+    list_ = new ResultTableView;
+    list_->setObjectName(listName);
+    list_->setAccessibleName(tr("Result table"));
+    auto* head = new QHBoxLayout;
+    head->addWidget(title_);
+    head->addStretch();
+    head->addWidget(outOfDate_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(head);
+    layout->addWidget(list_, 1);
+    layout->addWidget(note_);
+}
+
+void ResultTablePane::showTable(const QString& title, ResultTable table) {
+    title_->setText(title);
+    note_->setText(QString::fromStdString(table.note));
+    note_->setVisible(!table.note.empty());
+    setOutOfDate(false);
+    list_->showTable(std::move(table));
+}
+
+void ResultTablePane::clear() { showTable({}, {}); }
+
+void ResultTablePane::setOutOfDate(bool outOfDate) {
+    const bool marked = outOfDate && list_->model()->rowCount() > 0;
+    outOfDate_->setVisible(marked);
+    list_->setOutOfDate(marked);
+}
+
+}  // namespace borvik

@@ -1,0 +1,90 @@
+#include "forms/result_tree_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "forms/icons.h"
+
+namespace borvik {
+
+namespace {
+
+bool sameTree(const TreeNode& a, const TreeNode& b) {
+    return a.text == b.text && a.opens == b.opens && a.name == b.name && a.needsLoadsY == b.needsLoadsY &&
+           std::equal(a.children.begin(), a.children.end(), b.children.begin(), b.children.end(), sameTree);
+}
+
+bool showsResults(const TreeNode& node) {
+    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::DetailedResults;
+}
+
+}  // namespace
+
+ResultTreeView::ResultTreeView(const QString& name, QWidget* parent) : QTreeWidget(parent) {
+    setObjectName(name);
+    setHeaderHidden(true);
+    setColumnCount(1);
+    setAccessibleName(tr("Input and results"));
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { choose(item); });
+}
+
+void ResultTreeView::add(QTreeWidgetItem* parent, const TreeNode& node) {
+    auto* item = new QTreeWidgetItem(QStringList(QString::fromStdString(node.text)));
+    if (parent == nullptr) {
+        addTopLevelItem(item);
+    } else {
+        parent->addChild(item);
+    }
+    if (node.opens == NodeOpens::InputForm) item->setIcon(0, pictureIcon(Picture::Form));
+    if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults)
+        item->setIcon(0, pictureIcon(Picture::Table));
+    if (node.opens == NodeOpens::Picture) item->setIcon(0, pictureIcon(Picture::Diagram));
+    nodes_.insert(item, &node);
+    for (const TreeNode& child : node.children) add(item, child);
+}
+
+void ResultTreeView::showTree(const TreeNode& root) {
+    if (!nodes_.isEmpty() && sameTree(root, root_)) return;
+    const QString selected = currentItem() != nullptr ? currentItem()->text(0) : QString();
+    nodes_.clear();
+    clear();
+    root_ = root;
+    add(nullptr, root_);
+    expandAll();
+    if (QTreeWidgetItem* again = itemOf(selected)) setCurrentItem(again);
+}
+
+void ResultTreeView::setResultsReachable(bool reachable) {
+    for (auto entry = nodes_.cbegin(); entry != nodes_.cend(); ++entry)
+        if (showsResults(*entry.value()))
+            entry.key()->setForeground(0, palette().color(reachable ? QPalette::Active : QPalette::Disabled,
+                                                          QPalette::Text));
+}
+
+QTreeWidgetItem* ResultTreeView::itemOf(const QString& text) const {
+    const auto found = findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+    return found.isEmpty() ? nullptr : found.constFirst();
+}
+
+void ResultTreeView::choose(QTreeWidgetItem* item) {
+    const TreeNode* node = nodes_.value(item);
+    if (node == nullptr || node->opens == NodeOpens::Nothing) return;
+    const TreeNode chosen = *node;  // the tree may be filled anew by what follows
+    Q_EMIT nodeChosen(chosen);
+}
+
+void ResultTreeView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space) {
+        choose(currentItem());
+        return;
+    }
+    const QTreeWidgetItem* before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    QTreeWidgetItem* now = currentItem();
+    const TreeNode* node = nodes_.value(now);
+    if (now != before && node != nullptr && (node->opens == NodeOpens::Table || node->opens == NodeOpens::Picture))
+        choose(now);
+}
+
+}  // namespace borvik

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/messages.h"
+#include "platform/questions.h"
+#include "platform/settings_store.h"
+
+namespace borvik {
+
+/// The outside as the windows see it. Tests put their own in place of boxes, choosers and settings.
+struct Services {
+    Messages& messages;
+    Questions& questions;
+    SettingsStore& settings;
+};
+
+/// The program's title: in boxes, and as the application name of the settings.
+inline constexpr const char* kApplicationTitle = "Borvik";
+
+}  // namespace borvik
