@@ -6,8 +6,8 @@
 
 namespace borvik {
 
-/// A finished calculation with the input it was made from. What is shown of it stays true to itself while the user edits
-/// the project.
+/// A finished calculation with the input it was made from. What is shown of it stays true to itself while the user
+/// edits the project.
 struct CalculationRecord {
     Project project;
     Results results;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
 
 #include "forms/calculation_record.h"
 #include "forms/result_table_view.h"

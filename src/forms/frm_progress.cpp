@@ -1,7 +1,6 @@
 #include "forms/frm_progress.h"
 
 #include <QCoreApplication>
-#include <QTime>
 #include <QVBoxLayout>
 #include <cmath>
 
@@ -58,9 +57,8 @@ void FrmProgress::walkEnds(Walk walk) {
     repaintNow();
 }
 
-void FrmProgress::finish(double secondsStatic) {
-    const QTime time = QTime(0, 0).addSecs(static_cast<int>(secondsStatic));
-    lines_.append("\nCalculation FLS finnished  - " + time.toString("HH:mm:ss").toStdString() + "\r");
+void FrmProgress::runEnds(double secondsStatic) {
+    lines_.runEnds(secondsStatic);
     cmdOK_->setEnabled(true);
     repaintNow();
     cmdOK_->setFocus();

@@ -10,8 +10,8 @@
 
 namespace borvik {
 
-/// frmProgress: the progress of a run with two cranes. It shows itself, without blocking, when the first walk starts, and
-/// stays after the run until the user closes it.
+/// frmProgress: the progress of a run with two cranes. It shows itself, without blocking, when the first walk starts,
+/// and stays after the run until the user closes it.
 class FrmProgress : public QDialog, public Progress {
     Q_OBJECT
 
@@ -22,9 +22,8 @@ public:
     void position(Walk walk, double percent) override;
     void walkEnds(Walk walk) override;
 
-    /// The run has ended: appends its line and lets the user close the window.
-    /// @param secondsStatic  time of the ULS and SLS part. The line names FLS all the same, which is meant.
-    void finish(double secondsStatic);
+    /// Lets the user close the window.
+    void runEnds(double secondsStatic) override;
 
 Q_SIGNALS:
     /// The user has closed the window by its button.

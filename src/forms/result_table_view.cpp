@@ -157,10 +157,10 @@ QString ResultTableView::wholeText() const { return QString::fromStdString(tabSe
 void ResultTableView::copy(const QString& text) {
     if (text.isEmpty()) return;
     const QString marked = outOfDate_ ? QString::fromLatin1(kOutOfDate) + '\n' + text : text;
-    auto* data = new QMimeData;
-    data->setText(marked);
-    data->setHtml(asHtml(marked));
-    QApplication::clipboard()->setMimeData(data);
+    auto* copied = new QMimeData;
+    copied->setText(marked);
+    copied->setHtml(asHtml(marked));
+    QApplication::clipboard()->setMimeData(copied);
 }
 
 void ResultTableView::keyPressEvent(QKeyEvent* event) {

@@ -8,8 +8,8 @@
 
 namespace borvik {
 
-/// The list of a result table. Its first column stays in view when the others are scrolled away. Copies as tab-separated
-/// text and as HTML.
+/// The list of a result table. Its first column stays in view when the others are scrolled away. Copies as
+/// tab-separated text and as HTML.
 class ResultTableView : public QTableView {
     Q_OBJECT
 

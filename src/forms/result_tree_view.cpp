@@ -16,7 +16,8 @@ bool sameTree(const TreeNode& a, const TreeNode& b) {
 }
 
 bool showsResults(const TreeNode& node) {
-    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::DetailedResults;
+    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture ||
+           node.opens == NodeOpens::DetailedResults;
 }
 
 }  // namespace
@@ -58,8 +59,8 @@ void ResultTreeView::showTree(const TreeNode& root) {
 void ResultTreeView::setResultsReachable(bool reachable) {
     for (auto entry = nodes_.cbegin(); entry != nodes_.cend(); ++entry)
         if (showsResults(*entry.value()))
-            entry.key()->setForeground(0, palette().color(reachable ? QPalette::Active : QPalette::Disabled,
-                                                          QPalette::Text));
+            entry.key()->setForeground(
+                0, palette().color(reachable ? QPalette::Active : QPalette::Disabled, QPalette::Text));
 }
 
 QTreeWidgetItem* ResultTreeView::itemOf(const QString& text) const {
@@ -67,11 +68,11 @@ QTreeWidgetItem* ResultTreeView::itemOf(const QString& text) const {
     return found.isEmpty() ? nullptr : found.constFirst();
 }
 
-void ResultTreeView::choose(QTreeWidgetItem* item) {
+void ResultTreeView::choose(QTreeWidgetItem* item, bool byWalking) {
     const TreeNode* node = nodes_.value(item);
     if (node == nullptr || node->opens == NodeOpens::Nothing) return;
     const TreeNode chosen = *node;  // the tree may be filled anew by what follows
-    Q_EMIT nodeChosen(chosen);
+    Q_EMIT nodeChosen(chosen, byWalking);
 }
 
 void ResultTreeView::keyPressEvent(QKeyEvent* event) {
@@ -84,7 +85,7 @@ void ResultTreeView::keyPressEvent(QKeyEvent* event) {
     QTreeWidgetItem* now = currentItem();
     const TreeNode* node = nodes_.value(now);
     if (now != before && node != nullptr && (node->opens == NodeOpens::Table || node->opens == NodeOpens::Picture))
-        choose(now);
+        choose(now, true);
 }
 
 }  // namespace borvik

@@ -7,8 +7,8 @@
 
 namespace borvik {
 
-/// A tree of input and result nodes. A click on a node, or Enter on it, chooses it; walking over the tree by the arrow keys
-/// shows tables and pictures as well, but opens no window.
+/// A tree of input and result nodes. A click on a node, or Enter on it, chooses it; walking over the tree by the arrow
+/// keys shows tables and pictures as well, but opens no window.
 class ResultTreeView : public QTreeWidget {
     Q_OBJECT
 
@@ -24,14 +24,15 @@ public:
     [[nodiscard]] QTreeWidgetItem* itemOf(const QString& text) const;
 
 Q_SIGNALS:
-    void nodeChosen(const borvik::TreeNode& node);
+    /// @param byWalking  by the arrow keys, in passing
+    void nodeChosen(const borvik::TreeNode& node, bool byWalking);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void add(QTreeWidgetItem* parent, const TreeNode& node);
-    void choose(QTreeWidgetItem* item);
+    void choose(QTreeWidgetItem* item, bool byWalking = false);
 
     TreeNode root_;
     QHash<QTreeWidgetItem*, const TreeNode*> nodes_;

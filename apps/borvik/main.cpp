@@ -1,0 +1,33 @@
+#include <QApplication>
+
+#include "forms/main_window.h"
+#include "forms/wheel_guard.h"
+#include "platform/data_folder.h"
+#include "platform/qt/qt_messages.h"
+#include "platform/qt/qt_settings.h"
+
+/// The desktop program. Takes one project file as its argument.
+int main(int argc, char** argv) {
+    using namespace borvik;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(kApplicationTitle);
+    QApplication::setApplicationVersion(BORVIK_VERSION);
+    QApplication::setDesktopFileName("borvik");
+    WheelGuard wheelGuard;
+    application.installEventFilter(&wheelGuard);
+
+    QtMessages messages;
+    QtQuestions questions;
+    QtSettings settings;
+    try {
+        Session session(LoadTables(FindDataFolder(ProgramFolder(argv[0]))));
+        MainWindow window(session, {messages, questions, settings});
+        window.show();
+        const QStringList arguments = QApplication::arguments();
+        if (arguments.size() > 1) window.openProject(arguments.at(1).toStdString());
+        return QApplication::exec();
+    } catch (const TableError& error) {
+        messages.show(error.what());
+        return 5;
+    }
+}

@@ -1,0 +1,227 @@
+#include "forms/main_window.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "forms/frm_detailed_result.h"
+#include "forms/icons.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr QSize kStartSize(1024, 741);
+
+QPushButton* button(const char* name, const char* caption) {
+    auto* made = new QPushButton(QString::fromUtf8(caption));
+    made->setObjectName(QString::fromUtf8(name));
+    return made;
+}
+
+bool isProjectFile(const QMimeData* data) {
+    return data->urls().size() == 1 && data->urls().constFirst().isLocalFile() &&
+           data->urls().constFirst().path().endsWith(".brvk", Qt::CaseInsensitive);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session, const Services& services, QWidget* parent)
+    : QMainWindow(parent), session_(session), services_(services), recent_(services.settings, kApplicationTitle) {
+    setObjectName("frmBorvik");
+    setAcceptDrops(true);
+    resize(kStartSize);
+    buildCentre();
+    buildMenus();
+    buildStatusBar();
+    ShowRecentFiles();
+    WritefrmInput();
+    saved_ = session_.project;
+    showState();
+}
+
+void MainWindow::buildCentre() {
+    auto* right = new QSplitter(Qt::Vertical);
+    right->setObjectName("splitterResults");
+    right->addWidget(pictureFrame());
+    right->addWidget(resultFrame());
+    right->setStretchFactor(0, 3);
+    right->setStretchFactor(1, 2);
+    right->setChildrenCollapsible(false);
+    auto* centre = new QSplitter(Qt::Horizontal);
+    centre->setObjectName("splitterMain");
+    centre->addWidget(inputColumn());
+    centre->addWidget(right);
+    centre->setStretchFactor(0, 0);
+    centre->setStretchFactor(1, 1);
+    centre->setChildrenCollapsible(false);
+    centre->setContentsMargins(6, 6, 6, 0);
+    setCentralWidget(centre);
+}
+
+QWidget* MainWindow::inputColumn() {
+    panel_ = new ProjectPanel(session_, services_.messages);
+    connect(panel_, &ProjectPanel::inputChanged, this, &MainWindow::projectChanged);
+    connect(panel_, &ProjectPanel::namesChanged, this, &MainWindow::showState);
+
+    auto* cmdProfile = button("cmdProfile", "Profile");
+    auto* command1 = button("Command1", "Beam");
+    auto* command2 = button("Command2", "Load");
+    auto* command3 = button("Command3", "TempResults");
+    cmdCalc_ = button("cmdCalc", "Calculate");
+    QFont bold = cmdCalc_->font();
+    bold.setBold(true);
+    cmdCalc_->setFont(bold);
+    cmdCalc_->setToolTip(tr("Calculate the beam (F5)"));
+    command3->setToolTip(tr("Positions of the cranes in the last walk"));
+    connect(cmdProfile, &QPushButton::clicked, this, [this] { openForm("Profile"); });
+    connect(command1, &QPushButton::clicked, this, [this] { openForm("Beam"); });
+    connect(command2, &QPushButton::clicked, this, [this] { openForm("Loads"); });
+    connect(command3, &QPushButton::clicked, this,
+            [this] { FrmTemp(session_.Calculated ? calculation_ : nullptr, this).exec(); });
+    connect(cmdCalc_, &QPushButton::clicked, this, &MainWindow::calculate);
+
+    tree_ = new ResultTreeView("TreeView1");
+    connect(tree_, &ResultTreeView::nodeChosen, this, &MainWindow::showNode);
+
+    auto* buttons = new QGridLayout;
+    buttons->addWidget(cmdProfile, 0, 0, 1, 2);
+    buttons->addWidget(command1, 0, 2, 1, 2);
+    buttons->addWidget(command2, 0, 4, 1, 2);
+    buttons->addWidget(cmdCalc_, 1, 0, 1, 3);
+    buttons->addWidget(command3, 1, 3, 1, 3);
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(panel_);
+    layout->addLayout(buttons);
+    layout->addWidget(tree_, 1);
+    return column;
+}
+
+QWidget* MainWindow::pictureFrame() {
+    picBalk_ = new DiagramView(services_);
+    picBalk_->setObjectName("picBalk");
+    picBalk_->setToolTip(tr("A click opens the loads"));
+    connect(picBalk_, &DiagramView::clicked, this, [this](double x) {
+        if (x >= 100.0 && x < 800.0) openForm("Loads");
+    });
+    picRes_ = new DiagramView(services_);
+    picRes_->setObjectName("picRes");
+    connect(picRes_, &DiagramView::readingChanged, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    auto* scrolled = new QScrollArea;  // several diagrams below each other keep a legible height
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setWidget(picRes_);
+    auto* pictures = new QSplitter(Qt::Vertical);
+    pictures->setObjectName("splitterPictures");
+    pictures->addWidget(picBalk_);
+    pictures->addWidget(scrolled);
+    pictures->setStretchFactor(0, 2);
+    pictures->setStretchFactor(1, 3);
+    pictures->setChildrenCollapsible(false);
+    auto* frame = new QGroupBox("Beamdata and Results");
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(pictures);
+    return frame;
+}
+
+QWidget* MainWindow::resultFrame() {
+    results_ = new ResultTablePane("lstViewDetailed");
+    auto* frame = new QGroupBox("Results");
+    frame->setObjectName("frmResults");
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(results_);
+    return frame;
+}
+
+void MainWindow::buildStatusBar() {
+    stateCalculated_ = new QLabel;
+    stateCalculated_->setObjectName("stateCalculated");
+    stateGoverning_ = new QLabel;
+    stateGoverning_->setObjectName("stateGoverning");
+    stateTime_ = new QLabel;
+    stateTime_->setObjectName("stateTime");
+    stateUnsaved_ = new QLabel;
+    stateUnsaved_->setObjectName("stateUnsaved");
+    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_})
+        statusBar()->addPermanentWidget(label);
+}
+
+void MainWindow::WritefrmInput() {
+    session_.project.BeamChecked = true;
+    panel_->showProject();
+    picBalk_->showSketch(session_.project);
+    setWindowTitle("Borvik : " + QString::fromStdString(session_.context.FileName));
+    ShowTreeView();
+    showState();
+}
+
+void MainWindow::projectChanged(const QString& what) {
+    session_.inputChanged();
+    picBalk_->showSketch(session_.project);
+    panel_->showProject();
+    showState();
+    statusBar()->showMessage(tr("Changed: %1").arg(what), 4000);
+}
+
+bool MainWindow::hasUnsavedChanges() const {
+    return !(session_.project == saved_);
+}
+
+void MainWindow::showState() {
+    const bool current = session_.Calculated;
+    cmdCalc_->setEnabled(!current);
+    mnuCalc_->setEnabled(!current);
+    tree_->setResultsReachable(current);
+    picRes_->setOutOfDate(!current);
+    results_->setOutOfDate(!current);
+    stateUnsaved_->setText(hasUnsavedChanges() ? tr("Unsaved changes") : QString());
+    stateCalculated_->setText(current        ? tr("Calculated")
+                              : calculation_ ? tr("Out of date: calculate again")
+                                             : tr("Not calculated"));
+    stateGoverning_->setVisible(current);
+    stateTime_->setVisible(current);
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !running_) WritefrmInput();
+    return QMainWindow::event(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (running_) {
+        event->ignore();
+        return;
+    }
+    panel_->commit();
+    if (!isMinimized()) {
+        const auto keep = [this](const char* key, int edge) {
+            services_.settings.save(kApplicationTitle, "Settings", key, std::to_string(edge));
+        };
+        keep("MainLeft", x());
+        keep("MainTop", y());
+        keep("MainWidth", width());
+        keep("MainHeight", height());
+    }
+    progress_.reset();
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (isProjectFile(event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    if (isProjectFile(event->mimeData()))
+        openProject(event->mimeData()->urls().constFirst().toLocalFile().toStdString());
+}
+
+}  // namespace borvik

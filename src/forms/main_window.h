@@ -1,0 +1,123 @@
+#pragma once
+
+#include <QAction>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+
+#include "calculation/session.h"
+#include "forms/calculation_record.h"
+#include "forms/diagram_view.h"
+#include "forms/dialogs.h"
+#include "forms/frm_progress.h"
+#include "forms/project_panel.h"
+#include "forms/result_table_view.h"
+#include "forms/result_tree_view.h"
+#include "forms/services.h"
+#include "project/recent_files.h"
+
+namespace borvik {
+
+/// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files) and
+/// main_window_results.cpp (calculation and what it shows); menus are made in main_window_menus.cpp.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// @param session, services  must outlive the window
+    MainWindow(Session& session, const Services& services, QWidget* parent = nullptr);
+
+    /// Refreshes everything that shows the project. Runs each time the window is activated, so that every closed input
+    /// form is reflected.
+    void WritefrmInput();
+
+    /// Opens a project file and puts it on the list of recent files. A file that can't be read leaves the project as it
+    /// is; the user has been told.
+    /// @return false when nothing was opened
+    bool openProject(const std::string& path);
+
+    /// The one road by which input changes reach the window: results are out of date, the sketch follows.
+    /// @param what  the change in the user's words, such as "Material"
+    void projectChanged(const QString& what);
+
+    /// True when the project differs from what was last saved, opened or made new.
+    [[nodiscard]] bool hasUnsavedChanges() const;
+
+    /// The calculation that is shown, of this input or of a former one; null before the first.
+    [[nodiscard]] const CalculationPtr& calculation() const { return calculation_; }
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    struct MenuEntry;
+
+    void buildCentre();
+    QWidget* inputColumn();
+    QWidget* pictureFrame();
+    QWidget* resultFrame();
+    void buildStatusBar();
+
+    void buildMenus();
+    void fill(QMenu* menu, std::initializer_list<MenuEntry> entries);
+    QMenu* menu(QMenu* parent, const char* name, const char* caption);
+    void buildRecentEntries(QMenu* menu);
+    void buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]);
+
+    // Projects
+    void newProject();
+    void chooseAndOpen();
+    void openRecent(int entry);
+    bool saveTo(const std::string& path);
+    void save();
+    void saveAs();
+    bool load(const std::string& path);
+    void projectReplaced();
+    void ShowRecentFiles();
+
+    // Input forms
+    void openForm(DialogKind kind, const QString& what);
+    void openForm(const std::string& node);
+    void openRail(const char* refusal);
+
+    // Results
+    void calculate();
+    void showNode(const TreeNode& node, bool byWalking);
+    void showTable(const std::string& name);
+    void ShowTreeView();
+    void ShowTreeViewResults();
+    void print(int scope);
+
+    void showState();
+    void showGoverning();
+
+    Session& session_;
+    Services services_;
+    RescentFile recent_;
+    Project saved_;  ///< the project as last saved, opened or made new
+    CalculationPtr calculation_;
+    bool running_ = false;
+    std::unique_ptr<FrmProgress> progress_;
+
+    ProjectPanel* panel_ = nullptr;
+    ResultTreeView* tree_ = nullptr;
+    DiagramView* picBalk_ = nullptr;
+    DiagramView* picRes_ = nullptr;
+    ResultTablePane* results_ = nullptr;
+    QPushButton* cmdCalc_ = nullptr;
+    QAction* mnuCalc_ = nullptr;
+    QAction* recentSeparator_ = nullptr;
+    QList<QAction*> recentEntries_;
+    QLabel* stateCalculated_ = nullptr;
+    QLabel* stateGoverning_ = nullptr;
+    QLabel* stateTime_ = nullptr;
+    QLabel* stateUnsaved_ = nullptr;
+};
+
+}  // namespace borvik

@@ -1,0 +1,128 @@
+#include <QMenu>
+#include <QMenuBar>
+
+#include "forms/frm_about.h"
+#include "forms/help.h"
+#include "forms/icons.h"
+#include "forms/main_window.h"
+#include "forms/printing.h"
+
+namespace borvik {
+
+/// One entry of a menu; without a caption a separator.
+struct MainWindow::MenuEntry {
+    const char* name;
+    const char* caption = nullptr;
+    QKeySequence shortcut = {};
+    QIcon icon = {};
+    std::function<void()> run = {};
+};
+
+void MainWindow::fill(QMenu* menu, std::initializer_list<MenuEntry> entries) {
+    for (const MenuEntry& entry : entries) {
+        QAction* action = entry.caption == nullptr ? menu->addSeparator()
+                                                   : menu->addAction(entry.icon, QString::fromUtf8(entry.caption));
+        action->setObjectName(QString::fromUtf8(entry.name));
+        action->setShortcut(entry.shortcut);
+        if (entry.run) connect(action, &QAction::triggered, this, entry.run);
+    }
+}
+
+QMenu* MainWindow::menu(QMenu* parent, const char* name, const char* caption) {
+    auto* made = new QMenu(QString::fromUtf8(caption), this);
+    made->setObjectName(QString::fromUtf8(name));
+    made->menuAction()->setObjectName(QString::fromUtf8(name));
+    if (parent == nullptr) {
+        menuBar()->addMenu(made);
+    } else {
+        parent->addMenu(made);
+    }
+    return made;
+}
+
+void MainWindow::buildRecentEntries(QMenu* menu) {
+    recentSeparator_ = menu->addSeparator();
+    recentSeparator_->setObjectName("mnuMRU0");
+    for (int i = 0; i < RescentFile::kEntries; ++i) {
+        QAction* entry = menu->addAction(QString());
+        entry->setObjectName("mnuMRU" + QString::number(i + 1));
+        entry->setVisible(false);
+        connect(entry, &QAction::triggered, this, [this, i] { openRecent(i); });
+        recentEntries_.append(entry);
+    }
+}
+
+void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]) {
+    for (int i = 0; i < 4; ++i) {
+        const int scope = i + 1;
+        fill(menu, {{names[i], captions[i], {}, themeIcon("document-print", QStyle::SP_FileIcon), [this, scope] {
+                         print(scope);
+                     }}});
+        if (!canPrint()) {
+            menu->actions().constLast()->setEnabled(false);
+            menu->actions().constLast()->setStatusTip(tr("This version can't print"));
+        }
+    }
+}
+
+void MainWindow::buildMenus() {
+    const QIcon form = pictureIcon(Picture::Form);
+    QMenu* file = menu(nullptr, "mnuArkiv", "&File");
+    fill(file, {{"mnuArkivNytt", "&New   ", QKeySequence::New, themeIcon("document-new", QStyle::SP_FileIcon),
+                 [this] { newProject(); }},
+                {"mnuArkivÖppna", "&Open", QKeySequence::Open, themeIcon("document-open", QStyle::SP_DialogOpenButton),
+                 [this] { chooseAndOpen(); }},
+                {"mnuArkivLinje1"},
+                {"mnuArkivSpara", "&Save", QKeySequence::Save, themeIcon("document-save", QStyle::SP_DialogSaveButton),
+                 [this] { save(); }},
+                {"mnuArkivSparasom", "Save as", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+                 themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { saveAs(); }},
+                {"mnuArkivLinje2"}});
+    buildPrintEntries(menu(file, "LmnuPrint", "Print"),
+                      {"LmnuPrintULS", "LmnuPrintULSSLS", "LmnuPrintALL", "LmnuPrintCompressed"},
+                      {"Print ULS", "Print ULS+SLS", "Print ULS+SLS+FLS ", "Print Compressed"});
+    buildRecentEntries(file);
+    fill(file, {{"mnuspace"},
+                {"mnuArkivAvsluta", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q),
+                 themeIcon("application-exit", QStyle::SP_DialogCloseButton), [this] { close(); }}});
+
+    QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
+    setup->setObjectName("mnuSetup");
+
+    fill(menu(nullptr, "mnuIndata", "&Input"),
+         {{"mnuProfile", "Profile", QKeySequence(Qt::CTRL | Qt::Key_1), form, [this] { openForm("Profile"); }},
+          {"mnuBeam", "Beam", QKeySequence(Qt::CTRL | Qt::Key_2), form, [this] { openForm("Beam"); }},
+          {"mnuRail", "Rail", QKeySequence(Qt::CTRL | Qt::Key_3), form,
+           [this] { openRail("Rail not available for  beams"); }},
+          {"mnuLateral", "Lateral Torsional Buckling", QKeySequence(Qt::CTRL | Qt::Key_4), form,
+           [this] { openForm("Lateral Tors Buckl"); }},
+          {"mnuLoad", "Load", QKeySequence(Qt::CTRL | Qt::Key_5), form, [this] { openForm("Loads"); }},
+          {"mnuFatigue", "Fatigue", QKeySequence(Qt::CTRL | Qt::Key_6), form, [this] { openForm("Fatigue"); }},
+          {"mnuIndataDivider1"}});
+
+    mnuCalc_ = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
+    mnuCalc_->setObjectName("mnuCalc");
+    mnuCalc_->setShortcut(Qt::Key_F5);
+
+    QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
+    buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},
+                      {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"});
+    printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
+
+    fill(menu(nullptr, "mnuHelp", "&Help"),
+         {{"mnuContents", "&Contents", QKeySequence::HelpContents,
+           themeIcon("help-contents", QStyle::SP_DialogHelpButton),
+           [this] { showHelp(HelpPage::Contents, services_.messages); }},
+          {"mnuHelpSearch",
+           "Search for Help On . . .",
+           {},
+           {},
+           [this] { showHelp(HelpPage::Search, services_.messages); }},
+          {"mnuTheory", "Theory Manual", {}, {}, [this] { showHelp(HelpPage::Theory, services_.messages); }},
+          {"mnuHjalpLinje1"},
+          {"mnuAbout", "&About Borvik", {}, themeIcon("help-about", QStyle::SP_MessageBoxInformation), [this] {
+               FrmAbout(this).exec();
+           }}});
+}
+
+}  // namespace borvik

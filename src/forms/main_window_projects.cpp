@@ -1,0 +1,129 @@
+#include <QFile>
+#include <QFileInfo>
+#include <QStatusBar>
+
+#include "forms/main_window.h"
+#include "project/project_file.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr const char* kPattern = "*.brvk";
+
+/// The recent list holds full paths, so that an entry still leads to its file from another folder.
+std::string fullPath(const std::string& path) {
+    return QFileInfo(QString::fromStdString(path)).absoluteFilePath().toStdString();
+}
+
+}  // namespace
+
+void MainWindow::ShowRecentFiles() {
+    recent_.ShowRecentFiles();
+    const auto& captions = recent_.captions();
+    recentSeparator_->setVisible(!captions.empty());
+    for (int i = 0; i < RescentFile::kEntries; ++i) {
+        const bool has = i < static_cast<int>(captions.size());
+        QAction* entry = recentEntries_[i];
+        entry->setVisible(has);
+        if (has)  // a "&" of the path is no mnemonic
+            entry->setText(QString::fromStdString(captions[static_cast<std::size_t>(i)]).replace("&", "&&"));
+    }
+}
+
+void MainWindow::newProject() {
+    panel_->commit();
+    if (!session_.context.FileName.empty()) {
+        switch (services_.questions.yesNoCancel("Vill du spara ändringarna i det aktuella projektet?")) {
+            case Answer::Yes:
+                if (!saveTo(session_.context.FileName)) return;
+                break;
+            case Answer::Cancel:
+                return;
+            case Answer::No:
+                break;
+        }
+    }
+    session_.project = {};
+    DefaultProject(session_.tables, session_.project, session_.context);
+    projectReplaced();
+}
+
+void MainWindow::chooseAndOpen() {
+    if (const auto path = services_.questions.fileToOpen(kPattern)) openProject(*path);
+}
+
+bool MainWindow::openProject(const std::string& path) {
+    if (!load(path)) return false;
+    recent_.AddRecentOnOpen(fullPath(path));
+    ShowRecentFiles();
+    return true;
+}
+
+void MainWindow::openRecent(int entry) {
+    const std::string path = RescentFile::pathOf(recent_.captions().at(static_cast<std::size_t>(entry)));
+    if (!QFile(QString::fromStdString(path)).open(QIODevice::ReadOnly)) {
+        services_.messages.show("can't find file - " + path);
+        return;
+    }
+    openProject(path);
+}
+
+bool MainWindow::load(const std::string& path) {
+    Project loaded;
+    try {
+        LoadProject(path, loaded);
+    } catch (const ProjectFileError& error) {
+        services_.messages.show(error.what());
+        return false;
+    }
+    session_.project = std::move(loaded);
+    session_.context.FileName = path;
+    session_.context.FileTitle = path;
+    FollowProject(session_.tables, session_.project, session_.context);
+    projectReplaced();
+    return true;
+}
+
+void MainWindow::projectReplaced() {
+    session_.inputChanged();
+    calculation_.reset();
+    picRes_->clear();
+    results_->clear();
+    WritefrmInput();
+    saved_ = session_.project;
+    showState();
+}
+
+bool MainWindow::saveTo(const std::string& path) {
+    try {
+        if (!SaveProject(path, session_.project))
+            services_.messages.show("Some characters can't be stored in a project file and were replaced by \"?\".");
+    } catch (const ProjectFileError& error) {
+        services_.messages.show(error.what());
+        return false;
+    }
+    saved_ = session_.project;
+    showState();
+    statusBar()->showMessage(tr("Saved: %1").arg(QString::fromStdString(fullPath(path))), 6000);
+    return true;
+}
+
+void MainWindow::save() {
+    if (!panel_->commit() || !saveTo(session_.context.FileName)) return;
+    recent_.AddRecentOnSave(fullPath(session_.context.FileName));
+    ShowRecentFiles();
+}
+
+void MainWindow::saveAs() {
+    if (!panel_->commit()) return;
+    const auto path = services_.questions.fileToSave(session_.context.FileName, kPattern, "brvk");
+    if (!path || !saveTo(*path)) return;
+    session_.context.FileName = *path;
+    session_.context.FileTitle = *path;
+    recent_.AddRecentOnSave(fullPath(*path));
+    ShowRecentFiles();
+    WritefrmInput();
+}
+
+}  // namespace borvik

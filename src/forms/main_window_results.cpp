@@ -1,0 +1,198 @@
+#include <QApplication>
+#include <QStatusBar>
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "calculation/calculation.h"
+#include "forms/frm_detailed_result.h"
+#include "forms/icons.h"
+#include "forms/main_window.h"
+#include "forms/printing.h"
+#include "results/tables.h"
+
+namespace borvik {
+
+namespace {
+
+/// The hourglass pointer, as long as it lives.
+struct BusyPointer {
+    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+/// The input form of a node of the tree.
+struct FormOfNode {
+    const char* node;
+    DialogKind overhead, monorail;
+};
+constexpr FormOfNode kForms[] = {
+    {"Setup", DialogKind::Setup, DialogKind::Setup},
+    {"Beam", DialogKind::Beam, DialogKind::Beam},
+    {"Profile", DialogKind::Profile, DialogKind::Profile},
+    {"Rail", DialogKind::Rail, DialogKind::Rail},
+    {"Lateral Tors Buckl", DialogKind::Lateral, DialogKind::Lateral},
+    {"Loads", DialogKind::Load, DialogKind::LoadRunway},
+    {"Fatigue", DialogKind::Fatigue1, DialogKind::Fatigue2},
+};
+
+/// Splices in use: the calculation drops those that no longer fit the beam.
+int splicesInUse(const Project& project) {
+    return static_cast<int>(std::count(project.ChkFat5Sp.begin(), project.ChkFat5Sp.end(), true) +
+                            std::count(project.ChkFatR5Sp.begin(), project.ChkFatR5Sp.end(), true));
+}
+
+}  // namespace
+
+void MainWindow::openForm(const std::string& node) {
+    const auto* form =
+        std::find_if(std::begin(kForms), std::end(kForms), [&](const FormOfNode& each) { return node == each.node; });
+    if (form == std::end(kForms)) return;
+    openForm(session_.project.CraneType == 1 ? form->overhead : form->monorail, QString::fromStdString(node));
+}
+
+void MainWindow::openRail(const char* refusal) {
+    if (session_.project.CraneType == 1) {
+        openForm("Rail");
+    } else {
+        services_.messages.show(refusal);
+    }
+}
+
+void MainWindow::openForm(DialogKind kind, const QString& what) {
+    if (running_ || !panel_->commit()) return;
+    const auto changed = [this, what] { projectChanged(what); };
+    const auto form = makeDialog(kind, session_, services_.messages, changed, this);
+    if (!form) {
+        statusBar()->showMessage(tr("This version has no form for: %1").arg(what), 6000);
+        return;
+    }
+    // The setup form knows itself whether it has changed anything; after all others the results count as out of date.
+    const bool always = kind != DialogKind::Setup;
+    if (always) session_.inputChanged();
+    form->exec();
+    if (always) session_.inputChanged();
+    WritefrmInput();
+}
+
+void MainWindow::calculate() {
+    if (running_ || !panel_->commit()) return;
+    const bool wasUnsaved = hasUnsavedChanges();
+    const int splices = splicesInUse(session_.project);
+    const bool twoCranes = session_.project.NofCranes == 2;
+    Progress silent;
+    progress_.reset();
+    if (twoCranes) {
+        progress_ = std::make_unique<FrmProgress>(this);
+        connect(progress_.get(), &FrmProgress::closedByUser, this,
+                [this] { findChild<QWidget*>("iproj")->setFocus(); });
+    }
+    running_ = true;
+    bool done = false;
+    try {
+        const BusyPointer busy;
+        done = Calculate(session_, services_.messages, twoCranes ? static_cast<Progress&>(*progress_) : silent);
+    } catch (const std::exception& error) {
+        session_.inputChanged();
+        services_.messages.show(std::string("Run-time error. ") + error.what());
+    }
+    running_ = false;
+    if (!wasUnsaved && splicesInUse(session_.project) == splices) saved_ = session_.project;
+    if (!done) {
+        progress_.reset();
+        WritefrmInput();
+        return;
+    }
+    calculation_ = std::make_shared<const CalculationRecord>(CalculationRecord{session_.project, *session_.results});
+    ShowTreeViewResults();
+    showState();
+    picBalk_->showSketch(session_.project);
+    picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
+    showTable("Summary");
+    showGoverning();
+    if (splicesInUse(session_.project) != splices)
+        statusBar()->showMessage(tr("Splices that no longer fit the beam have been left out"), 10000);
+}
+
+void MainWindow::ShowTreeView() {
+    tree_->showTree(mainTree(session_.project, session_.Calculated));
+}
+
+void MainWindow::ShowTreeViewResults() {
+    tree_->showTree(mainTree(session_.project, true));
+}
+
+void MainWindow::showNode(const TreeNode& node, bool byWalking) {
+    if (node.opens == NodeOpens::InputForm) {
+        if (node.name == "Rail") {
+            openRail(" Rail not available for Monorails");
+        } else {
+            openForm(node.name);
+        }
+        return;
+    }
+    const bool nothingThere = node.needsLoadsY && !session_.project.HasLoadsY;
+    if (byWalking && (!session_.Calculated || nothingThere)) return;
+    if (!session_.Calculated) {
+        services_.messages.show(kCalculateFirst);
+        return;
+    }
+    if (nothingThere) {
+        services_.messages.show(kNoLoadsY);
+        return;
+    }
+    switch (node.opens) {
+        case NodeOpens::Table:
+            showTable(node.name);
+            break;
+        case NodeOpens::Picture:
+            picRes_->showResults(pictureDiagrams(node.name, calculation_->project), calculation_);
+            break;
+        case NodeOpens::DetailedResults:
+            FrmDetailedResult(calculation_, this).exec();
+            break;
+        case NodeOpens::InputForm:
+        case NodeOpens::Nothing:
+            break;
+    }
+}
+
+void MainWindow::showTable(const std::string& name) {
+    const TableEntry* entry = findTable(name);
+    if (entry == nullptr) return;
+    results_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
+}
+
+void MainWindow::showGoverning() {
+    double largest = 0.0;
+    QString where;
+    for (const auto& row : ShowSummaryAll(calculation_->project, calculation_->results).rows) {
+        if (row.size() < 2 || !row[1].number || *row[1].number <= largest) continue;
+        largest = *row[1].number;
+        where = QString::fromStdString(row[0].text);
+    }
+    const QString ratio = QString::fromStdString(formatNumber(largest, "0.000"));
+    // A sign beside the number, so that the state doesn't rest on colour.
+    stateGoverning_->setText(largest > 1.0 ? tr("\u26a0 Largest ratio %1 > 1").arg(ratio)
+                                           : tr("\u2713 Largest ratio %1").arg(ratio));
+    stateGoverning_->setToolTip(where);
+    QFont font = stateCalculated_->font();
+    font.setBold(largest > 1.0);
+    stateGoverning_->setFont(font);
+    const double milliseconds = calculation_->results.Seconds * 1000.0;
+    stateTime_->setText(milliseconds < 1000.0 ? tr("%1 ms").arg(milliseconds, 0, 'f', 0)
+                                              : tr("%1 s").arg(milliseconds / 1000.0, 0, 'f', 1));
+    stateTime_->setToolTip(tr("Time of the calculation"));
+}
+
+void MainWindow::print(int scope) {
+    if (running_ || !panel_->commit()) return;
+    if (!session_.Calculated) {
+        services_.messages.show("  Calculate before print  ");
+        return;
+    }
+    printReport(session_, scope, this);
+}
+
+}  // namespace borvik

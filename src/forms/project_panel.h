@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QWidget>
+
+#include "calculation/session.h"
+#include "forms/form_binder.h"
+#include "platform/messages.h"
+
+namespace borvik {
+
+/// The part of the main window that edits the project itself: names, material, crane type.
+class ProjectPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// @param session, messages  must outlive the panel
+    ProjectPanel(Session& session, Messages& messages, QWidget* parent = nullptr);
+
+    /// Fills the controls from the record, and brings MaterialIndex and StartStopOutside in line with it: a crane that
+    /// stands fixed can't start outside the beam. A strength that is just being typed is left alone.
+    void showProject();
+    /// Stores what is just being typed, as leaving its box would.
+    /// @return false when it was refused; the user has been told
+    bool commit();
+
+Q_SIGNALS:
+    /// The names of project or girder have changed; results stay as they are.
+    void namesChanged();
+    /// Results no longer belong to the input. @param what  the change in the user's words
+    void inputChanged(const QString& what);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* namesBox();
+    QWidget* materialBox();
+    QWidget* craneTypeBox();
+    void storeName(QLineEdit* from, std::string& to);
+    void enterInIdent();
+    void chooseMaterial(int row);
+    void chooseOverhead();
+    void chooseMonorail();
+
+    Session& session_;
+    FormBinder binder_;
+    QLineEdit* iproj_ = nullptr;
+    QLineEdit* iident_ = nullptr;
+    QComboBox* cbofyk_ = nullptr;
+    NumberBox* ifyk_ = nullptr;
+    QRadioButton* optOverH_ = nullptr;
+    QRadioButton* optRunW_ = nullptr;
+    QCheckBox* chkStartStop_ = nullptr;
+};
+
+}  // namespace borvik
