@@ -54,10 +54,10 @@ FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent
     layout->addWidget(splitter, 1);
     layout->addLayout(buttons);
     resize(generousSize(parent));
-    connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::show);
+    connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::showNode);
 }
 
-void FrmDetailedResult::show(const TreeNode& node) {
+void FrmDetailedResult::showNode(const TreeNode& node) {
     if (node.needsLoadsY && !calculation_->project.HasLoadsY) return;
     const TableEntry* entry = findTable(node.name);
     if (entry == nullptr) return;

@@ -17,7 +17,7 @@ public:
     FrmDetailedResult(CalculationPtr calculation, QWidget* parent);
 
 private:
-    void show(const TreeNode& node);
+    void showNode(const TreeNode& node);
 
     CalculationPtr calculation_;
     ResultTreeView* tree_;

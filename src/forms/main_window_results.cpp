@@ -8,6 +8,7 @@
 #include "forms/icons.h"
 #include "forms/main_window.h"
 #include "forms/printing.h"
+#include "results/ratios.h"
 #include "results/tables.h"
 
 namespace borvik {
@@ -165,18 +166,12 @@ void MainWindow::showTable(const std::string& name) {
 }
 
 void MainWindow::showGoverning() {
-    double largest = 0.0;
-    QString where;
-    for (const auto& row : ShowSummaryAll(calculation_->project, calculation_->results).rows) {
-        if (row.size() < 2 || !row[1].number || *row[1].number <= largest) continue;
-        largest = *row[1].number;
-        where = QString::fromStdString(row[0].text);
-    }
+    const double largest = LargestRatio(calculation_->results);
     const QString ratio = QString::fromStdString(formatNumber(largest, "0.000"));
     // A sign beside the number, so that the state doesn't rest on colour.
     stateGoverning_->setText(largest > 1.0 ? tr("\u26a0 Largest ratio %1 > 1").arg(ratio)
                                            : tr("\u2713 Largest ratio %1").arg(ratio));
-    stateGoverning_->setToolTip(where);
+    stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts and details"));
     QFont font = stateCalculated_->font();
     font.setBold(largest > 1.0);
     stateGoverning_->setFont(font);

@@ -1,0 +1,120 @@
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+#include <iostream>
+
+#include "forms/frm_about.h"
+#include "forms/frm_detailed_result.h"
+#include "forms/main_window.h"
+#include "platform/messages.h"
+
+/// Takes the pictures of the windows for the documents, from a project calculated in the real main window.
+/// Usage: borvik-screenshots FOLDER [PROJECT.brvk [WIDTH HEIGHT]] [--dark]
+
+namespace {
+
+using namespace borvik;
+
+class NoQuestions : public Questions {
+public:
+    Answer yesNoCancel(const std::string&) override { return Answer::No; }
+    std::optional<std::string> fileToOpen(const std::string&) override { return std::nullopt; }
+    std::optional<std::string> fileToSave(const std::string&, const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
+};
+
+QPalette darkPalette() {
+    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+    dark.setColor(QPalette::Base, QColor(35, 35, 35));
+    dark.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    dark.setColor(QPalette::Highlight, QColor(61, 125, 196));
+    dark.setColor(QPalette::ToolTipBase, QColor(70, 70, 70));
+    dark.setColor(QPalette::ToolTipText, Qt::white);
+    return dark;
+}
+
+class Camera {
+public:
+    explicit Camera(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
+    void take(QWidget& widget, const QString& name) {
+        QApplication::processEvents();
+        const QString path = folder_.filePath(name + ".png");
+        if (!widget.grab().save(path)) std::cerr << "can't write " << path.toStdString() << '\n';
+    }
+
+private:
+    QDir folder_;
+};
+
+void choose(QWidget& window, const QString& node) {
+    auto* tree = window.findChild<ResultTreeView*>("TreeView1");
+    auto* item = tree->itemOf(node);
+    if (item != nullptr) Q_EMIT tree->itemClicked(item, 0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(kApplicationTitle);
+    QApplication::setApplicationVersion(BORVIK_VERSION);
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QStringList arguments = QApplication::arguments().mid(1);
+    if (arguments.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
+    if (arguments.isEmpty()) {
+        std::cerr << "usage: borvik-screenshots FOLDER [PROJECT.brvk [WIDTH HEIGHT]] [--dark]\n";
+        return 2;
+    }
+    Camera camera(arguments.at(0));
+
+    MessageList messages;
+    NoQuestions questions;
+    SettingsInMemory settings;
+    Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
+    MainWindow window(session, {messages, questions, settings});
+    if (arguments.size() > 3) window.resize(arguments.at(2).toInt(), arguments.at(3).toInt());
+    window.show();
+    if (arguments.size() > 1 && !window.openProject(arguments.at(1).toStdString())) {
+        std::cerr << messages.texts.back() << '\n';
+        return 5;
+    }
+    camera.take(window, "main-start");
+    window.findChild<QPushButton*>("cmdCalc")->click();
+    for (QWidget* other : QApplication::topLevelWidgets())
+        if (other->objectName() == "frmProgress" && other->isVisible()) {
+            camera.take(*other, "progress");
+            other->findChild<QPushButton*>("cmdOK")->click();
+        }
+    if (!window.calculation()) {
+        std::cerr << "the calculation was refused: " << messages.texts.back() << '\n';
+        return 3;
+    }
+    camera.take(window, "main");
+    auto* picRes = window.findChild<QWidget*>("picRes");
+    for (const auto& [node, name] :
+         {std::pair("My + Vz", "diagram-my-vz"), std::pair("Mz + Vy", "diagram-mz-vy"),
+          std::pair("Uz + Uy", "diagram-uz-uy"), std::pair("Reactions", "diagram-reactions"),
+          std::pair("Cr1-Point 1", "diagram-cr1-point1"), std::pair("Cr1-Point 2", "diagram-cr1-point2"),
+          std::pair("Cr1-Point 3", "diagram-cr1-point3")}) {
+        choose(window, node);
+        camera.take(*picRes, name);
+    }
+    camera.take(*window.findChild<QWidget*>("picBalk"), "diagram-sketch");
+
+    FrmDetailedResult detailed(window.calculation(), &window);
+    detailed.show();
+    choose(detailed, "Static");
+    camera.take(detailed, "detailed-results");
+    FrmTemp steps(window.calculation(), &window);
+    steps.show();
+    camera.take(steps, "steps");
+    FrmAbout about(&window);
+    about.show();
+    camera.take(about, "about");
+
+    window.projectChanged("Material");
+    camera.take(window, "main-out-of-date");
+    return 0;
+}
