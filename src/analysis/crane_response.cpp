@@ -53,82 +53,107 @@ void Plane::solve(PerSpan& b, PerSpan& X) const {
 
 CraneResponse::CraneResponse(const Plane& plane, int last)
     : plane_(plane),
-      moments_(static_cast<std::size_t>(last) + 1),
-      acts_(moments_.size()),
+      largest_(static_cast<std::size_t>(last) + 1),
+      acts_(largest_.size()),
       arrives_(static_cast<std::size_t>(plane.beam.n + 1)),
       leaves_(arrives_.size()) {}
 
-CraneResponse::CraneResponse(const Plane& plane, int last, int firstWheel, int lastWheel, Place place)
-    : CraneResponse(plane, last) {
-    firstWheel_ = firstWheel;
-    lastWheel_ = lastWheel;
-    place_ = std::move(place);
-    for (int w = firstWheel; w <= lastWheel; ++w) {
+CraneResponse::CraneResponse(const Plane& plane, const CranePositions& positions)
+    : CraneResponse(plane, positions.last) {
+    for (int w = positions.firstWheel; w <= positions.lastWheel; ++w) {
         const double load = plane.wheelLoads(w);
         magnitudes_.load += std::abs(load) * 1000;
         magnitudes_.wheels += load != 0;
     }
     if (!present()) return;
-    perSupport_ = moments_.size();
-    moments_.resize(perSupport_ * arrives_.size());
-    std::fill(arrives_.begin(), arrives_.end(), last + 1);
-    std::fill(leaves_.begin(), leaves_.end(), last + 1);
-    Wheels wheels;
-    for (int p = 0; p <= last; ++p) {
-        place_(p, wheels);
-        respond(p, wheels);
+    positions_ = &positions;
+    perSupport_ = largest_.size();
+    largest_.resize(perSupport_ * arrives_.size());
+    for (int p = 0; p <= positions.last && smallest_.empty(); ++p)
+        if (positions.variants(p) > 1) smallest_.resize(largest_.size());
+    std::fill(arrives_.begin(), arrives_.end(), positions.last + 1);
+    std::fill(leaves_.begin(), leaves_.end(), positions.last + 1);
+    for (int p = 0; p <= positions.last; ++p) {
+        respond(p);
         if (acts(p)) idleFrom_ = p + 1;
     }
 }
 
-void CraneResponse::respond(int p, const Wheels& wheels) {
+CraneResponse::Load CraneResponse::loadOf(const Wheels& wheels) const {
     const Beam& beam = plane_.beam;
     const int n = beam.n;
-    PerSpan b{};
-    PerSpan rotation{};
-    int first = n + 1;  // spans of the first and the last loaded wheel; 0 left of the beam, n + 1 right of it
-    int last = 0;
-    for (int w = firstWheel_; w <= lastWheel_; ++w) {
+    Load load;
+    load.first = n + 1;
+    load.last = 0;
+    for (int w = positions_->firstWheel; w <= positions_->lastWheel; ++w) {
         if (plane_.wheelLoads(w) == 0) continue;
         const Wheel& wheel = wheels[w];
-        const double load = wheel.*plane_.load;
         const int i = wheel.x < beam.Cum[0] ? 0 : wheel.x > beam.Cum[n] ? n + 1 : wheel.span;
-        first = std::min(first, i);
-        last = std::max(last, i);
+        load.first = std::min(load.first, i);
+        load.last = std::max(load.last, i);
         if (i < 1 || i > n) continue;
-        acts_[static_cast<std::size_t>(p)] = 1;
+        load.acts = true;
         const auto add = [&](int r, double distance) {
-            const double F = rotationTerm(load, distance, beam.L[i], plane_.I[i]);
-            b[r] -= F;
-            rotation[r] += std::abs(F);
+            const double F = rotationTerm(wheel.*plane_.load, distance, beam.L[i], plane_.I[i]);
+            load.b[r] -= F;
+            load.rotation[r] += std::abs(F);
         };
         if (i > 1) add(i - 1, wheel.b);
         if (i < n) add(i, wheel.a);
     }
-    for (int i = 1; i <= n; ++i) {
-        if (last >= i) arrives_[static_cast<std::size_t>(i)] = std::min(arrives_[static_cast<std::size_t>(i)], p);
-        if (first > i) leaves_[static_cast<std::size_t>(i)] = std::min(leaves_[static_cast<std::size_t>(i)], p);
-    }
-    if (n < 2 || !acts(p)) return;
+    return load;
+}
+
+void CraneResponse::respond(int p) {
+    const int n = plane_.beam.n;
+    const auto at = static_cast<std::size_t>(p);
+    Wheels wheels;
     PerSpan X{};
-    plane_.solve(b, X);
-    for (int r = 1; r < n; ++r) {
-        moments_[static_cast<std::size_t>(r) * perSupport_ + static_cast<std::size_t>(p)] = static_cast<float>(X[r]);
-        magnitudes_.rotation[r] = std::max(magnitudes_.rotation[r], rotation[r]);
-        magnitudes_.eliminated[r] = std::max(magnitudes_.eliminated[r], std::abs(b[r]));
-        magnitudes_.moment[r] = std::max(magnitudes_.moment[r], std::abs(X[r]));
+    int first = n + 1;
+    int last = 0;
+    for (int variant = 0; variant < positions_->variants(p); ++variant) {
+        positions_->place(p, variant, wheels);
+        Load load = loadOf(wheels);
+        first = std::min(first, load.first);
+        last = std::max(last, load.last);
+        if (load.acts) acts_[at] = 1;
+        plane_.solve(load.b, X);
+        for (int r = 1; r < n; ++r) {
+            const std::size_t place = static_cast<std::size_t>(r) * perSupport_ + at;
+            const auto moment = static_cast<float>(X[r]);
+            largest_[place] = variant == 0 ? moment : std::max(largest_[place], moment);
+            if (varies()) smallest_[place] = variant == 0 ? moment : std::min(smallest_[place], moment);
+            magnitudes_.rotation[r] = std::max(magnitudes_.rotation[r], load.rotation[r]);
+            magnitudes_.eliminated[r] = std::max(magnitudes_.eliminated[r], std::abs(load.b[r]));
+            magnitudes_.moment[r] = std::max(magnitudes_.moment[r], std::abs(X[r]));
+        }
+    }
+    for (int i = 1; i <= n; ++i) {
+        const auto span = static_cast<std::size_t>(i);
+        if (last >= i) arrives_[span] = std::min(arrives_[span], p);
+        if (first > i) leaves_[span] = std::min(leaves_[span], p);
     }
 }
 
-SpanWheels CraneResponse::wheelsIn(int i, int p) const {
-    SpanWheels found;
-    if (p < arrives(i) || p >= leaves(i)) return found;
-    Wheels wheels;
-    place_(p, wheels);
-    for (int w = firstWheel_; w <= lastWheel_; ++w)
-        if (wheels[w].span == i && wheels[w].*plane_.load != 0)
-            found.item[found.count++] = {wheels[w].a, wheels[w].*plane_.load};
-    return found;
+void CraneResponse::inSpan(int i, int p, int variant, double& Ma, double& Mb, SpanWheels& wheels) const {
+    wheels.count = 0;
+    Ma = largestMoments(i - 1)[p];
+    Mb = largestMoments(i)[p];
+    if (!present()) return;
+    const bool loaded = p >= arrives(i) && p < leaves(i);
+    if (!loaded && variants(p) == 1) return;
+    Wheels placed;
+    positions_->place(p, variant, placed);
+    if (variants(p) > 1) {
+        Load load = loadOf(placed);
+        PerSpan X{};
+        plane_.solve(load.b, X);
+        Ma = X[static_cast<std::size_t>(i - 1)];
+        Mb = X[static_cast<std::size_t>(i)];
+    }
+    for (int w = positions_->firstWheel; w <= positions_->lastWheel; ++w)
+        if (placed[w].span == i && placed[w].*plane_.load != 0)
+            wheels.item[wheels.count++] = {placed[w].a, placed[w].*plane_.load};
 }
 
 }  // namespace borvik

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "analysis/position.h"
@@ -47,22 +46,33 @@ struct Magnitudes {
     int wheels = 0;        ///< wheels with load
 };
 
-/// What wheels that move as one do in one plane, at every one of their positions 0..last.
+/// The wheels that move as one, and where they can stand: at each position p = 0..last in one or a few variants, which
+/// differ by a rounding of some hundredths of a millimetre.
+class CranePositions {
+public:
+    virtual ~CranePositions() = default;
+    [[nodiscard]] virtual int variants(int p) const = 0;
+    /// @param variant  from 0
+    virtual void place(int p, int variant, Wheels& wheels) const = 0;
+
+    int last = 0;
+    int firstWheel = 1, lastWheel = 0;  ///< of 1..8; in ascending order, moving to the right with p
+};
+
+/// What wheels that move as one do in one plane, at every one of their positions.
 class CraneResponse {
 public:
-    /// Places the wheels of position p.
-    using Place = std::function<void(int p, Wheels& wheels)>;
-
     /// A crane that isn't there: it does nothing, and stands right of everything.
     CraneResponse(const Plane& plane, int last);
-    /// @param firstWheel, lastWheel  of 1..8; they stand in ascending order and move to the right with p
-    CraneResponse(const Plane& plane, int last, int firstWheel, int lastWheel, Place place);
+    CraneResponse(const Plane& plane, const CranePositions& positions);
 
-    /// Moment over support r at the positions 0..last, kept as singles.
-    [[nodiscard]] const float* moments(int r) const {
-        return moments_.data() + static_cast<std::size_t>(r) * perSupport_;
-    }
+    /// Moment over support r at the positions 0..last, kept as singles: the largest and the smallest of the variants.
+    [[nodiscard]] const float* largestMoments(int r) const { return row(largest_, r); }
+    [[nodiscard]] const float* smallestMoments(int r) const { return row(smallest_.empty() ? largest_ : smallest_, r); }
     [[nodiscard]] bool present() const { return magnitudes_.wheels > 0; }
+    /// Whether a position has more than one variant.
+    [[nodiscard]] bool varies() const { return !smallest_.empty(); }
+    [[nodiscard]] int variants(int p) const { return positions_ == nullptr ? 1 : positions_->variants(p); }
     /// Whether some wheel on the beam has a load in this plane at position p.
     [[nodiscard]] bool acts(int p) const { return acts_[static_cast<std::size_t>(p)] != 0; }
     /// First position from which on the crane never acts again; last + 1 where it acts at the last one.
@@ -73,19 +83,28 @@ public:
     /// First position at which all loaded wheels have left span i: from it on, the crane loads only what is right of
     /// the span.
     [[nodiscard]] int leaves(int i) const { return leaves_[static_cast<std::size_t>(i)]; }
-    /// The wheels that load span i at position p.
-    [[nodiscard]] SpanWheels wheelsIn(int i, int p) const;
+    /// What one variant of position p gives span i: end moments, and the wheels in the span.
+    void inSpan(int i, int p, int variant, double& Ma, double& Mb, SpanWheels& wheels) const;
     [[nodiscard]] const Magnitudes& magnitudes() const { return magnitudes_; }
 
 private:
-    void respond(int p, const Wheels& wheels);
+    /// Load terms of the wheels of one variant and the spans of the first and the last of them.
+    struct Load {
+        PerSpan b{}, rotation{};
+        int first, last;  ///< 0 left of the beam, n + 1 right of it
+        bool acts = false;
+    };
+    [[nodiscard]] Load loadOf(const Wheels& wheels) const;
+    void respond(int p);
+    [[nodiscard]] const float* row(const std::vector<float>& moments, int r) const {
+        return moments.data() + static_cast<std::size_t>(r) * perSupport_;
+    }
 
     const Plane& plane_;
+    const CranePositions* positions_ = nullptr;
     std::size_t perSupport_ = 0;  ///< 0 for a crane that isn't there: all supports share one row of zeros
     int idleFrom_ = 0;
-    int firstWheel_ = 1, lastWheel_ = 0;
-    Place place_;
-    std::vector<float> moments_;  ///< [support][position]
+    std::vector<float> largest_, smallest_;  ///< [support][position]; the second only where variants differ
     std::vector<char> acts_;
     std::vector<int> arrives_, leaves_;  ///< [1..n]
     Magnitudes magnitudes_;

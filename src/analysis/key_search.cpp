@@ -13,9 +13,10 @@ namespace borvik {
 void Candidates::add(int j, int k, SpanMask spans) {
     if (tooMany_) return;
     items_.push_back({j, k, spans});
+    tooMany_ = ++added_ > kMostTimes * most_;
     if (items_.size() < mergeAt_) return;
     merge();
-    tooMany_ = items_.size() > most_;
+    tooMany_ = tooMany_ || items_.size() > most_;
     mergeAt_ = std::max(mergeAt_, 2 * items_.size());
 }
 
@@ -112,12 +113,13 @@ public:
         }
     }
 
-    /// Values that a crane gives at position p.
-    void row(const CraneResponse& crane, int i, int p, double* values) const {
-        const double Ma = crane.moments(i - 1)[p];
-        const double Mb = crane.moments(i)[p];
+    /// Values that a crane gives at position p in one of its variants.
+    void row(const CraneResponse& crane, int i, int p, int variant, double* values) const {
+        double Ma = 0;
+        double Mb = 0;
+        SpanWheels wheels;
+        crane.inSpan(i, p, variant, Ma, Mb, wheels);
         for (std::size_t l = 0; l < static_cast<std::size_t>(count); ++l) values[l] = left[l] * Ma + right[l] * Mb;
-        const SpanWheels wheels = crane.wheelsIn(i, p);
         if (wheels.count == 0) return;
         PointValues first{}, second{};
         for (int w = 0; w < wheels.count; ++w)
@@ -195,34 +197,41 @@ private:
 /// A range of positions in which each crane loads only what is on one side of the span, so that all lanes follow the
 /// moment over one support. Sums of singles are kept as singles; the error bound has room for that.
 struct OneSided {
-    const float* moment2;
+    const float *high2, *low2;    ///< moment of crane 2 at s: largest and smallest of the variants
     Profile moment1;              ///< of crane 1 at j
     Profile largest2, smallest2;  ///< of crane 2 over s..end - 1
     Profile highest, lowest;      ///< of both: crane 1 at j with the best of crane 2 over s >= j
+    double spread = 0;            ///< largest difference of the variants
 
     /// @param first1  crane 1 from here on; @param first2 <= first1  crane 2 from here on; @param end  of both
-    OneSided(const float* one, const float* two, int first1, int first2, int end)
-        : moment2(two),
+    OneSided(const CraneResponse& crane1, const CraneResponse& crane2, int support, int first1, int first2, int end)
+        : high2(crane2.largestMoments(support)),
+          low2(crane2.smallestMoments(support)),
           moment1(first1, end),
           largest2(first2, end),
           smallest2(first2, end),
           highest(first1, end),
           lowest(first1, end) {
+        const float* one = crane1.largestMoments(support);
         float high = -std::numeric_limits<float>::infinity();
         float low = std::numeric_limits<float>::infinity();
         for (int p = end - 1; p >= first2; --p) {
-            largest2[p] = high = std::max(high, two[p]);
-            smallest2[p] = low = std::min(low, two[p]);
+            largest2[p] = high = std::max(high, high2[p]);
+            smallest2[p] = low = std::min(low, low2[p]);
             if (p < first1) continue;
             moment1[p] = one[p];
             highest[p] = one[p] + high;
             lowest[p] = one[p] + low;
         }
+        if (crane2.varies())
+            for (int p = first2; p < end; ++p) spread = std::max(spread, double{high2[p]} - double{low2[p]});
         moment1.close();
         highest.close();
         lowest.close();
     }
-    /// Largest of factor x moment of crane 2 over s..end - 1.
+    /// Largest of factor x moment of crane 2 at s.
+    [[nodiscard]] double at2(double factor, int s) const { return factor * double{factor >= 0 ? high2[s] : low2[s]}; }
+    /// The same over s..end - 1.
     [[nodiscard]] double best2(double factor, int s) const {
         return factor * double{factor >= 0 ? largest2[s] : smallest2[s]};
     }
@@ -236,7 +245,9 @@ struct PairRules {
     Candidates& candidates;
 
     /// Crane 1 without a loaded wheel on the beam, now and a step before: crane 2 stood there at the step before, too.
-    [[nodiscard]] bool repeats(int j) const { return j > 0 && !crane1.acts(j) && !crane1.acts(j - 1); }
+    [[nodiscard]] bool repeats(int j) const {
+        return j > 0 && !crane1.acts(j) && !crane1.acts(j - 1) && !crane2.varies();
+    }
     /// Crane 2 that acts no more: the nearest such distance stands for all further ones.
     [[nodiscard]] int lastS(int j, int limit) const { return std::min(limit, std::max(j, crane2.idleFrom())); }
     void add(int j, int s, SpanMask spans) const {
@@ -261,18 +272,20 @@ public:
           a2_(crane2.present() ? crane2.arrives(i) : crane1.arrives(i)),
           b2_(crane2.present() ? crane2.leaves(i) : a2_),
           b1_(crane1.present() ? crane1.leaves(i) : b2_),
-          left_(crane1.moments(i - 1), crane2.moments(i - 1), 0, 0, a2_),
-          right_(crane1.moments(i), crane2.moments(i), b1_, b2_, N_ + 1) {
-        fillRows(crane1, a2_, b1_, rows1_);
-        fillRows(crane2, a2_, b2_, rows2_);
+          left_(crane1, crane2, i - 1, 0, 0, a2_),
+          right_(crane1, crane2, i, b1_, b2_, N_ + 1) {
+        fillRows(crane1, b1_, rows1_, nullptr);
+        fillRows(crane2, b2_, high2_, crane2.varies() ? &low2_ : nullptr);
         for (Side& side : sides_) findBest(side);
         setThresholds(plane, quantity);
         for (const Side& side : sides_) collect(side);
     }
 
-    /// Values of one lane at every position of crane 1 and of crane 2.
-    [[nodiscard]] std::vector<double> allOf1(int lane) const { return allOf(lane, crane1_, rows1_, b1_); }
-    [[nodiscard]] std::vector<double> allOf2(int lane) const { return allOf(lane, crane2_, rows2_, b2_); }
+    /// Values of one lane at every position: of crane 1, and the largest and smallest of crane 2's variants.
+    [[nodiscard]] std::vector<double> allOf1(int lane) const { return allOf(lane, crane1_, rows1_, b1_, true); }
+    [[nodiscard]] std::vector<double> allOf2(int lane, bool largest) const {
+        return allOf(lane, crane2_, largest || low2_.empty() ? high2_ : low2_, b2_, largest);
+    }
 
 private:
     /// The search for the largest (sign 1) or the smallest (sign -1) values: both look for the largest of sign x value.
@@ -283,25 +296,45 @@ private:
         LaneValues threshold{};      ///< what a pair must reach to be a candidate
     };
 
-    void fillRows(const CraneResponse& crane, int first, int end, std::vector<double>& rows) const {
-        rows.resize(static_cast<std::size_t>(std::max(0, end - first)) * count_);
-        for (int p = first; p < end; ++p)
-            lanes_.row(crane, i_, p, rows.data() + static_cast<std::size_t>(p - first) * count_);
+    /// Rows of the positions a2..end - 1: the largest of the variants, and where wanted the smallest.
+    void fillRows(const CraneResponse& crane, int end, std::vector<double>& high, std::vector<double>* low) const {
+        high.resize(static_cast<std::size_t>(std::max(0, end - a2_)) * count_);
+        if (low != nullptr) low->resize(high.size());
+        LaneValues values;
+        for (int p = a2_; p < end; ++p) {
+            const std::size_t at = static_cast<std::size_t>(p - a2_) * count_;
+            lanes_.row(crane, i_, p, 0, high.data() + at);
+            if (low == nullptr) continue;
+            std::copy_n(high.data() + at, count_, low->data() + at);
+            for (int variant = 1; variant < crane.variants(p); ++variant) {
+                lanes_.row(crane, i_, p, variant, values.data());
+                for (std::size_t l = 0; l < count_; ++l) {
+                    high[at + l] = std::max(high[at + l], values[l]);
+                    (*low)[at + l] = std::min((*low)[at + l], values[l]);
+                }
+            }
+        }
     }
     [[nodiscard]] std::vector<double> allOf(int lane, const CraneResponse& crane, const std::vector<double>& rows,
-                                            int end) const {
+                                            int end, bool largest) const {
         const auto l = static_cast<std::size_t>(lane);
         std::vector<double> values(static_cast<std::size_t>(N_) + 1);
-        const float* Ma = crane.moments(i_ - 1);
-        const float* Mb = crane.moments(i_);
+        const double left = lanes_.left[l];
+        const double right = lanes_.right[l];
+        const float* Ma = (left >= 0) == largest ? crane.largestMoments(i_ - 1) : crane.smallestMoments(i_ - 1);
+        const float* Mb = (right >= 0) == largest ? crane.largestMoments(i_) : crane.smallestMoments(i_);
         for (int p = 0; p <= N_; ++p)
-            values[static_cast<std::size_t>(p)] =
-                p >= a2_ && p < end ? rows[static_cast<std::size_t>(p - a2_) * count_ + l]
-                                    : lanes_.left[l] * double{Ma[p]} + lanes_.right[l] * double{Mb[p]};
+            values[static_cast<std::size_t>(p)] = p >= a2_ && p < end
+                                                      ? rows[static_cast<std::size_t>(p - a2_) * count_ + l]
+                                                      : left * double{Ma[p]} + right * double{Mb[p]};
         return values;
     }
     [[nodiscard]] const double* row1(int j) const { return rows1_.data() + static_cast<std::size_t>(j - a2_) * count_; }
-    [[nodiscard]] const double* row2(int s) const { return rows2_.data() + static_cast<std::size_t>(s - a2_) * count_; }
+    /// Rows of crane 2 as they count for a side: at their best, or at their worst.
+    [[nodiscard]] const double* row2(const Side& side, int s, bool atBest) const {
+        const bool high = low2_.empty() || (side.sign > 0) == atBest;
+        return (high ? high2_ : low2_).data() + static_cast<std::size_t>(s - a2_) * count_;
+    }
 
     /// Best of crane 2 over s..N, for s from a2 on.
     void suffixAt(const Side& side, int s, double* best) const {
@@ -313,16 +346,22 @@ private:
             best[l] = s <= N_ ? right_.best2(side.sign * lanes_.fromRight[l], s) : kNothing;
     }
 
-    void findBest(Side& side) {
-        side.suffix.resize(rows2_.size());
+    /// Suffixes of crane 2's rows, at their best or at their worst.
+    void makeSuffix(Side& side, bool atBest) {
+        side.suffix.resize(high2_.size());
         LaneValues from{};
         suffixAt(side, b2_, from.data());
         for (int s = b2_ - 1; s >= a2_; --s) {
-            const double* row = row2(s);
+            const double* row = row2(side, s, atBest);
             for (std::size_t l = 0; l < count_; ++l) from[l] = std::max(from[l], side.sign * row[l]);
             std::copy_n(from.data(), count_, side.suffix.data() + static_cast<std::size_t>(s - a2_) * count_);
         }
+    }
 
+    /// The best that some pair reaches for certain: crane 2 counts with its worst variant.
+    void findBest(Side& side) {
+        makeSuffix(side, false);
+        LaneValues from{};
         side.best.fill(kNothing);
         const auto improve = [&](std::size_t l, double value) { side.best[l] = std::max(side.best[l], value); };
         if (a2_ > 0) {
@@ -339,6 +378,9 @@ private:
             for (std::size_t l = 0; l < count_; ++l) improve(l, side.sign * row[l] + from[l]);
         }
         for (std::size_t l = 0; l < count_ && b1_ <= N_; ++l) improve(l, right_.best(side.sign * lanes_.fromRight[l]));
+        for (std::size_t l = 0; l < count_; ++l)
+            side.best[l] -= std::abs(lanes_.fromLeft[l]) * left_.spread + std::abs(lanes_.fromRight[l]) * right_.spread;
+        if (crane2_.varies()) makeSuffix(side, true);
     }
 
     /// A value can be the first to reach an extreme only within twice the error of the best, and only if it may lie
@@ -393,7 +435,7 @@ private:
             if (rules_.repeats(j)) return;
             const double needed = threshold - factor * double{left_.moment1[j]};
             for (int s = j; s <= rules_.lastS(j, a2_ - 1); ++s)
-                if (factor * double{left_.moment2[s]} >= needed) add(j, s);
+                if (left_.at2(factor, s) >= needed) add(j, s);
         });
     }
 
@@ -410,10 +452,10 @@ private:
         int s = std::max(first, j);
         const int end = rules_.lastS(j, N_) + 1;
         for (; s < std::min(b2_, end); ++s)
-            if (side.sign * row2(s)[l] >= needed) add(j, s);
+            if (side.sign * row2(side, s, true)[l] >= needed) add(j, s);
         const double factor = side.sign * lanes_.fromRight[l];
         for (; s < end && right_.best2(factor, s) >= needed; ++s)
-            if (factor * double{right_.moment2[s]} >= needed) add(j, s);
+            if (right_.at2(factor, s) >= needed) add(j, s);
     }
 
     void add(int j, int s) { rules_.add(j, s, SpanMask{1} << i_); }
@@ -425,19 +467,19 @@ private:
     const PairRules rules_;
     const int a2_, b2_, b1_;
     const OneSided left_, right_;
-    std::vector<double> rows1_, rows2_;  ///< [j - a2][lane] and [s - a2][lane]
+    std::vector<double> rows1_, high2_, low2_;  ///< [j - a2][lane] and [s - a2][lane]; low2_ only where variants differ
     std::array<Side, 2> sides_{{{1, {}, {}, {}}, {-1, {}, {}, {}}}};
 };
 
 /// One value that follows from a whole position: the shears that meet over a support.
 struct EndShear {
-    std::vector<double> crane1, crane2;  ///< at every position
+    std::vector<double> crane1, high2, low2;  ///< at every position; of crane 2 the largest and smallest variant
     double dead = 0, error = 0;
 };
 
 EndShear endShear(const SpanSearch& search, const Lanes& lanes, int lane) {
     const auto l = static_cast<std::size_t>(lane);
-    return {search.allOf1(lane), search.allOf2(lane), lanes.dead[l], lanes.error[l]};
+    return {search.allOf1(lane), search.allOf2(lane, true), search.allOf2(lane, false), lanes.dead[l], lanes.error[l]};
 }
 
 /// Search of the reaction over the support between two spans: shear at the start of the right one less shear at the end
@@ -450,18 +492,21 @@ void searchReaction(const EndShear& leftEnd, const EndShear& rightStart, const P
     for (const double sign : {1.0, -1.0}) {
         double largest1 = 0;
         double largest2 = 0;
-        double best = kNothing;
+        double best = kNothing;  // that some pair reaches for certain
+        double worst2 = kNothing;
         for (int p = N; p >= 0; --p) {
             const auto at = static_cast<std::size_t>(p);
+            const double high = rightStart.high2[at] - leftEnd.low2[at];
+            const double low = rightStart.low2[at] - leftEnd.high2[at];
             one[at] = sign * (rightStart.crane1[at] - leftEnd.crane1[at]);
-            two[at] = sign * (rightStart.crane2[at] - leftEnd.crane2[at]);
+            two[at] = sign > 0 ? high : -low;
             suffix[at] = p == N ? two[at] : std::max(two[at], suffix[at + 1]);
-            best = std::max(best, one[at] + suffix[at]);
+            worst2 = std::max(worst2, sign > 0 ? low : -high);
+            best = std::max(best, one[at] + worst2);
             largest1 = std::max(largest1, std::abs(one[at]));
-            largest2 = std::max(largest2, std::abs(two[at]));
+            largest2 = std::max({largest2, std::abs(high), std::abs(low)});
         }
-        const double size = std::abs(dead) + largest1 + largest2;
-        const double E = leftEnd.error + rightStart.error + kUnit * size;
+        const double E = leftEnd.error + rightStart.error + kUnit * (std::abs(dead) + largest1 + largest2);
         const double threshold = std::max(best - 2 * E, -E - sign * dead);
         for (int j = 0; j <= N; ++j) {
             const auto at = static_cast<std::size_t>(j);

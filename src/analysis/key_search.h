@@ -23,7 +23,10 @@ public:
 
 private:
     void merge();
+    static constexpr std::size_t kMostTimes =
+        10;  ///< how often a pair may be found, on average, before collecting ends
     std::size_t most_;
+    std::size_t added_ = 0;
     std::size_t mergeAt_ = 1 << 16;
     bool tooMany_ = false;
     std::vector<Item> items_;

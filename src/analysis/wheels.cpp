@@ -11,7 +11,8 @@ WheelPlacer::WheelPlacer(const Project& project, const Beam& beam, const RunLoad
 
 void WheelPlacer::PlaceWheels(int j, int k, Wheels& wheels) const {
     placeCrane1(j, wheels);
-    placeCrane2(wheels[4].x, k, wheels);
+    const double nearest = minAvst_ + wheels[4].x;
+    placeCrane2(Single(constantDistance_ ? nearest : nearest + k * 200.0), wheels);
 }
 
 void WheelPlacer::placeCrane1(int j, Wheels& wheels) const {
@@ -19,8 +20,8 @@ void WheelPlacer::placeCrane1(int j, Wheels& wheels) const {
     for (int w = 2; w <= 4; ++w) stand(w, Single(wheels[w - 1].x + loads_.WheelGap(w - 1)), wheels);
 }
 
-void WheelPlacer::placeCrane2(double x4, int k, Wheels& wheels) const {
-    stand(5, Single(constantDistance_ ? minAvst_ + x4 : minAvst_ + x4 + k * 200.0), wheels);
+void WheelPlacer::placeCrane2(double x5, Wheels& wheels) const {
+    stand(5, x5, wheels);
     for (int w = 6; w <= 8; ++w) stand(w, Single(wheels[w - 1].x + loads_.WheelGap(w - 2)), wheels);
 }
 

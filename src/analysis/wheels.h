@@ -31,8 +31,8 @@ public:
 
     /// Crane 1 alone, wheels 1 to 4.
     void placeCrane1(int j, Wheels& wheels) const;
-    /// Crane 2 alone, wheels 5 to 8, when wheel 4 stands at x4.
-    void placeCrane2(double x4, int k, Wheels& wheels) const;
+    /// Crane 2 alone, wheels 5 to 8, with wheel 5 at x5.
+    void placeCrane2(double x5, Wheels& wheels) const;
 
     [[nodiscard]] const RunLoads& loads() const noexcept { return loads_; }
     /// Smallest distance between the cranes, mm.
