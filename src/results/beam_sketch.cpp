@@ -69,11 +69,9 @@ double drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) 
 }
 
 void addSpanLabels(DiagramCanvas& canvas, const DistinctSections& sections, double base, bool below) {
-    const Em em = emOf(canvas.surface);
     for (int span = 1; span <= canvas.project.NofSpans; ++span) {
         const int length = canvas.project.Span(span);
-        Label label{
-            {std::to_string(length)}, {canvas.x(span, 0.5 * length), base + (below ? 0.3 : -0.3) * em.y}, below};
+        Label label{{std::to_string(length)}, {canvas.x(span, 0.5 * length), base}, below};
         if (const int number = sections.numberOf(span); number > 0) label.circled = std::to_string(number);
         canvas.labels.add(std::move(label));
     }
@@ -90,6 +88,20 @@ void drawSplices(DiagramCanvas& canvas, double base) {
         canvas.labels.keepClear({corner.x, corner.y, corner.x + size.width, corner.y + size.height});
     }
     surface.setFont(canvas.labelFont);
+}
+
+/// The distance between two wheels of a crane, where there is room for it.
+void addWheelDistances(DiagramCanvas& canvas, const CraneGeometry& cranes, double bridge, bool below) {
+    for (std::size_t i = 1; i < cranes.wheels.size(); ++i) {
+        const WheelPlace& left = cranes.wheels[i - 1];
+        const WheelPlace& right = cranes.wheels[i];
+        if ((left.wheel <= 4) != (right.wheel <= 4)) continue;
+        const double distance = canvas.project.Avst(left.wheel <= 4 ? left.wheel : left.wheel - 1);
+        Label label{{formatNumber(distance, "0")}, {canvas.X0 + 0.5 * (left.x + right.x), bridge}, below};
+        label.colour = colours::grey;
+        label.optional = true;
+        canvas.labels.add(std::move(label));
+    }
 }
 
 void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
@@ -123,6 +135,7 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
     for (const WheelPlace& wheel : cranes.wheels)
         canvas.labels.add(
             {loadLines(canvas.project, wheel.wheel, kind), {canvas.X0 + wheel.x, bridge}, !kind.cranesAbove});
+    addWheelDistances(canvas, cranes, bridge, !kind.cranesAbove);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ constexpr double kBeamStart = 50.0;
 constexpr double kBeamLength = 900.0;
 constexpr double kWidth = 1000.0;
 constexpr double kSupportMark = 6.0;
+constexpr double kSmallestRemark = 5.5;  // points
 
 // Pen widths on paper, mm.
 constexpr double kFramePen = 0.25;
@@ -39,10 +40,10 @@ DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode) {
     const bool screen = mode == DiagramMode::Screen;
     switch (shapeOf(diagram)) {
         case Shape::Sketch:
-            return screen ? DiagramLayout{{0.0, 160.0}, {90.0}} : DiagramLayout{{-10.0, 88.0}, {42.0}};
+            return screen ? DiagramLayout{{0.0, 140.0}, {80.0}} : DiagramLayout{{-10.0, 88.0}, {47.0}};
         case Shape::Forces:
             return screen ? DiagramLayout{{0.0, 268.0}, {76.0, 190.0}, 248.0}
-                          : DiagramLayout{{-10.0, 192.0}, {52.0, 136.0}, 177.0};
+                          : DiagramLayout{{-10.0, 196.0}, {52.0, 134.0}, 182.0};
         case Shape::Deflection:
             return screen ? DiagramLayout{{80.0, 188.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {20.0}};
         case Shape::Stress:
@@ -73,6 +74,11 @@ DiagramCanvas::DiagramCanvas(DrawingSurface& target, Diagram diagram, const Proj
     for (int span = 1; span <= project.NofSpans; ++span) starts_.push_back(total_ += project.Span(span));
 }
 
+void DiagramCanvas::drawLabels() {
+    surface.setPenWidth(penWidth(1));
+    labels.draw(surface, labelFont);
+}
+
 double DiagramCanvas::x(int span, double position) const {
     return X0 + kBeamStart + (starts_[static_cast<std::size_t>(span - 1)] + position) * unitsPerMm();
 }
@@ -99,23 +105,40 @@ void DiagramCanvas::drawHead(const std::string& remark, bool withSigns) {
     surface.text(corner, title);
     labels.keepClear({corner.x, corner.y, corner.x + size.width, corner.y + size.height});
 
-    double right = X0 + kWidth;
+    const Box titleBox{corner.x, corner.y, corner.x + size.width, corner.y + size.height};
+    surface.setFont(labelFont);
     if (withSigns) {
-        surface.setFont(labelFont);
-        const Box signs = drawSigns(surface, diagram_, {right, top + 1.0});
-        labels.keepClear(signs);
-        right = signs.left;
+        const double left = X0 + kWidth - signsWidth(surface, diagram_);
+        if (left > titleBox.right && remarkFits(remark, titleBox, left)) {
+            drawRemark(remark, titleBox, left);
+            surface.setFont(labelFont);
+            labels.keepClear(drawSigns(surface, diagram_, {X0 + kWidth, top + 1.0}));
+            return;
+        }
     }
+    drawRemark(remark, titleBox, X0 + kWidth);  // in a narrow picture the words count more than the signs
+}
+
+double DiagramCanvas::remarkLeft(const Box& title) const {
+    return title.right + 1.5 * emOf(surface).x;
+}
+
+bool DiagramCanvas::remarkFits(const std::string& remark, const Box& title, double right) {
+    surface.setFont({labelFont.name, kSmallestRemark});
+    return remark.empty() || remarkLeft(title) + surface.textWidth(remark) <= right;
+}
+
+void DiagramCanvas::drawRemark(const std::string& remark, const Box& title, double right) {
     if (remark.empty()) return;
-    for (Font font = labelFont; font.points >= 5.0; font.points -= 0.5) {
+    for (Font font = labelFont; font.points >= kSmallestRemark; font.points -= 0.5) {
         surface.setFont(font);
-        const double left = corner.x + size.width + 1.5 * emOf(surface).x;
+        const double left = remarkLeft(title);
         const Extent room = surface.extent(remark);
-        if (left + room.width > right && font.points > 5.0) continue;
+        if (left + room.width > right) continue;
         surface.setColour(colours::grey);
-        surface.text({left, corner.y + size.height - room.height}, remark);
+        surface.text({left, title.bottom - room.height}, remark);
         surface.setColour(colours::black);
-        labels.keepClear({left, corner.y, left + room.width, corner.y + size.height});
+        labels.keepClear({left, title.top, left + room.width, title.bottom});
         return;
     }
 }

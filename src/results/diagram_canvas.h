@@ -34,7 +34,7 @@ public:
     /// A curve over the spans, tinted down to its base. @param at  y of (span, point)
     void drawCurve(double base, const std::function<double(int, int)>& at, Colour line, Colour tint);
     /// All labels added to `labels`.
-    void drawLabels() { labels.draw(surface, labelFont); }
+    void drawLabels();
 
     /// x of a place on the beam. @param position  mm from the left support of the span
     [[nodiscard]] double x(int span, double position) const;
@@ -54,12 +54,18 @@ public:
     LabelPlacer labels;
 
 private:
+    [[nodiscard]] double remarkLeft(const Box& title) const;
+    [[nodiscard]] bool remarkFits(const std::string& remark, const Box& title, double right);
+    void drawRemark(const std::string& remark, const Box& title, double right);
+
     Diagram diagram_;
     std::array<double, 3> penWidth_;
     double total_ = 0.0;          ///< length of the beam, mm
     std::vector<double> starts_;  ///< mm from the beam's start to each support
 };
 
+/// Width of the axes and signs in the current font.
+[[nodiscard]] double signsWidth(const DrawingSurface& surface, Diagram diagram);
 /// Axes and positive signs, right-aligned in one row of a title. @return what they cover
 Box drawSigns(DrawingSurface& surface, Diagram diagram, Place topRight);
 

@@ -7,7 +7,11 @@
 namespace borvik {
 namespace {
 
-constexpr double kRow = 1.5;  // height of a symbol in text heights
+// In text heights.
+constexpr double kRow = 1.5;  // height of a symbol
+constexpr double kSymbolWidth = 2.5;
+constexpr double kSymbolAndGap = 3.3;
+constexpr double kAxesWidth = 2.4;
 
 /// Draws in text heights from an upper left corner, so that a symbol keeps its shape whatever the two scales are.
 class Pencil {
@@ -85,22 +89,24 @@ std::vector<Symbol> symbolsOf(Diagram diagram) {
 
 }  // namespace
 
-Box drawSigns(DrawingSurface& surface, Diagram diagram, Place topRight) {
-    constexpr double kSymbolWidth = 2.5;
-    constexpr double kAxesWidth = 2.4;
+double signsWidth(const DrawingSurface& surface, Diagram diagram) {
     const Em em = emOf(surface);
-    const std::vector<Symbol> symbols = symbolsOf(diagram);
+    double width = kAxesWidth * em.x;
+    for (const Symbol& symbol : symbolsOf(diagram)) width += kSymbolAndGap * em.x + surface.textWidth(symbol.text);
+    return width;
+}
 
-    double left = topRight.x - kAxesWidth * em.x;
-    for (const Symbol& symbol : symbols) left -= (kSymbolWidth + 0.8) * em.x + surface.textWidth(symbol.text);
+Box drawSigns(DrawingSurface& surface, Diagram diagram, Place topRight) {
+    const Em em = emOf(surface);
+    double left = topRight.x - signsWidth(surface, diagram);
     const Box covered{left, topRight.y, topRight.x, topRight.y + kRow * em.y};
 
     surface.setColour(colours::grey);
-    for (const Symbol& symbol : symbols) {
+    for (const Symbol& symbol : symbolsOf(diagram)) {
         Pencil pencil(surface, {left, topRight.y});
         symbol.draw(pencil);
         pencil.text({kSymbolWidth, 0.25}, symbol.text);
-        left += (kSymbolWidth + 0.8) * em.x + surface.textWidth(symbol.text);
+        left += kSymbolAndGap * em.x + surface.textWidth(symbol.text);
     }
     Pencil pencil(surface, {left, topRight.y});
     drawAxes(pencil, isHorizontal(diagram) ? "y" : "z");

@@ -10,9 +10,15 @@ namespace {
 constexpr double kReadablePoints = 7.0;  // down to here all labels stay level
 constexpr double kSmallestPoints = 6.0;  // and down to here they may stand upright
 constexpr double kGap = 0.2;             // between anchor and label, in text heights
-constexpr double kOtherSideCost = 4.0;   // costs are in text heights of distance
+constexpr double kBeside = 0.35;         // room kept left and right of a label, in text heights
+constexpr double kFarthest = 5.0;        // a label further away than this is better left out
+constexpr double kUprightCost = 3.0;
+constexpr double kStandsWell = 4.0;
+constexpr double kAnyCost = 1000.0;
+constexpr double kOtherSideCost = 2.5;  // costs are in text heights of distance
 constexpr double kLineCost = 1.5;
-constexpr double kCircle = 1.5;  // diameter of a circled number
+constexpr int kMostLines = 4;    // more lines under a label make it no worse
+constexpr double kCircle = 1.4;  // diameter of a circled number
 constexpr double kCircleAndGap = 1.8;
 constexpr double kLeaderFrom = 1.3;  // a label further away than this gets a line to its anchor
 
@@ -21,12 +27,6 @@ struct Candidate {
     Box box;
     double cost;
 };
-
-double overlapArea(const Box& a, const Box& b) {
-    const double width = std::min(a.right, b.right) - std::max(a.left, b.left);
-    const double height = std::min(a.bottom, b.bottom) - std::max(a.top, b.top);
-    return width > 0.0 && height > 0.0 ? width * height : 0.0;
-}
 
 bool touchesAny(const Box& box, const std::vector<Box>& taken) {
     return std::any_of(taken.begin(), taken.end(), [&box](const Box& other) { return box.overlaps(other); });
@@ -90,17 +90,21 @@ Box LabelPlacer::inside(Box box) const {
 }
 
 int LabelPlacer::linesUnder(const Box& box) const {
-    return static_cast<int>(std::count_if(lines_.begin(), lines_.end(),
-                                          [&box](const Line& line) { return box.crossedBy(line.from, line.to); }));
+    int crossed = 0;
+    for (const Line& line : lines_) {
+        if (std::max(line.from.x, line.to.x) < box.left || std::min(line.from.x, line.to.x) > box.right) continue;
+        if (box.crossedBy(line.from, line.to) && ++crossed == kMostLines) break;
+    }
+    return crossed;
 }
 
 std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& surface, const Label& label,
-                                                       TextDirection direction, const std::vector<Box>& taken) const {
+                                                       TextDirection direction, const std::vector<Box>& taken,
+                                                       double highestCost) const {
     static constexpr std::array<double, 15> kShifts{0.0, -0.25, 0.25, -0.5, 0.5, -0.75, 0.75, -1.0,
                                                     1.0, -1.5,  1.5,  -2.0, 2.0, -3.0,  3.0};  // in label widths
     const Extent size = labelExtent(surface, label, direction);
     const Em em = emOf(surface);
-    const double reach = frame_.bottom - frame_.top;
 
     std::vector<Candidate> candidates;
     if (label.firstChoice && direction == TextDirection::Across) {
@@ -108,7 +112,7 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
         candidates.push_back({inside({corner.x, corner.y, corner.x + size.width, corner.y + size.height}), -kLineCost});
     }
     for (const bool below : {label.below, !label.below})
-        for (double away = 0.0; away < reach; away += 0.5 * em.y) {
+        for (double away = 0.0; away < kFarthest * em.y; away += 0.5 * em.y) {
             const double top =
                 below ? label.anchor.y + kGap * em.y + away : label.anchor.y - kGap * em.y - away - size.height;
             if (top < frame_.top || top + size.height > frame_.bottom) break;
@@ -116,57 +120,68 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
                 const double left = label.anchor.x - 0.5 * size.width + shift * size.width;
                 const Box box = inside({left, top, left + size.width, top + size.height});
                 const double aside = std::abs(0.5 * (box.left + box.right) - label.anchor.x) / em.x;
-                candidates.push_back({box, away / em.y + 0.4 * aside + (below == label.below ? 0.0 : kOtherSideCost)});
+                const double distance = away / em.y + 0.4 * aside;
+                if (distance > kFarthest) continue;
+                candidates.push_back({box, distance + (below == label.below ? 0.0 : kOtherSideCost)});
             }
         }
     std::stable_sort(candidates.begin(), candidates.end(),
                      [](const Candidate& a, const Candidate& b) { return a.cost < b.cost; });
 
     std::optional<Placed> best;
-    double lowest = 0.0;
     for (const Candidate& candidate : candidates) {
-        if (best && candidate.cost >= lowest) break;
+        if (best && candidate.cost >= best->cost) break;
         if (touchesAny(candidate.box, taken)) continue;
         const int crossed = linesUnder(candidate.box);
-        const double cost = candidate.cost + kLineCost * std::min(crossed, 4);
-        if (best && cost >= lowest) continue;
-        best = Placed{candidate.box, direction, true, crossed > 0};
-        lowest = cost;
+        const double cost = candidate.cost + kLineCost * crossed;
+        if (cost > highestCost || (best && cost >= best->cost)) continue;
+        best = Placed{candidate.box, direction, crossed > 0, cost};
     }
     return best;
 }
 
-LabelPlacer::Placed LabelPlacer::place(const DrawingSurface& surface, const Label& label, const std::vector<Box>& taken,
-                                       bool upright) const {
-    if (const auto placed = search(surface, label, TextDirection::Across, taken)) return *placed;
-    if (upright)
-        if (const auto placed = search(surface, label, TextDirection::Up, taken)) return *placed;
-
-    // No room: upright at the anchor's height, where least is covered.
-    const Extent size = labelExtent(surface, label, TextDirection::Up);
-    Placed least;
-    double smallest = 0.0;
-    for (int shift = -8; shift <= 8; ++shift) {
-        const double left = label.anchor.x - 0.5 * size.width + 0.5 * shift * size.width;
-        const double top = label.below ? label.anchor.y : label.anchor.y - size.height;
-        const Box box = inside({left, top, left + size.width, top + size.height});
-        double covered = 0.0;
-        for (const Box& other : taken) covered += overlapArea(box, other);
-        if (shift > -8 && covered >= smallest) continue;
-        least = {box, TextDirection::Up, false, true};
-        smallest = covered;
-    }
-    return least;
+std::optional<LabelPlacer::Placed> LabelPlacer::place(const DrawingSurface& surface, const Label& label,
+                                                      const std::vector<Box>& taken, const Effort& effort) const {
+    const auto across = search(surface, label, TextDirection::Across, taken, effort.highestCost);
+    if (!effort.upright || label.optional || (across && across->cost <= kUprightCost)) return across;
+    const auto up = search(surface, label, TextDirection::Up, taken, effort.highestCost);
+    if (across && up) return across->cost <= up->cost + kUprightCost ? across : up;
+    return across ? across : up;
 }
 
-std::vector<LabelPlacer::Placed> LabelPlacer::placeAll(const DrawingSurface& surface, bool upright) const {
+LabelPlacer::Attempt LabelPlacer::placeAll(const DrawingSurface& surface, const Effort& effort) const {
     std::vector<Box> taken = taken_;
-    std::vector<Placed> all;
+    const double beside = kBeside * emOf(surface).x;
+    Attempt attempt;
     for (const Label& label : labels_) {
-        all.push_back(place(surface, label, taken, upright));
-        taken.push_back(all.back().box);
+        attempt.places.push_back(place(surface, label, taken, effort));
+        if (const auto& placed = attempt.places.back())
+            taken.push_back(
+                {placed->box.left - beside, placed->box.top, placed->box.right + beside, placed->box.bottom});
+        else if (!label.optional)
+            attempt.complete = false;
+        if (!attempt.complete && effort.allOrNothing) break;
     }
-    return all;
+    return attempt;
+}
+
+LabelPlacer::Attempt LabelPlacer::placeInLargest(DrawingSurface& surface, Font& font) const {
+    struct Range {
+        double smallestPoints;
+        Effort effort;
+    };
+    const double largest = font.points;
+    for (const Range& range :
+         {Range{kReadablePoints, {false, true, kAnyCost}}, Range{kSmallestPoints, {true, true, kAnyCost}}})
+        for (font.points = largest; font.points >= range.smallestPoints; font.points -= 0.5) {
+            surface.setFont(font);
+            Attempt attempt = placeAll(surface, range.effort);
+            if (attempt.complete) return attempt;
+        }
+    // There are too many: those that stand well, so that the drawing can still be read.
+    font.points = std::min(largest, kReadablePoints);
+    surface.setFont(font);
+    return placeAll(surface, {true, false, kStandsWell});
 }
 
 void LabelPlacer::drawLabel(DrawingSurface& surface, const Label& label, const Placed& placed) {
@@ -203,28 +218,18 @@ void LabelPlacer::drawLabel(DrawingSurface& surface, const Label& label, const P
     }
 }
 
-std::vector<LabelPlacer::Placed> LabelPlacer::placeInLargest(DrawingSurface& surface, Font& font) const {
-    struct Try {
-        double smallestPoints;
-        bool upright;
-    };
+void LabelPlacer::draw(DrawingSurface& surface, Font font) {
     const double largest = font.points;
-    std::vector<Placed> places;
-    for (const Try& attempt : {Try{kReadablePoints, false}, Try{kSmallestPoints, true}})
-        for (font.points = largest; font.points >= attempt.smallestPoints; font.points -= 0.5) {
-            surface.setFont(font);
-            places = placeAll(surface, attempt.upright);
-            if (std::all_of(places.begin(), places.end(), [](const Placed& placed) { return placed.free; }))
-                return places;
-        }
-    font.points = kSmallestPoints;
+    Attempt attempt = placeInLargest(surface, font);
+    if (!attempt.complete) {  // say so in the lower right corner, which is then taken first
+        const Place corner{frame_.right, frame_.bottom};
+        labels_.insert(labels_.begin(), Label{{"+ values in the table"}, corner, false, corner, colours::grey});
+        font.points = largest;
+        attempt = placeInLargest(surface, font);
+    }
     surface.setFont(font);
-    return placeAll(surface, true);
-}
-
-void LabelPlacer::draw(DrawingSurface& surface, Font font) const {
-    const std::vector<Placed> places = placeInLargest(surface, font);
-    for (std::size_t i = 0; i < labels_.size(); ++i) drawLabel(surface, labels_[i], places[i]);
+    for (std::size_t i = 0; i < labels_.size(); ++i)
+        if (attempt.places[i]) drawLabel(surface, labels_[i], *attempt.places[i]);
 }
 
 }  // namespace borvik

@@ -25,6 +25,7 @@ struct Label {
     bool below = false;                     ///< the side of the anchor on which it is wanted
     std::optional<Place> firstChoice = {};  ///< upper left corner, where that place is free
     Colour colour = colours::black;
+    bool optional = false;     ///< may be left out silently where there is no room
     std::string circled = {};  ///< a number in a circle in front of the first line
 };
 
@@ -41,11 +42,11 @@ public:
     void add(Label label) { labels_.push_back(std::move(label)); }
 
     /// Places and draws all labels, those added first with the first choice, in the largest size in which all of them
-    /// find room: level first, down to a size that still reads well, then upright where a line has no room; with the
-    /// least overlap where nothing suffices. A label over a line gets a white ground, one that stands away from its
-    /// anchor a thin line to it.
+    /// find room: level first, down to a size that still reads well, then upright where a line has no room. What finds
+    /// no room in the smallest size is left out, and a remark says so; nothing is ever covered. A label over a line
+    /// gets a white ground, one that stands away from its anchor a thin line to it, in the pen at hand.
     /// @param font  its size is the largest to try
-    void draw(DrawingSurface& surface, Font font) const;
+    void draw(DrawingSurface& surface, Font font);
 
 private:
     struct Line {
@@ -54,15 +55,26 @@ private:
     struct Placed {
         Box box;
         TextDirection direction = TextDirection::Across;
-        bool free = true;      ///< covers no other label
         bool onLines = false;  ///< covers a line of the drawing
+        double cost = 0.0;     ///< distance and what else is unwelcome, in text heights
     };
-    [[nodiscard]] std::vector<Placed> placeAll(const DrawingSurface& surface, bool upright) const;
-    [[nodiscard]] std::vector<Placed> placeInLargest(DrawingSurface& surface, Font& font) const;
-    [[nodiscard]] Placed place(const DrawingSurface& surface, const Label& label, const std::vector<Box>& taken,
-                               bool upright) const;
+    /// All labels placed in one size. A label without room has no place.
+    struct Attempt {
+        std::vector<std::optional<Placed>> places;
+        bool complete = true;  ///< no label is without a place but optional ones
+    };
+    struct Effort {
+        bool upright;        ///< labels may stand upright
+        bool allOrNothing;   ///< stop at the first label without room
+        double highestCost;  ///< that a place may have
+    };
+    [[nodiscard]] Attempt placeAll(const DrawingSurface& surface, const Effort& effort) const;
+    [[nodiscard]] Attempt placeInLargest(DrawingSurface& surface, Font& font) const;
+    [[nodiscard]] std::optional<Placed> place(const DrawingSurface& surface, const Label& label,
+                                              const std::vector<Box>& taken, const Effort& effort) const;
     [[nodiscard]] std::optional<Placed> search(const DrawingSurface& surface, const Label& label,
-                                               TextDirection direction, const std::vector<Box>& taken) const;
+                                               TextDirection direction, const std::vector<Box>& taken,
+                                               double highestCost) const;
     [[nodiscard]] Box inside(Box box) const;
     [[nodiscard]] int linesUnder(const Box& box) const;
     static void drawLabel(DrawingSurface& surface, const Label& label, const Placed& placed);
