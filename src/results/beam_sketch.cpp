@@ -32,15 +32,17 @@ std::vector<std::string> loadLines(const Project& project, int wheel, const Sket
     return lines;
 }
 
-void drawSupports(DiagramCanvas& canvas, double base) {
+/// Supports stand under the beam, or above it where a hoist hangs below.
+void drawSupports(DiagramCanvas& canvas, double base, bool below) {
     const Em em = emOf(canvas.surface);
     for (int support = 1; support <= canvas.project.NofSpans + 1; ++support) {
         const double x = canvas.supportX(support);
-        const Place corners[] = {{x, base}, {x - 0.4 * em.x, base + 0.7 * em.y}, {x + 0.4 * em.x, base + 0.7 * em.y}};
+        const double foot = base + (below ? 0.7 : -0.7) * em.y;
+        const Place corners[] = {{x, base}, {x - 0.4 * em.x, foot}, {x + 0.4 * em.x, foot}};
         canvas.drawLine(corners[0], corners[1], colours::black, 1);
         canvas.drawLine(corners[1], corners[2], colours::black, 1);
         canvas.drawLine(corners[2], corners[0], colours::black, 1);
-        canvas.labels.keepClear({corners[1].x, base, corners[2].x, corners[1].y});
+        canvas.labels.keepClear({corners[1].x, std::min(base, foot), corners[2].x, std::max(base, foot)});
     }
 }
 
@@ -97,6 +99,7 @@ void addWheelDistances(DiagramCanvas& canvas, const CraneGeometry& cranes, doubl
         const WheelPlace& right = cranes.wheels[i];
         if ((left.wheel <= 4) != (right.wheel <= 4)) continue;
         const double distance = canvas.project.Avst(left.wheel <= 4 ? left.wheel : left.wheel - 1);
+        if (distance == 0.0) continue;
         Label label{{formatNumber(distance, "0")}, {canvas.X0 + 0.5 * (left.x + right.x), bridge}, below};
         label.colour = colours::grey;
         label.optional = true;
@@ -151,10 +154,10 @@ void drawBeamSketch(DrawingSurface& surface, const Project& project, double X0, 
     drawLegend(canvas, sections.names());
     surface.setFont(canvas.labelFont);
     canvas.drawLine({X0 + 50.0, base}, {X0 + 950.0, base}, colours::black, 3);
-    drawSupports(canvas, base);
+    drawSupports(canvas, base, kind.cranesAbove);
     drawSplices(canvas, base);
-    addSpanLabels(canvas, sections, base, kind.cranesAbove);
     drawCranes(canvas, kind, base);
+    addSpanLabels(canvas, sections, base, kind.cranesAbove);
     canvas.drawLabels();
 }
 

@@ -13,7 +13,9 @@ constexpr double kGap = 0.2;             // between anchor and label, in text he
 constexpr double kBeside = 0.35;         // room kept left and right of a label, in text heights
 constexpr double kFarthest = 5.0;        // a label further away than this is better left out
 constexpr double kUprightCost = 3.0;
+constexpr double kLeaderOverOthers = 3.0;
 constexpr double kStandsWell = 4.0;
+constexpr double kAtHand = 1.2;  // an optional label must be so near
 constexpr double kAnyCost = 1000.0;
 constexpr double kOtherSideCost = 2.5;  // costs are in text heights of distance
 constexpr double kLineCost = 1.5;
@@ -21,6 +23,17 @@ constexpr int kMostLines = 4;    // more lines under a label make it no worse
 constexpr double kCircle = 1.4;  // diameter of a circled number
 constexpr double kCircleAndGap = 1.8;
 constexpr double kLeaderFrom = 1.3;  // a label further away than this gets a line to its anchor
+
+/// The line from an anchor to a label that stands away from it; nothing where the label is close.
+struct Leader {
+    Place from, to;
+};
+std::optional<Leader> leaderOf(Place anchor, const Box& box, const Em& em) {
+    const Place nearest{std::clamp(anchor.x, box.left, box.right), std::clamp(anchor.y, box.top, box.bottom)};
+    const double away = std::hypot((nearest.x - anchor.x) / em.x, (nearest.y - anchor.y) / em.y);
+    if (away <= kLeaderFrom) return std::nullopt;
+    return Leader{anchor, nearest};
+}
 
 /// A place that a label could take, and what that costs.
 struct Candidate {
@@ -111,7 +124,8 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
         const Place corner = *label.firstChoice;
         candidates.push_back({inside({corner.x, corner.y, corner.x + size.width, corner.y + size.height}), -kLineCost});
     }
-    for (const bool below : {label.below, !label.below})
+    for (const bool below : {label.below, !label.below}) {
+        if (label.keepSide && below != label.below) continue;
         for (double away = 0.0; away < kFarthest * em.y; away += 0.5 * em.y) {
             const double top =
                 below ? label.anchor.y + kGap * em.y + away : label.anchor.y - kGap * em.y - away - size.height;
@@ -125,6 +139,7 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
                 candidates.push_back({box, distance + (below == label.below ? 0.0 : kOtherSideCost)});
             }
         }
+    }
     std::stable_sort(candidates.begin(), candidates.end(),
                      [](const Candidate& a, const Candidate& b) { return a.cost < b.cost; });
 
@@ -132,8 +147,12 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
     for (const Candidate& candidate : candidates) {
         if (best && candidate.cost >= best->cost) break;
         if (touchesAny(candidate.box, taken)) continue;
+        const auto leader = leaderOf(label.anchor, candidate.box, em);
+        const bool overOthers = leader && std::any_of(taken.begin(), taken.end(), [&leader](const Box& other) {
+                                    return other.crossedBy(leader->from, leader->to);
+                                });
         const int crossed = linesUnder(candidate.box);
-        const double cost = candidate.cost + kLineCost * crossed;
+        const double cost = candidate.cost + kLineCost * crossed + (overOthers ? kLeaderOverOthers : 0.0);
         if (cost > highestCost || (best && cost >= best->cost)) continue;
         best = Placed{candidate.box, direction, crossed > 0, cost};
     }
@@ -142,9 +161,10 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
 
 std::optional<LabelPlacer::Placed> LabelPlacer::place(const DrawingSurface& surface, const Label& label,
                                                       const std::vector<Box>& taken, const Effort& effort) const {
-    const auto across = search(surface, label, TextDirection::Across, taken, effort.highestCost);
+    const double highestCost = label.optional ? kAtHand : effort.highestCost;
+    const auto across = search(surface, label, TextDirection::Across, taken, highestCost);
     if (!effort.upright || label.optional || (across && across->cost <= kUprightCost)) return across;
-    const auto up = search(surface, label, TextDirection::Up, taken, effort.highestCost);
+    const auto up = search(surface, label, TextDirection::Up, taken, highestCost);
     if (across && up) return across->cost <= up->cost + kUprightCost ? across : up;
     return across ? across : up;
 }
@@ -192,13 +212,6 @@ void LabelPlacer::drawLabel(DrawingSurface& surface, const Label& label, const P
             {{box.left, box.top}, {box.right, box.top}, {box.right, box.bottom}, {box.left, box.bottom}}};
         surface.polygon(ground, colours::white);
     }
-    const Place nearest{std::clamp(label.anchor.x, box.left, box.right),
-                        std::clamp(label.anchor.y, box.top, box.bottom)};
-    const double away = std::hypot((nearest.x - label.anchor.x) / em.x, (nearest.y - label.anchor.y) / em.y);
-    if (away > kLeaderFrom) {
-        surface.setColour(colours::grey);
-        surface.line(label.anchor, nearest);
-    }
     surface.setColour(label.colour);
     Place corner{box.left, box.top};
     if (!label.circled.empty()) {
@@ -223,11 +236,24 @@ void LabelPlacer::draw(DrawingSurface& surface, Font font) {
     Attempt attempt = placeInLargest(surface, font);
     if (!attempt.complete) {  // say so in the lower right corner, which is then taken first
         const Place corner{frame_.right, frame_.bottom};
-        labels_.insert(labels_.begin(), Label{{"+ values in the table"}, corner, false, corner, colours::grey});
+        labels_.insert(labels_.begin(), Label{{"+ more values"}, corner, false, corner, colours::grey});
         font.points = largest;
         attempt = placeInLargest(surface, font);
     }
     surface.setFont(font);
+    const Em em = emOf(surface);
+    std::vector<Leader> leaders;
+    for (std::size_t i = 0; i < labels_.size(); ++i)
+        if (attempt.places[i])
+            if (const auto leader = leaderOf(labels_[i].anchor, attempt.places[i]->box, em)) leaders.push_back(*leader);
+    surface.setColour(colours::grey);
+    for (const Leader& leader : leaders) surface.line(leader.from, leader.to);
+    for (auto& placed : attempt.places)
+        if (placed)
+            placed->onLines =
+                placed->onLines || std::any_of(leaders.begin(), leaders.end(), [&placed](const Leader& leader) {
+                    return placed->box.crossedBy(leader.from, leader.to);
+                });
     for (std::size_t i = 0; i < labels_.size(); ++i)
         if (attempt.places[i]) drawLabel(surface, labels_[i], *attempt.places[i]);
 }

@@ -25,6 +25,7 @@ struct Label {
     bool below = false;                     ///< the side of the anchor on which it is wanted
     std::optional<Place> firstChoice = {};  ///< upper left corner, where that place is free
     Colour colour = colours::black;
+    bool keepSide = false;     ///< never on the other side of the anchor
     bool optional = false;     ///< may be left out silently where there is no room
     std::string circled = {};  ///< a number in a circle in front of the first line
 };

@@ -75,6 +75,7 @@ void addSupportLabels(DiagramCanvas& canvas, const std::vector<std::vector<std::
         canvas.surface.setFont(canvas.labelFont);
         const Extent size = labelExtent(canvas.surface, label, TextDirection::Across);
         label.firstChoice = Place{label.anchor.x - 0.5 * size.width, label.anchor.y};
+        label.keepSide = canvas.layout.bases.size() == 1;  // below the beam there is nothing else to keep clear of
         canvas.labels.add(std::move(label));
     }
 }
