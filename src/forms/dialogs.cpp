@@ -5,6 +5,8 @@
 #include "forms/fatigue2_dialog.h"
 #include "forms/load_dialog.h"
 #include "forms/load_runway_dialog.h"
+#include "forms/prof_reinf_dialog.h"
+#include "forms/profile_dialog.h"
 #include "forms/rail_dialog.h"
 #include "forms/setup_dialog.h"
 #include "forms/vipping_dialog.h"
@@ -43,9 +45,12 @@ std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages&
                 return make<Fatigue1Dialog>;
             case DialogKind::Fatigue2:
                 return make<Fatigue2Dialog>;
-            default:
-                return nullptr;
+            case DialogKind::Profile:
+                return make<ProfileDialog>;
+            case DialogKind::ProfReinf:
+                return make<ProfReinfDialog>;
         }
+        return nullptr;
     }();
     return maker == nullptr ? nullptr : maker(session, messages, std::move(changed), parent);
 }

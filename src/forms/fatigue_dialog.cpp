@@ -200,7 +200,7 @@ Group FatigueDialog::weld(const FatigueWeld& record) {
     auto* label = new QLabel(tr("a (mm) ="));
     label->setBuddy(throat);
     group.grid->addWidget(fillet, 0, 0);
-    group.grid->addWidget(full, 0, 1);
+    group.grid->addWidget(full, 1, 0);
     group.grid->addWidget(label, 0, 2, Qt::AlignRight);
     group.grid->addWidget(throat, 0, 3);
     group.grid->setColumnStretch(2, 1);

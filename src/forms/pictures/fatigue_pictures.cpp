@@ -298,7 +298,7 @@ DrawPicture fatigueDetailPicture(FatigueDetail detail) {
                                      [detail](const Scene& each) { return each.detail == detail; });
     return [scene](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double line = painter.fontMetrics().lineSpacing();
-        const bool withText = area.height() > 8 * line;
+        const bool withText = area.width() > 50 * painter.fontMetrics().averageCharWidth();
         const double width = withText ? area.width() * 0.5 : area.width();
         const double size = std::min(area.height() / 1.5, width / 1.6);
         const QPointF foot(area.left() + width / 2, area.center().y() + 0.54 * size);

@@ -38,7 +38,10 @@ QPixmap pictureImage(const DrawPicture& draw, const QSize& size, const QPalette&
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    draw(painter, QRectF(QPointF(0, 0), QSizeF(size)).adjusted(2, 2, -2, -2), inkOf(palette));
+    // Drawn larger and reduced, so that pens and arrow heads suit the small size.
+    constexpr double kReduction = 2.2;
+    painter.scale(1 / kReduction, 1 / kReduction);
+    draw(painter, QRectF(QPointF(0, 0), QSizeF(size) * kReduction), inkOf(palette));
     return image;
 }
 

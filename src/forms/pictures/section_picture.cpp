@@ -1,0 +1,141 @@
+#include "pictures/section_picture.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+
+namespace borvik {
+
+namespace {
+
+/// Maps millimetres of a section, y upwards from its underside and x from the middle of its web, to the picture.
+struct Frame {
+    QPointF foot;
+    double scale;
+    [[nodiscard]] QPointF at(double x, double y) const { return {foot.x() + x * scale, foot.y() - y * scale}; }
+    [[nodiscard]] QRectF plate(double left, double bottom, double width, double height) const {
+        return {at(left, bottom + height), QSizeF(width * scale, height * scale)};
+    }
+};
+
+QString dimensionText(const char* symbol, double value, const char* mask) {
+    return QString::fromUtf8(symbol) + QString::fromStdString(formatNumber(value, mask)) + QStringLiteral(" mm");
+}
+
+/// A rolled section is one piece with its roots; a welded one three plates.
+void drawSection(QPainter& painter, const Frame& frame, const SectionRecord& s, const Ink& ink) {
+    const double h = s.h, b1 = s.b1, b2 = s.b2, tw = s.tw, tf1 = s.tf1, tf2 = s.tf2;
+    painter.setPen(penOf(ink.line, 1.2));
+    painter.setBrush(ink.steel);
+    painter.drawRect(frame.plate(-tw / 2, tf2, tw, h - tf1 - tf2));
+    painter.drawRect(frame.plate(-b2 / 2, 0, b2, tf2));
+    painter.drawRect(frame.plate(-b1 / 2, h - tf1, b1, tf1));
+    const double leg = s.R * frame.scale;
+    const bool welded = s.Fab == "W";
+    painter.setBrush(welded ? ink.weld : ink.steel);
+    painter.setPen(penOf(welded ? ink.weld : ink.steel));
+    for (const double side : {-1.0, 1.0}) {
+        drawFillet(painter, frame.at(side * tw / 2, h - tf1), side * leg, leg);
+        drawFillet(painter, frame.at(side * tw / 2, tf2), side * leg, -leg);
+    }
+}
+
+/// Two plates: at the tips of the top flange from its mid-plane down, or under it, flush with its tips.
+void drawPlates(QPainter& painter, const Frame& frame, const SectionRecord& s, const Ink& ink) {
+    if (!s.Reinforced) return;
+    const bool under = s.ReinfText == "PL2";
+    const double t = s.ReinfT, d = s.ReinfD, half = s.b1 / 2;
+    const double top = under ? s.h - s.tf1 : s.h - s.tf1 / 2;
+    painter.setPen(penOf(ink.line, 1.2));
+    painter.setBrush(ink.other);
+    for (const double side : {-1.0, 1.0}) {
+        const double inner = side * (under ? half - t : half), outer = side * (under ? half : half + t);
+        painter.drawRect(frame.plate(std::min(inner, outer), top - d, t, d));
+    }
+}
+
+void drawLoadPoint(QPainter& painter, const Frame& frame, const SectionRecord& s, int level, const Ink& ink) {
+    const double line = painter.fontMetrics().lineSpacing();
+    const double heights[] = {double(s.h), double(s.h), s.EzEl + s.Zs, double(s.tf2)};
+    QPointF tip = frame.at(0, heights[std::clamp(level, 1, 4) - 1]);
+    if (level == 1) {  // the load stands on a rail
+        const QRectF rail(tip.x() - 0.5 * line, tip.y() - line, line, line);
+        painter.setPen(penOf(ink.line));
+        painter.setBrush(ink.other);
+        painter.drawRect(rail);
+        tip.ry() -= line;
+    }
+    if (level == 4) tip.rx() -= std::min(s.b1, s.b2) * 0.35 * frame.scale;
+    painter.setPen(penOf(ink.load, 2));
+    drawArrow(painter, tip - QPointF(0, 2.2 * line), tip);
+}
+
+}  // namespace
+
+DrawPicture sectionPicture(const SectionRecord& section, const Project& project) {
+    return [&section, &project](QPainter& painter, const QRectF& area, const Ink& ink) {
+        const double h = section.h, widest = std::max(double(section.b1), double(section.b2));
+        if (h <= 0 || widest <= 0) return;
+        const double line = painter.fontMetrics().lineSpacing();
+        const QRectF room = area.adjusted(9 * line, 5 * line, -9 * line, -2 * line);
+        const double scale = std::min(room.width() / (widest + 2 * section.ReinfT), room.height() / h);
+        const Frame frame{{room.center().x(), room.center().y() + h * scale / 2}, scale};
+        drawSection(painter, frame, section, ink);
+        drawPlates(painter, frame, section, ink);
+        drawLoadPoint(painter, frame, section, project.LoadLevel, ink);
+
+        painter.setPen(penOf(ink.dimension));
+        const double right = widest / 2 * scale + section.ReinfT * scale + 1.2 * line;
+        const QPointF top = frame.at(0, h), foot = frame.at(0, 0);
+        drawDimension(painter, top + QPointF(right, 0), foot + QPointF(right, 0), dimensionText("H = ", h, "0"));
+        const double half1 = section.b1 / 2 * scale;
+        const double above = top.y() - (project.LoadLevel <= 2 ? 3.6 : 1.0) * line;
+        drawDimension(painter, {top.x() - half1, above}, {top.x() + half1, above},
+                      dimensionText("B = ", section.b1, "0"));
+        const double left = foot.x() - widest / 2 * scale - section.ReinfT * scale - 0.5 * line;
+        const auto note = [&](const QPointF& to, const QString& text) {
+            painter.setPen(penOf(ink.faint));
+            painter.drawLine(QPointF(left, to.y()), to);
+            painter.setPen(penOf(ink.dimension));
+            drawTextAt(painter, {left, to.y()}, text, Qt::AlignRight | Qt::AlignVCenter);
+        };
+        note(frame.at(-section.b1 / 2, h - section.tf1 / 2), dimensionText("tf = ", section.tf1, "0.0"));
+        note(frame.at(-section.tw / 2, h / 2), dimensionText("tw = ", section.tw, "0.0"));
+        if (section.Id != "Iu") return;
+        note(frame.at(-section.b2 / 2, section.tf2 / 2), dimensionText("tf2 = ", section.tf2, "0.0"));
+        const double half2 = section.b2 / 2 * scale, below = foot.y() + 1.4 * line;
+        drawDimension(painter, {foot.x() - half2, below}, {foot.x() + half2, below},
+                      dimensionText("b2 = ", section.b2, "0"));
+    };
+}
+
+DrawPicture reinforcementPicture(const SectionRecord& section) {
+    return [&section](QPainter& painter, const QRectF& area, const Ink& ink) {
+        const double h = section.h, b = section.b1, t = section.ReinfT, d = section.ReinfD;
+        if (h <= 0 || b <= 0) return;
+        const double line = painter.fontMetrics().lineSpacing();
+        const QRectF room = area.adjusted(2 * line, 3 * line, -8 * line, -2 * line);
+        const double scale = std::min(room.width() / (b + 2 * t), room.height() / (0.75 * h));
+        // the bottom of the section lies outside: only its upper part matters here
+        const Frame frame{{room.center().x(), room.top() + h * scale}, scale};
+        painter.save();
+        painter.setClipRect(area.adjusted(0, 0, 0, -line));
+        drawSection(painter, frame, section, ink);
+        drawPlates(painter, frame, section, ink);
+        painter.restore();
+        if (!section.Reinforced) return;
+        const bool under = section.ReinfText == "PL2";
+        const double outer = (b / 2 + (under ? 0 : t)) * scale, top = under ? h - section.tf1 : h - section.tf1 / 2;
+        painter.setPen(penOf(ink.dimension));
+        const double x = frame.foot.x() + outer + line;
+        drawDimension(painter, {x, frame.at(0, top).y()}, {x, frame.at(0, top - d).y()},
+                      dimensionText("hr = ", d, "0"));
+        const QPointF at = frame.at(b / 2 - (under ? t : 0), top - d);
+        drawArrow(painter, at + QPointF(-1.5 * line, line), at + QPointF(0, line));
+        drawArrow(painter, at + QPointF(t * scale + 1.5 * line, line), at + QPointF(t * scale, line));
+        drawTextAt(painter, at + QPointF(t * scale + 1.7 * line, line), dimensionText("tr = ", t, "0.0"),
+                   Qt::AlignLeft | Qt::AlignVCenter);
+    };
+}
+
+}  // namespace borvik

@@ -1,0 +1,315 @@
+#include "forms/profile_dialog.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "forms/dialogs.h"
+#include "forms/section_rows.h"
+#include "pictures/section_picture.h"
+#include "section/section.h"
+
+namespace borvik {
+
+namespace {
+
+bool isWelded(const SectionRecord& section) {
+    return section.Id == "Is" || section.Id == "Iu";
+}
+
+/// The first section of a family in the project's list; otherwise one to begin with.
+SectionRecord firstOf(const Project& project, const char* family, const SectionRecord& blank) {
+    for (const SectionRecord& section : project.SectionList)
+        if (section.Id == family) return section;
+    SectionRecord section = blank;
+    section.Id = family;
+    section.Fab = "W";
+    section.h = 700;
+    section.b1 = section.b2 = 300;
+    section.tw = 15;
+    section.tf1 = section.tf2 = 25;
+    section.Reinforced = section.InUse = false;
+    section.ReinfText.clear();
+    section.ReinfSuffix.clear();
+    return section;
+}
+
+}  // namespace
+
+ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
+    : InputDialog("frmProfile", tr("Profile"), session, messages, std::move(changed), parent, "Input string mismatch"),
+      current_(session.context.CurrentSection),
+      keptIs_(firstOf(session.project, "Is", session.context.BlankSection)),
+      keptIu_(firstOf(session.project, "Iu", session.context.BlankSection)) {
+    auto* left = new QVBoxLayout;
+    left->addWidget(tabs());
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(makeButton("addtoDBIu", tr("Add to Database"), tr("Add the section shown to the project's list"),
+                                  [this] { addToList(); }));
+    buttons->addWidget(makeButton("cmdReinfEu", tr("Reinforcement"), tr("Plates at the tips of the top flange"),
+                                  [this] { openReinforcement(); }));
+    left->addLayout(buttons);
+    left->addWidget(sectionList().box);
+    left->addStretch();
+
+    picture_ = new Picture(sectionPicture(current_, project_), 48, 18);
+    picture_->setToolTip(tr("The section to scale, with the point of load application"));
+    auto* middle = new QVBoxLayout;
+    middle->addWidget(picture_, 1);
+    middle->addWidget(loadLevel().box);
+    middle->addWidget(endPost().box);
+
+    results_ = makePropertyList("lstResult");
+    results_->setToolTip(tr("Properties and capacities of the section shown; partial factor γM0 included"));
+    results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 52);
+    results_->setMinimumHeight(results_->fontMetrics().lineSpacing() * 27);
+
+    auto* content = new QGridLayout;
+    content->addLayout(left, 0, 0);
+    content->addLayout(middle, 0, 1);
+    content->addWidget(results_, 0, 2);
+    content->setColumnStretch(1, 1);
+    content->addWidget(makeButton("Command1", tr("Close"), tr("Close the form"), [this] { accept(); }), 1, 2,
+                       Qt::AlignRight);
+    setContent(content);
+    binder_.accepted = [this] {
+        UpdateResult();
+        inputChanged();
+    };
+    writeList(0);
+    if (project_.SectionList.has(0)) chooseEntry(0);
+}
+
+void ProfileDialog::WriteProfInput() {
+    binder_.show();
+    // An "Is" section of the list is shown beside the "Iu" fields; its bottom flange follows the top flange.
+    for (const char* name : {"iustb2", "iusttf2"})
+        findChild<NumberBox*>(QString::fromUtf8(name))->setEnabled(current_.Id != "Is");
+}
+
+void ProfileDialog::UpdateResult() {
+    SectionRecord section = current_;
+    try {
+        UpdateSection(session_.tables, project_, session_.context, section);
+        current_ = section;
+        WriteSectionResult();
+    } catch (const RuntimeFault& fault) {
+        fillPropertyList(results_, {{"No section of these dimensions:", "", ""}, {fault.what(), "", ""}});
+    }
+    picture_->update();
+}
+
+void ProfileDialog::WriteSectionResult() {
+    fillPropertyList(results_, SectionRows(current_, project_));
+}
+
+QWidget* ProfileDialog::tabs() {
+    SSTab1_ = new QTabWidget;
+    SSTab1_->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1_->addTab(tableTab(), tr("Table section"));
+    const QString h = tr("Height of the whole section"), tw = tr("Thickness of the web");
+    SSTab1_->addTab(
+        weldedTab({dimension("isth", current_.h, "##0", 50, "H >= 50", h),
+                   dimension("isttw", current_.tw, "#.0", 0.1, "tw >= 0.1", tw),
+                   dimension("istb1", current_.b1, "##0", 5, "b >= 5", tr("Width of both flanges")),
+                   dimension("isttf1", current_.tf1, "#.0", 0.1, "tf1 >= 0.1", tr("Thickness of both flanges"))}),
+        tr("Welded Is"));
+    SSTab1_->addTab(
+        weldedTab({dimension("iusth", current_.h, "##0", 50, "h >= 50", h),
+                   dimension("iusttw", current_.tw, "#.0", 0.1, "tw >= 0.1", tw),
+                   dimension("iustb1", current_.b1, "##0", 5, "b >= 5", tr("Width of the top flange")),
+                   dimension("iusttf1", current_.tf1, "#.0", 0.1, "tf1 >= 0.1", tr("Thickness of the top flange")),
+                   dimension("iustb2", current_.b2, "##0", 5, "b2 >= 5", tr("Width of the bottom flange")),
+                   dimension("iusttf2", current_.tf2, "#.0", 0.1, "tf2 >= 0.1", tr("Thickness of the bottom flange"))}),
+        tr("Welded Iu"));
+    connect(SSTab1_, &QTabWidget::currentChanged, this, &ProfileDialog::showTab);
+    return SSTab1_;
+}
+
+QWidget* ProfileDialog::tableTab() {
+    cboEuprofile_ =
+        makeList("cboEuprofile", tr("Rolled section of the section table"), [this](int row) { chooseTableRow(row); });
+    for (const SectionRecord& section : session_.tables.SectionTable)
+        cboEuprofile_->addItem(QString::fromStdString(section.TableName));
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    addRow(grid, tr("Section"), cboEuprofile_);
+    grid->setRowStretch(1, 1);
+    return page;
+}
+
+QWidget* ProfileDialog::weldedTab(const std::vector<NumberRow>& rows) {
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    const QString labels[] = {tr("h ="), tr("tw ="), tr("b1 ="), tr("tf1 ="), tr("b2 ="), tr("tf2 =")};
+    for (std::size_t i = 0; i < rows.size(); ++i) addRow(grid, labels[i], binder_.add(rows[i]), tr("mm"));
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setColumnStretch(2, 1);
+    return page;
+}
+
+NumberRow ProfileDialog::dimension(const char* name, Single& field, const char* mask, double lowest,
+                                   const char* message, const QString& meaning) {
+    return {.name = name,
+            .field = field,
+            .mask = mask,
+            .range = fixed(atLeast(lowest)),
+            .message = message,
+            .meaning = meaning};
+}
+
+Group ProfileDialog::sectionList() {
+    const Group group = makeGroup("frDatabase", tr("Sections of the project"));
+    lstDatabase_ = new QListWidget;
+    lstDatabase_->setObjectName(QStringLiteral("lstDatabase"));
+    lstDatabase_->setToolTip(tr("Sections that can be given to spans; choose one to see it"));
+    lstDatabase_->setMinimumHeight(lstDatabase_->fontMetrics().lineSpacing() * 8);
+    connect(lstDatabase_, &QListWidget::itemClicked, this, [this] { chooseEntry(lstDatabase_->currentRow()); });
+    connect(lstDatabase_, &QListWidget::currentRowChanged, this, [this](int row) { chooseEntry(row); });
+    group.grid->addWidget(lstDatabase_, 0, 0, 4, 1);
+    group.grid->addWidget(makeButton("Cmd_pilupp", tr(" Move Profile Up "), tr("One place up"), [this] { move(-1); }),
+                          0, 1);
+    group.grid->addWidget(
+        makeButton("Cmd_pilner", tr(" Move Profile Down "), tr("One place down"), [this] { move(1); }), 1, 1);
+    group.grid->addWidget(makeButton("cmdX", tr(" Remove Profile "), tr("Take the section out of the list"),
+                                     [this] { removeFromList(); }),
+                          2, 1);
+    group.grid->setRowStretch(3, 1);
+    return group;
+}
+
+Group ProfileDialog::endPost() {
+    const Group group = makeGroup("frEndPost", tr("End post"));
+    const struct {
+        const char* name;
+        std::int16_t mode;
+        QString text, tip;
+    } options[] = {{"optStyv", 2, tr("Rigid"), tr("Rigid end post, EN 1993-1-5, 9.3.1")},
+                   {"optVek", 1, tr("Non-rigid"), tr("Non-rigid end post, EN 1993-1-5, 9.3.2")}};
+    for (const auto& each : options) {
+        auto* option = makeChoice<QRadioButton>(each.name, each.text, each.tip, [this, mode = each.mode] {
+            project_.StiffenerMode = mode;
+            UpdateResult();
+            inputChanged();
+        });
+        option->setChecked(project_.StiffenerMode == each.mode);
+        group.grid->addWidget(option, 0, group.grid->count());
+    }
+    return group;
+}
+
+Group ProfileDialog::loadLevel() {
+    const Group group = makeGroup("frLoadLevel", tr("Point of load application"));
+    const QString texts[] = {tr("Top of rail"), tr("Top flange"), tr("Shear centre"), tr("Bottom flange")};
+    for (std::int16_t level = 1; level <= 4; ++level) {
+        auto* option = makeChoice<QRadioButton>(
+            "OptLoadL" + std::to_string(level), texts[level - 1],
+            tr("Height zg of the load above the shear centre in lateral torsional buckling"), [this, level] {
+                project_.LoadLevel = level;
+                UpdateResult();
+                inputChanged();
+            });
+        option->setChecked(project_.LoadLevel == level);
+        group.grid->addWidget(option, (level - 1) / 2, (level - 1) % 2);
+    }
+    return group;
+}
+
+void ProfileDialog::chooseTableRow(int row) {
+    const SectionRecord& chosen = session_.tables.SectionTable(row);
+    current_.Id = chosen.Id;
+    current_.TableName = chosen.TableName;
+    UpdateResult();
+    WriteProfInput();
+    inputChanged();
+}
+
+void ProfileDialog::chooseEntry(int row) {
+    if (!project_.SectionList.has(row)) return;
+    keepWelded();
+    current_ = project_.SectionList(row);
+    {
+        const QSignalBlocker quiet(SSTab1_);
+        SSTab1_->setCurrentIndex(isWelded(current_) ? IuTab : TableTab);
+    }
+    cboEuprofile_->setCurrentIndex(FindSection(session_.tables, current_.TableName));
+    UpdateResult();
+    WriteProfInput();
+    inputChanged();
+}
+
+void ProfileDialog::showTab(int tab) {
+    keepWelded();
+    if (tab == TableTab) {
+        chooseTableRow(std::max(cboEuprofile_->currentIndex(), 0));
+        return;
+    }
+    current_ = tab == IsTab ? keptIs_ : keptIu_;
+    UpdateResult();
+    WriteProfInput();
+    inputChanged();
+}
+
+void ProfileDialog::keepWelded() {
+    if (current_.Id == "Is") keptIs_ = current_;
+    if (current_.Id == "Iu") keptIu_ = current_;
+}
+
+void ProfileDialog::writeList(int current) {
+    const QSignalBlocker quiet(lstDatabase_);
+    lstDatabase_->clear();
+    for (const SectionRecord& section : project_.SectionList)
+        lstDatabase_->addItem(QString::fromStdString(section.DisplayName));
+    lstDatabase_->setCurrentRow(current);
+}
+
+void ProfileDialog::addToList() {
+    for (const SectionRecord& section : project_.SectionList) {
+        if (section.DisplayName != current_.DisplayName) continue;
+        messages_.show("The Section exists already");
+        return;
+    }
+    SectionRecord added = current_;
+    added.InUse = false;
+    project_.SectionList.append(added);
+    writeList(project_.SectionList.last());
+    inputChanged();
+}
+
+void ProfileDialog::removeFromList() {
+    const int row = lstDatabase_->currentRow();
+    if (!project_.SectionList.has(row)) return;
+    MarkSectionsInUse(project_);
+    if (project_.SectionList(row).InUse) {
+        messages_.show("Profile used in the Project, not able to remove");
+        return;
+    }
+    project_.SectionList.erase(row);
+    writeList(std::min(row, project_.SectionList.last()));
+    inputChanged();
+}
+
+void ProfileDialog::move(int by) {
+    const int row = lstDatabase_->currentRow();
+    if (!project_.SectionList.has(row) || !project_.SectionList.has(row + by)) return;
+    std::swap(project_.SectionList(row), project_.SectionList(row + by));
+    writeList(row + by);
+    inputChanged();
+}
+
+void ProfileDialog::openReinforcement() {
+    const auto refresh = [this] {
+        UpdateResult();
+        WriteProfInput();
+        inputChanged();
+    };
+    reinforcement_ = makeDialog(DialogKind::ProfReinf, session_, messages_, refresh, this);
+    reinforcement_->open();
+}
+
+}  // namespace borvik
