@@ -172,8 +172,14 @@ Group FatigueDialog::support() {
                                 .message = " 2 <= t <= 100 ",
                                 .meaning = tr("Thickness of the stiffener at the support"),
                                 .maskWhenFilled = "0"});
-    addRow(group.grid, tr("e (mm) ="), e);
-    addRow(group.grid, tr("t (mm) ="), t);
+    auto* length = new QLabel(tr("e (mm) ="));
+    length->setBuddy(e);
+    auto* thickness = new QLabel(tr("t (mm) ="));
+    thickness->setBuddy(t);
+    int column = 0;
+    for (QWidget* each : {static_cast<QWidget*>(length), static_cast<QWidget*>(e), static_cast<QWidget*>(thickness),
+                          static_cast<QWidget*>(t)})
+        group.grid->addWidget(each, 0, column++);
     return group;
 }
 

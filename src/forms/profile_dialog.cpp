@@ -57,7 +57,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
     left->addWidget(sectionList().box);
     left->addStretch();
 
-    picture_ = new Picture(sectionPicture(current_, project_), 48, 18);
+    picture_ = new Picture(sectionPicture(current_, project_), 56, 20);
     picture_->setToolTip(tr("The section to scale, with the point of load application"));
     auto* middle = new QVBoxLayout;
     middle->addWidget(picture_, 1);
@@ -66,7 +66,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
 
     results_ = makePropertyList("lstResult");
     results_->setToolTip(tr("Properties and capacities of the section shown; partial factor γM0 included"));
-    results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 52);
+    results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 50);
     results_->setMinimumHeight(results_->fontMetrics().lineSpacing() * 27);
 
     auto* content = new QGridLayout;
@@ -168,6 +168,7 @@ Group ProfileDialog::sectionList() {
     lstDatabase_ = new QListWidget;
     lstDatabase_->setObjectName(QStringLiteral("lstDatabase"));
     lstDatabase_->setToolTip(tr("Sections that can be given to spans; choose one to see it"));
+    lstDatabase_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     lstDatabase_->setMinimumHeight(lstDatabase_->fontMetrics().lineSpacing() * 8);
     connect(lstDatabase_, &QListWidget::itemClicked, this, [this] { chooseEntry(lstDatabase_->currentRow()); });
     connect(lstDatabase_, &QListWidget::currentRowChanged, this, [this](int row) { chooseEntry(row); });

@@ -77,7 +77,7 @@ DrawPicture sectionPicture(const SectionRecord& section, const Project& project)
         const double h = section.h, widest = std::max(double(section.b1), double(section.b2));
         if (h <= 0 || widest <= 0) return;
         const double line = painter.fontMetrics().lineSpacing();
-        const QRectF room = area.adjusted(9 * line, 5 * line, -9 * line, -2 * line);
+        const QRectF room = area.adjusted(6.6 * line, 5 * line, -6.3 * line, -3 * line);
         const double scale = std::min(room.width() / (widest + 2 * section.ReinfT), room.height() / h);
         const Frame frame{{room.center().x(), room.center().y() + h * scale / 2}, scale};
         drawSection(painter, frame, section, ink);
@@ -103,7 +103,7 @@ DrawPicture sectionPicture(const SectionRecord& section, const Project& project)
         note(frame.at(-section.tw / 2, h / 2), dimensionText("tw = ", section.tw, "0.0"));
         if (section.Id != "Iu") return;
         note(frame.at(-section.b2 / 2, section.tf2 / 2), dimensionText("tf2 = ", section.tf2, "0.0"));
-        const double half2 = section.b2 / 2 * scale, below = foot.y() + 1.4 * line;
+        const double half2 = section.b2 / 2 * scale, below = foot.y() + 2.2 * line;
         drawDimension(painter, {foot.x() - half2, below}, {foot.x() + half2, below},
                       dimensionText("b2 = ", section.b2, "0"));
     };
