@@ -135,25 +135,14 @@ void CraneResponse::respond(int p) {
     }
 }
 
-void CraneResponse::inSpan(int i, int p, int variant, double& Ma, double& Mb, SpanWheels& wheels) const {
-    wheels.count = 0;
-    Ma = largestMoments(i - 1)[p];
-    Mb = largestMoments(i)[p];
-    if (!present()) return;
-    const bool loaded = p >= arrives(i) && p < leaves(i);
-    if (!loaded && variants(p) == 1) return;
-    Wheels placed;
-    positions_->place(p, variant, placed);
+void CraneResponse::at(int p, int variant, int first, int last, CraneAt& at) const {
+    if (present()) positions_->place(p, variant, at.wheels);
     if (variants(p) > 1) {
-        Load load = loadOf(placed);
-        PerSpan X{};
-        plane_.solve(load.b, X);
-        Ma = X[static_cast<std::size_t>(i - 1)];
-        Mb = X[static_cast<std::size_t>(i)];
+        Load load = loadOf(at.wheels);
+        plane_.solve(load.b, at.X);
+        return;
     }
-    for (int w = positions_->firstWheel; w <= positions_->lastWheel; ++w)
-        if (placed[w].span == i && placed[w].*plane_.load != 0)
-            wheels.item[wheels.count++] = {placed[w].a, placed[w].*plane_.load};
+    for (int r = first; r <= last; ++r) at.X[static_cast<std::size_t>(r)] = double{largestMoments(r)[p]};
 }
 
 }  // namespace borvik

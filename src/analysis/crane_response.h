@@ -59,6 +59,12 @@ public:
     int firstWheel = 1, lastWheel = 0;  ///< of 1..8; in ascending order, moving to the right with p
 };
 
+/// One variant of one position: support moments, and the wheels (without load where there are none).
+struct CraneAt {
+    PerSpan X{};
+    Wheels wheels{};
+};
+
 /// What wheels that move as one do in one plane, at every one of their positions.
 class CraneResponse {
 public:
@@ -83,8 +89,8 @@ public:
     /// First position at which all loaded wheels have left span i: from it on, the crane loads only what is right of
     /// the span.
     [[nodiscard]] int leaves(int i) const { return leaves_[static_cast<std::size_t>(i)]; }
-    /// What one variant of position p gives span i: end moments, and the wheels in the span.
-    void inSpan(int i, int p, int variant, double& Ma, double& Mb, SpanWheels& wheels) const;
+    /// Moments over the supports first..last, and the wheels, in one variant of position p.
+    void at(int p, int variant, int first, int last, CraneAt& at) const;
     [[nodiscard]] const Magnitudes& magnitudes() const { return magnitudes_; }
 
 private:

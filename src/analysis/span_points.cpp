@@ -46,6 +46,16 @@ void SpanPoints::addForces(const SpanWheel& wheel, PointValues& M, PointValues& 
     }
 }
 
+double SpanPoints::startShear(const SpanWheel& wheel) const {
+    if (wheel.a == L) return 0.0;
+    return wheel.a == 0 ? wheel.load : (L - wheel.a) * wheel.load / L;
+}
+
+double SpanPoints::endShear(const SpanWheel& wheel) const {
+    if (wheel.a == L) return -wheel.load;
+    return wheel.a < L ? -(wheel.load * wheel.a / L) : (L - wheel.a) * wheel.load / L;
+}
+
 void SpanPoints::forces(double Ma, double Mb, const SpanWheels& wheels, PointSteps& M, PointSteps& V) const {
     PointValues wheelM{}, wheelV{};
     for (int w = 0; w < wheels.count; ++w) addForces(wheels.item[w], wheelM, wheelV);

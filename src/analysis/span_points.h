@@ -51,6 +51,9 @@ struct SpanPoints {
 
     /// Adds to `V` and `M` what one wheel gives in the span as a simple beam.
     void addForces(const SpanWheel& wheel, PointValues& M, PointValues& V) const;
+    /// The same shear at the start and at the end of the span alone.
+    [[nodiscard]] double startShear(const SpanWheel& wheel) const;
+    [[nodiscard]] double endShear(const SpanWheel& wheel) const;
     /// Subtracts from `U` what one wheel gives in the span as a simple beam.
     void subtractDeflection(const SpanWheel& wheel, PointValues& U) const;
 };

@@ -1,5 +1,7 @@
 #include "analysis/wheels.h"
 
+#include <algorithm>
+
 namespace borvik {
 
 WheelPlacer::WheelPlacer(const Project& project, const Beam& beam, const RunLoads& loads)
@@ -32,8 +34,8 @@ void WheelPlacer::stand(int w, double x, Wheels& wheels) const {
     wheel = {};
     wheel.x = x;
     if (!(x >= beam_.Cum[0] && x <= beam_.Cum[beam_.n])) return;
-    int s = 1;
-    while (x > beam_.Cum[s]) ++s;
+    const auto* supports = beam_.Cum.data();
+    const auto s = static_cast<int>(std::lower_bound(supports + 1, supports + beam_.n, x) - supports);
     wheel.span = s;
     wheel.a = Single(x - beam_.Cum[s - 1]);
     wheel.b = Single(beam_.Cum[s] - x);
