@@ -56,7 +56,7 @@ void drawAxes(Pencil& pencil, const char* across) {
     pencil.arrow({0.2, 1.3}, {1.5, 1.3});
     pencil.arrow({0.2, 1.3}, {0.2, 0.1});
     pencil.text({1.6, 0.6}, "x");
-    pencil.text({0.45, -0.15}, across);
+    pencil.text({0.45, 0.0}, across);
 }
 
 /// An element of the beam under a positive moment: tension on its lower side.

@@ -87,7 +87,8 @@ void drawResultDiagram(DrawingSurface& surface, Diagram diagram, const DiagramDa
     DiagramCanvas canvas(surface, diagram, data.project, X0, Y0, mode);
     const std::vector<Panel> panels = diagramPanels(diagram, data);
     const auto texts = supportTexts(diagram, data);
-    canvas.drawHead(panels.empty() && texts.empty() ? "" : signRemark(diagram, data), true);
+    const bool hasResults = !panels.empty() || !texts.empty();
+    canvas.drawHead(hasResults ? signRemark(diagram, data) : "", hasResults);
     for (const double base : canvas.layout.bases) canvas.drawBeam(Y0 + base, colours::black);
     addSupportLabels(canvas, texts);
     for (std::size_t i = 0; i < panels.size(); ++i) drawPanel(canvas, panels[i], Y0 + canvas.layout.bases[i]);

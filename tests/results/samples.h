@@ -30,7 +30,8 @@ inline double wave(int k, double amplitude) {
     return amplitude * std::sin(M_PI * (k - 1) / 20.0);
 }
 
-inline StressSet sampleStresses(int spans, double factor) {
+inline StressSet sampleStresses(const Project& project, double factor) {
+    const int spans = project.NofSpans;
     StressSet set(spans);
     for (int span = 1; span <= spans; ++span) {
         for (int k = 1; k <= 21; ++k) {
@@ -44,18 +45,19 @@ inline StressSet sampleStresses(int spans, double factor) {
             set.TauMin(span, k) = -factor * (k - 1);
             set.TauRange(span, k) = factor * 20;
         }
+        const double length = project.Span(span);
         const auto peak = [span](Table<Single>& table, double value, double x) {
             table(span, 1) = value;
             table(span, 2) = x;
         };
-        peak(set.Sig1MaxPeak, 5 * factor, 3000);
-        peak(set.Sig1MinPeak, -30 * factor, 3000);
-        peak(set.Sig1RangePeak, 35 * factor, 3000);
-        peak(set.Sig2MaxPeak, 30 * factor, 3000);
-        peak(set.Sig2MinPeak, -5 * factor, 3000);
-        peak(set.Sig2RangePeak, 35 * factor, 3000);
+        peak(set.Sig1MaxPeak, 5 * factor, 0.5 * length);
+        peak(set.Sig1MinPeak, -30 * factor, 0.5 * length);
+        peak(set.Sig1RangePeak, 35 * factor, 0.5 * length);
+        peak(set.Sig2MaxPeak, 30 * factor, 0.5 * length);
+        peak(set.Sig2MinPeak, -5 * factor, 0.5 * length);
+        peak(set.Sig2RangePeak, 35 * factor, 0.5 * length);
         peak(set.TauMaxPeak, 20 * factor, 0);
-        peak(set.TauMinPeak, -20 * factor, 6000);
+        peak(set.TauMinPeak, -20 * factor, length);
         peak(set.TauRangePeak, 20 * factor, 0);
     }
     for (int support = 1; support <= spans + 1; ++support) {
@@ -117,10 +119,10 @@ inline Results sampleResults(const Project& project) {
         uls.RyMax(support) = 7000;
         uls.RyMin(support) = -600;
     }
-    results.Fatigue.Cr1 = sampleStresses(spans, 1.0);
+    results.Fatigue.Cr1 = sampleStresses(project, 1.0);
     if (project.NofCranes == 2) {
-        results.Fatigue.Cr2 = sampleStresses(spans, 0.5);
-        results.Fatigue.Cr12 = sampleStresses(spans, 1.5);
+        results.Fatigue.Cr2 = sampleStresses(project, 0.5);
+        results.Fatigue.Cr12 = sampleStresses(project, 1.5);
     }
     return results;
 }
