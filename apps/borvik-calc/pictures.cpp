@@ -38,8 +38,11 @@ void needApplication() {
     static char name[] = "borvik-calc";
     static char* argv[] = {name, nullptr};
     // Lives until the process ends: Qt's own statics go first, and an application must not outlive them half destroyed.
-    static auto* const application = new QGuiApplication(argc, argv);
+    const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    static auto* const application =
+        new QGuiApplication(argc, argv);  // would warn about a desktop session that isn't there
     (void)application;
+    qInstallMessageHandler(before);
 }
 
 }  // namespace

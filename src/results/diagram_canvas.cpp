@@ -47,7 +47,7 @@ DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode) {
         case Shape::Deflection:
             return screen ? DiagramLayout{{80.0, 188.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {20.0}};
         case Shape::Stress:
-            return screen ? DiagramLayout{{44.0, 180.0}, {120.0}} : DiagramLayout{{-10.0, 124.0}, {66.0}};
+            return screen ? DiagramLayout{{44.0, 184.0}, {120.0}} : DiagramLayout{{-10.0, 124.0}, {66.0}};
         case Shape::Range:
             return screen ? DiagramLayout{{40.0, 134.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {70.0}};
         case Shape::Reactions:

@@ -8,7 +8,7 @@ namespace borvik {
 namespace {
 
 // In text heights.
-constexpr double kRow = 1.5;  // height of a symbol
+constexpr double kRow = 1.7;  // height of a symbol with its letters
 constexpr double kSymbolWidth = 2.5;
 constexpr double kSymbolAndGap = 3.3;
 constexpr double kAxesWidth = 2.4;

@@ -131,6 +131,7 @@ std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& sur
                 below ? label.anchor.y + kGap * em.y + away : label.anchor.y - kGap * em.y - away - size.height;
             if (top < frame_.top || top + size.height > frame_.bottom) break;
             for (const double shift : kShifts) {
+                if (label.optional && shift != 0.0) break;  // it must be plain what it belongs to
                 const double left = label.anchor.x - 0.5 * size.width + shift * size.width;
                 const Box box = inside({left, top, left + size.width, top + size.height});
                 const double aside = std::abs(0.5 * (box.left + box.right) - label.anchor.x) / em.x;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -193,6 +194,42 @@ TEST_F(CommandLine, severalOutputsComeTogether) {
     EXPECT_THAT(outcome.out, HasSubstr("Largest ratio"));
     EXPECT_TRUE(nlohmann::json::parse(contentOf(folder / "results.json"))["File"].is_null());
     EXPECT_TRUE(fs::exists(folder / "saved.brvk"));
+}
+
+TEST_F(CommandLine, printsATableByName) {
+    const Outcome reactions = run("--default --table reactions");
+    EXPECT_EQ(reactions.exitCode, 0);
+    EXPECT_THAT(reactions.out, StartsWith("Support\tRz - max\tRz - min\tRy - max\tRy - min\n1\t"));
+    EXPECT_EQ(std::count(reactions.out.begin(), reactions.out.end(), '\n'), 5);  // head and four supports
+    EXPECT_EQ(reactions.err, "");
+
+    take("default", "a.brvk");
+    take("default", "b.brvk");
+    EXPECT_THAT(run("a.brvk b.brvk --table Reactions").out, HasSubstr("b.brvk\nSupport\t"));
+
+    const Outcome unknown = run("--default --table Nothing");
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_THAT(unknown.err, HasSubstr("SummaryULS, "));
+}
+
+TEST_F(CommandLine, drawsADiagramWithoutADisplay) {
+    if (run("--help").out.find("--diagram") == std::string::npos) GTEST_SKIP() << "built without diagrams";
+    const Outcome drawn = run("--default --diagram MyVz --png forces.png");
+    EXPECT_EQ(drawn.exitCode, 0);
+    EXPECT_EQ(drawn.out + drawn.err, "");
+    EXPECT_THAT(contentOf(folder / "forces.png"), StartsWith("\x89PNG"));
+
+    EXPECT_EQ(run("--default --diagram cr1sp1 --png stress.svg").exitCode, 0);
+    const std::string svg = contentOf(folder / "stress.svg");
+    EXPECT_THAT(svg, HasSubstr("FLS - Stress in top flange (MPa)"));
+    EXPECT_THAT(svg, HasSubstr("</svg>"));
+
+    EXPECT_EQ(run("--default --diagram Cr2Sp1 --png none.png").exitCode, 5);  // there is one crane
+    EXPECT_FALSE(fs::exists(folder / "none.png"));
+    EXPECT_EQ(run("--default --diagram MyVz").exitCode, 2);
+    EXPECT_EQ(run("--default --png forces.png").exitCode, 2);
+    EXPECT_EQ(run("--default --diagram Nothing --png forces.png").exitCode, 2);
+    EXPECT_EQ(run("--default --diagram MyVz --png missing/forces.png").exitCode, 5);
 }
 
 }  // namespace
