@@ -1,8 +1,11 @@
+#include "analysis/fast_walk.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
 
+#include "analysis/post_process.h"
 #include "analysis/random_beam.h"
 #include "analysis/walk.h"
 
@@ -85,6 +88,58 @@ TEST(FastWalk, hasTheSameBitsAsThePlainWalk) {
         ASSERT_EQ(plainAgainstFast(RunFls, c), 0U);
     }
     RecordProperty("positions", std::to_string(positions));
+}
+
+/// The comparison above would be worth nothing if the fast walk gave way to the plain one.
+TEST(FastWalk, takesMostBeams) {
+    RandomBeams beams(7);
+    int taken = 0;
+    for (int number = 0; number < 200; ++number) {
+        const BeamCase c = beams.next();
+        const LoadedBeam loaded(c.project, c.loads, true);
+        UlsResults results;
+        UlsPostProcess post(loaded, results);
+        Progress progress;
+        taken += walkFast(WalkSteps(c.project, c.loads.NCranes), loaded, Quantity::Forces, post, Walk::Uls, progress);
+    }
+    EXPECT_GE(taken, 150);
+}
+
+/// Keeps the number of positions that the search asks for.
+class CountingPost : public PostProcess {
+public:
+    void record(const SolvedPosition&, SpanMask) override { ++count; }
+    int count = 0;
+};
+
+/// What makes it fast: of all pairs of positions only a few are solved.
+TEST(FastWalk, solvesFewPositions) {
+    BeamCase c;
+    Project& project = c.project;
+    project.NofSpans = 6;
+    project.SpanSection = Array<SectionRecord>(1, 30);
+    for (int i = 1; i <= 6; ++i) {
+        project.Span(i) = 12000;
+        project.SpanSection(i).Iy = 2e9;
+        project.SpanSection(i).Iz = 1e8;
+        c.loads.SpanLoad(i) = 3;
+    }
+    for (int w : {1, 2, 5, 6}) {
+        c.loads.WheelV(w) = 90 + w;
+        c.loads.WheelH(w) = 8;
+    }
+    project.Avst(1) = project.Avst(4) = 3600;
+    project.MinAvst = 500;
+    c.loads.WheelGap = project.Avst;
+    c.loads.NCranes = 2;
+    testing::setLengths(project);
+    const LoadedBeam loaded(project, c.loads, true);
+    CountingPost post;
+    Progress progress;
+    const WalkSteps steps(project, 2);
+    ASSERT_TRUE(walkFast(steps, loaded, Quantity::Forces, post, Walk::Uls, progress));
+    EXPECT_GT(steps.positions(), 50000);
+    EXPECT_LT(post.count, 2000);
 }
 
 }  // namespace
