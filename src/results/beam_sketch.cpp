@@ -11,6 +11,8 @@
 namespace borvik {
 namespace {
 
+constexpr double kWheelRadius = 0.3;  // in text heights
+
 /// Crane by crane what the two sketches differ in.
 struct SketchKind {
     const char* crane1;
@@ -107,37 +109,46 @@ void addWheelDistances(DiagramCanvas& canvas, const CraneGeometry& cranes, doubl
     }
 }
 
-void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
+/// Wheels and the bar between them, with the crane's name.
+void drawCrane(DiagramCanvas& canvas, const std::vector<double>& places, const char* name, double axle, double bridge) {
     DrawingSurface& surface = canvas.surface;
-    const CraneGeometry cranes = craneGeometry(canvas.project);
     const Em em = emOf(surface);
+    canvas.drawLine({places.front() - em.x * 0.5, bridge}, {places.back() + em.x * 0.5, bridge}, colours::blue, 2);
+    Label label{{name}, {0.5 * (places.front() + places.back()), bridge}, bridge > axle};
+    label.colour = colours::blue;
+    canvas.labels.add(std::move(label));
+
+    surface.setColour(colours::black);
+    surface.setPenWidth(canvas.penWidth(1));
+    surface.setFill(colours::white);
+    const double radius = kWheelRadius * em.y;
+    for (const double place : places) {
+        surface.circle({place, axle}, radius);
+        canvas.labels.keepClear(
+            {place - kWheelRadius * em.x, axle - radius, place + kWheelRadius * em.x, axle + radius});
+    }
+    surface.setFill(std::nullopt);
+}
+
+void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
+    const CraneGeometry cranes = craneGeometry(canvas.project);
     const double side = kind.cranesAbove ? -1.0 : 1.0;
-    const double radius = 0.3 * em.y;
+    const double radius = kWheelRadius * emOf(canvas.surface).y;
     const double axle = base + side * (radius + 1.0);
     const double bridge = base + side * (2.4 * radius + 1.0);
-    for (int crane = 1; crane <= 2; ++crane) {
+    for (const int crane : {1, 2}) {
         std::vector<double> places;
         for (const WheelPlace& wheel : cranes.wheels)
             if ((wheel.wheel <= 4 ? 1 : 2) == crane) places.push_back(canvas.X0 + wheel.x);
-        if (places.empty()) continue;
-        canvas.drawLine({places.front() - em.x * 0.5, bridge}, {places.back() + em.x * 0.5, bridge}, colours::blue, 2);
-        canvas.labels.add({{crane == 1 ? kind.crane1 : kind.crane2},
-                           {0.5 * (places.front() + places.back()), bridge},
-                           !kind.cranesAbove,
-                           std::nullopt,
-                           colours::blue});
-        surface.setColour(colours::black);
-        surface.setPenWidth(canvas.penWidth(1));
-        surface.setFill(colours::white);
-        for (const double place : places) {
-            surface.circle({place, axle}, radius);
-            canvas.labels.keepClear({place - 0.3 * em.x, axle - radius, place + 0.3 * em.x, axle + radius});
-        }
-        surface.setFill(std::nullopt);
+        if (!places.empty()) drawCrane(canvas, places, crane == 1 ? kind.crane1 : kind.crane2, axle, bridge);
     }
-    for (const WheelPlace& wheel : cranes.wheels)
-        canvas.labels.add(
-            {loadLines(canvas.project, wheel.wheel, kind), {canvas.X0 + wheel.x, bridge}, !kind.cranesAbove});
+    for (const WheelPlace& wheel : cranes.wheels) {
+        const bool loaded = canvas.project.V(wheel.wheel) != 0.0 || canvas.project.H(wheel.wheel) != 0.0;
+        const bool firstOfItsCrane = wheel.wheel == 1 || wheel.wheel == 5;
+        if (loaded || firstOfItsCrane)
+            canvas.labels.add(
+                {loadLines(canvas.project, wheel.wheel, kind), {canvas.X0 + wheel.x, bridge}, !kind.cranesAbove});
+    }
     addWheelDistances(canvas, cranes, bridge, !kind.cranesAbove);
 }
 

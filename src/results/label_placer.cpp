@@ -9,20 +9,27 @@ namespace {
 
 constexpr double kReadablePoints = 7.0;  // down to here all labels stay level
 constexpr double kSmallestPoints = 6.0;  // and down to here they may stand upright
-constexpr double kGap = 0.2;             // between anchor and label, in text heights
-constexpr double kBeside = 0.35;         // room kept left and right of a label, in text heights
-constexpr double kFarthest = 5.0;        // a label further away than this is better left out
-constexpr double kUprightCost = 3.0;
+
+// Lengths in text heights.
+constexpr double kGap = 0.2;         // between anchor and label
+constexpr double kBeside = 0.35;     // room kept left and right of a label
+constexpr double kFarthest = 5.0;    // a label further away than this is better left out
+constexpr double kLeaderFrom = 1.3;  // a label further away than this gets a line to its anchor
+constexpr double kCircle = 1.4;      // diameter of a circled number
+constexpr double kCircleAndGap = 1.8;
+
+// What is unwelcome about a place, as text heights of distance that it is worth to avoid it.
+constexpr double kAside = 0.4;  // a text height to the side
+constexpr double kOtherSide = 2.5;
+constexpr double kUpright = 3.0;
 constexpr double kLeaderOverOthers = 3.0;
+constexpr double kOverLine = 1.5;
+constexpr int kMostLines = 4;  // more lines under a label make it no worse
+
+// Limits of the sum.
 constexpr double kStandsWell = 4.0;
 constexpr double kAtHand = 1.2;  // an optional label must be so near
 constexpr double kAnyCost = 1000.0;
-constexpr double kOtherSideCost = 2.5;  // costs are in text heights of distance
-constexpr double kLineCost = 1.5;
-constexpr int kMostLines = 4;    // more lines under a label make it no worse
-constexpr double kCircle = 1.4;  // diameter of a circled number
-constexpr double kCircleAndGap = 1.8;
-constexpr double kLeaderFrom = 1.3;  // a label further away than this gets a line to its anchor
 
 /// The line from an anchor to a label that stands away from it; nothing where the label is close.
 struct Leader {
@@ -34,12 +41,6 @@ std::optional<Leader> leaderOf(Place anchor, const Box& box, const Em& em) {
     if (away <= kLeaderFrom) return std::nullopt;
     return Leader{anchor, nearest};
 }
-
-/// A place that a label could take, and what that costs.
-struct Candidate {
-    Box box;
-    double cost;
-};
 
 bool touchesAny(const Box& box, const std::vector<Box>& taken) {
     return std::any_of(taken.begin(), taken.end(), [&box](const Box& other) { return box.overlaps(other); });
@@ -111,49 +112,53 @@ int LabelPlacer::linesUnder(const Box& box) const {
     return crossed;
 }
 
-std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& surface, const Label& label,
-                                                       TextDirection direction, const std::vector<Box>& taken,
-                                                       double highestCost) const {
+std::vector<LabelPlacer::Candidate> LabelPlacer::candidates(const DrawingSurface& surface, const Label& label,
+                                                            TextDirection direction) const {
     static constexpr std::array<double, 15> kShifts{0.0, -0.25, 0.25, -0.5, 0.5, -0.75, 0.75, -1.0,
                                                     1.0, -1.5,  1.5,  -2.0, 2.0, -3.0,  3.0};  // in label widths
     const Extent size = labelExtent(surface, label, direction);
     const Em em = emOf(surface);
-
-    std::vector<Candidate> candidates;
+    std::vector<Candidate> found;
     if (label.firstChoice && direction == TextDirection::Across) {
         const Place corner = *label.firstChoice;
-        candidates.push_back({inside({corner.x, corner.y, corner.x + size.width, corner.y + size.height}), -kLineCost});
+        found.push_back({inside({corner.x, corner.y, corner.x + size.width, corner.y + size.height}), -kOverLine});
     }
     for (const bool below : {label.below, !label.below}) {
         if (label.keepSide && below != label.below) continue;
-        for (double away = 0.0; away < kFarthest * em.y; away += 0.5 * em.y) {
-            const double top =
-                below ? label.anchor.y + kGap * em.y + away : label.anchor.y - kGap * em.y - away - size.height;
+        for (double away = 0.0; away < kFarthest; away += 0.5) {
+            const double gap = (kGap + away) * em.y;
+            const double top = below ? label.anchor.y + gap : label.anchor.y - gap - size.height;
             if (top < frame_.top || top + size.height > frame_.bottom) break;
             for (const double shift : kShifts) {
                 if (label.optional && shift != 0.0) break;  // it must be plain what it belongs to
-                const double left = label.anchor.x - 0.5 * size.width + shift * size.width;
+                const double left = label.anchor.x + (shift - 0.5) * size.width;
                 const Box box = inside({left, top, left + size.width, top + size.height});
                 const double aside = std::abs(0.5 * (box.left + box.right) - label.anchor.x) / em.x;
-                const double distance = away / em.y + 0.4 * aside;
+                const double distance = away + kAside * aside;
                 if (distance > kFarthest) continue;
-                candidates.push_back({box, distance + (below == label.below ? 0.0 : kOtherSideCost)});
+                found.push_back({box, distance + (below == label.below ? 0.0 : kOtherSide)});
             }
         }
     }
-    std::stable_sort(candidates.begin(), candidates.end(),
+    std::stable_sort(found.begin(), found.end(),
                      [](const Candidate& a, const Candidate& b) { return a.cost < b.cost; });
+    return found;
+}
 
+std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& surface, const Label& label,
+                                                       TextDirection direction, const std::vector<Box>& taken,
+                                                       double highestCost) const {
+    const Em em = emOf(surface);
     std::optional<Placed> best;
-    for (const Candidate& candidate : candidates) {
-        if (best && candidate.cost >= best->cost) break;
+    for (const Candidate& candidate : candidates(surface, label, direction)) {
+        if (best && candidate.cost >= best->cost) break;  // they come in rising order
         if (touchesAny(candidate.box, taken)) continue;
         const auto leader = leaderOf(label.anchor, candidate.box, em);
         const bool overOthers = leader && std::any_of(taken.begin(), taken.end(), [&leader](const Box& other) {
                                     return other.crossedBy(leader->from, leader->to);
                                 });
         const int crossed = linesUnder(candidate.box);
-        const double cost = candidate.cost + kLineCost * crossed + (overOthers ? kLeaderOverOthers : 0.0);
+        const double cost = candidate.cost + kOverLine * crossed + (overOthers ? kLeaderOverOthers : 0.0);
         if (cost > highestCost || (best && cost >= best->cost)) continue;
         best = Placed{candidate.box, direction, crossed > 0, cost};
     }
@@ -164,9 +169,9 @@ std::optional<LabelPlacer::Placed> LabelPlacer::place(const DrawingSurface& surf
                                                       const std::vector<Box>& taken, const Effort& effort) const {
     const double highestCost = label.optional ? kAtHand : effort.highestCost;
     const auto across = search(surface, label, TextDirection::Across, taken, highestCost);
-    if (!effort.upright || label.optional || (across && across->cost <= kUprightCost)) return across;
+    if (!effort.upright || label.optional || (across && across->cost <= kUpright)) return across;
     const auto up = search(surface, label, TextDirection::Up, taken, highestCost);
-    if (across && up) return across->cost <= up->cost + kUprightCost ? across : up;
+    if (across && up) return across->cost <= up->cost + kUpright ? across : up;
     return across ? across : up;
 }
 
@@ -242,21 +247,22 @@ void LabelPlacer::draw(DrawingSurface& surface, Font font) {
         attempt = placeInLargest(surface, font);
     }
     surface.setFont(font);
-    const Em em = emOf(surface);
-    std::vector<Leader> leaders;
-    for (std::size_t i = 0; i < labels_.size(); ++i)
-        if (attempt.places[i])
-            if (const auto leader = leaderOf(labels_[i].anchor, attempt.places[i]->box, em)) leaders.push_back(*leader);
-    surface.setColour(colours::grey);
-    for (const Leader& leader : leaders) surface.line(leader.from, leader.to);
-    for (auto& placed : attempt.places)
-        if (placed)
-            placed->onLines =
-                placed->onLines || std::any_of(leaders.begin(), leaders.end(), [&placed](const Leader& leader) {
-                    return placed->box.crossedBy(leader.from, leader.to);
-                });
+    drawLeaders(surface, attempt);
     for (std::size_t i = 0; i < labels_.size(); ++i)
         if (attempt.places[i]) drawLabel(surface, labels_[i], *attempt.places[i]);
+}
+
+void LabelPlacer::drawLeaders(DrawingSurface& surface, Attempt& attempt) const {
+    const Em em = emOf(surface);
+    surface.setColour(colours::grey);
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        if (!attempt.places[i]) continue;
+        const auto leader = leaderOf(labels_[i].anchor, attempt.places[i]->box, em);
+        if (!leader) continue;
+        surface.line(leader->from, leader->to);
+        for (auto& placed : attempt.places)
+            if (placed && placed->box.crossedBy(leader->from, leader->to)) placed->onLines = true;
+    }
 }
 
 }  // namespace borvik

@@ -59,6 +59,11 @@ private:
         bool onLines = false;  ///< covers a line of the drawing
         double cost = 0.0;     ///< distance and what else is unwelcome, in text heights
     };
+    /// A place that a label could take, and what is unwelcome about it.
+    struct Candidate {
+        Box box;
+        double cost;
+    };
     /// All labels placed in one size. A label without room has no place.
     struct Attempt {
         std::vector<std::optional<Placed>> places;
@@ -73,11 +78,15 @@ private:
     [[nodiscard]] Attempt placeInLargest(DrawingSurface& surface, Font& font) const;
     [[nodiscard]] std::optional<Placed> place(const DrawingSurface& surface, const Label& label,
                                               const std::vector<Box>& taken, const Effort& effort) const;
+    /// In rising order of cost; others' labels and lines not regarded yet.
+    [[nodiscard]] std::vector<Candidate> candidates(const DrawingSurface& surface, const Label& label,
+                                                    TextDirection direction) const;
     [[nodiscard]] std::optional<Placed> search(const DrawingSurface& surface, const Label& label,
                                                TextDirection direction, const std::vector<Box>& taken,
                                                double highestCost) const;
     [[nodiscard]] Box inside(Box box) const;
     [[nodiscard]] int linesUnder(const Box& box) const;
+    void drawLeaders(DrawingSurface& surface, Attempt& attempt) const;
     static void drawLabel(DrawingSurface& surface, const Label& label, const Placed& placed);
 
     Box frame_;
