@@ -154,7 +154,9 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
 
 }  // namespace
 
-void drawBeamSketch(DrawingSurface& surface, const Project& project, double X0, double Y0, DiagramMode mode) {
+void drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0, DiagramMode mode) {
+    Project project = input;
+    project.NofSpans = static_cast<std::int16_t>(enteredSpans(input));
     DiagramCanvas canvas(surface, Diagram::Sketch, project, X0, Y0, mode);
     const SketchKind& kind = kindOf(project);
     const DistinctSections sections(project);

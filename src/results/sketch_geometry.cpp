@@ -21,8 +21,14 @@ int wheelsOf(const Project& project, int firstWheel, int firstGap) {
 
 }  // namespace
 
+int enteredSpans(const Project& project) {
+    int spans = 0;
+    while (spans < kMaxSpans && project.Span(spans + 1) > 0) ++spans;
+    return spans;
+}
+
 DistinctSections::DistinctSections(const Project& project) {
-    for (int span = 1; span <= project.NofSpans; ++span) {
+    for (int span = 1; span <= enteredSpans(project); ++span) {
         const std::string name = project.SpanSection.has(span) ? project.SpanSection(span).DisplayName : "";
         if (name.empty()) {
             numbers_.push_back(0);
@@ -37,7 +43,7 @@ DistinctSections::DistinctSections(const Project& project) {
 CraneGeometry craneGeometry(const Project& project) {
     CraneGeometry cranes;
     double total = 0.0;
-    for (int span = 1; span <= project.NofSpans; ++span) total += project.Span(span);
+    for (int span = 1; span <= enteredSpans(project); ++span) total += project.Span(span);
     if (total <= 0.0) return cranes;
     const double unitsPerMm = kBeamLength / total;
     const bool two = project.NofCranes == 2;
@@ -76,7 +82,7 @@ std::vector<SplicePlace> splicePlaces(const Project& project) {
     if (!(monorail ? project.FatR5 : project.Fat5)) return places;
     for (int splice = 1; splice <= 10; ++splice) {
         const double number = spans(splice);
-        if (!used(splice) || !(number >= 1.0 && number <= project.NofSpans)) continue;
+        if (!used(splice) || !(number >= 1.0 && number <= enteredSpans(project))) continue;
         const int span = roundHalfEven(number);
         if (distances(splice) >= 0.0 && distances(splice) <= project.Span(span))
             places.push_back({span, distances(splice)});

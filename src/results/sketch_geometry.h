@@ -7,6 +7,10 @@
 
 namespace borvik {
 
+/// Spans as they are entered, up to the first that is empty. The sketch goes by them: NofSpans is counted only when a
+/// calculation starts, and the sketch follows the input before that.
+[[nodiscard]] int enteredSpans(const Project& project);
+
 /// The sections of a beam, each once, by name, in the order of first use.
 class DistinctSections {
 public:

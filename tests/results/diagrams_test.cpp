@@ -297,6 +297,18 @@ TEST(Sketch, numbersSectionsAndSaysWhatItShows) {
     EXPECT_LT(top("Hk = 3.0"), top("Vk = 30.0"));
 }
 
+TEST(Sketch, followsTheSpansAsTheyAreEntered) {
+    Project project = sampleProject(2);
+    project.Span(3) = 7000;  // entered since the last calculation, which counted two
+    project.SpanSection(3).DisplayName = "HEB 300";
+    EXPECT_THAT(textsOf(drawn({Diagram::Sketch}, {project, nullptr})), testing::IsSupersetOf({"6000", "7000", "2"}));
+    for (const int counted : {-1, 0, 31}) {  // a damaged file
+        project.NofSpans = static_cast<std::int16_t>(counted);
+        EXPECT_THAT(textsOf(drawn({Diagram::Sketch}, {project, nullptr})), Contains("7000")) << counted;
+    }
+    EXPECT_EQ(drawn({Diagram::Sketch}, {Project{}, nullptr}).texts.front().text, "Beam Data (mm/kN)");
+}
+
 struct ScaleCase {
     std::string name;
     int length, cranes;
