@@ -79,16 +79,29 @@ QSize DiagramView::sizeHint() const {
 }
 
 double DiagramView::textScale() const {
-    return std::clamp(std::min(width() / 1100.0, height() / pictureHeight(diagrams_)), 1.0, 1.35);
+    return std::clamp(std::min(width() / 1100.0, height() / pictureHeight(diagrams_)), 1.0, 1.8);
 }
 
 void DiagramView::draw(DrawingSurface& surface) const {
     DrawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr});
-    if (!outOfDate_) return;
-    surface.setFont({.name = "Arial", .points = 12.0, .bold = true});
+}
+
+/// The words that results are out of date, in a box in the middle of the picture.
+void DiagramView::drawNotice(DrawingSurface& surface) const {
+    const double height = pictureHeight(diagrams_);
+    surface.scale(0.0, 0.0, 1000.0, height);
+    surface.setFont({.name = "Arial", .points = 11.0, .bold = true});
     surface.setColour(colours::red);
-    const double width = surface.textWidth(kOutOfDate);
-    surface.text({500.0 - width / 2.0, surface.textHeight() * 0.1}, kOutOfDate);
+    surface.setFill(colours::white);
+    const double line = surface.textHeight();
+    const double width = surface.textWidth(kOutOfDate) / 2.0 + 12.0;
+    surface.rectangle({500.0 - width, height / 2.0 - line}, {500.0 + width, height / 2.0 + line});
+    surface.text({512.0 - width, height / 2.0 - line / 2.0}, kOutOfDate);
+}
+
+void DiagramView::drawSaved(DrawingSurface& surface) const {
+    draw(surface);
+    if (outOfDate_) drawNotice(surface);
 }
 
 void DiagramView::paintEvent(QPaintEvent*) {
@@ -118,6 +131,11 @@ void DiagramView::paintEvent(QPaintEvent*) {
     }
     painter.drawPixmap(0, 0, drawn_);
     painter.setOpacity(1.0);
+    if (outOfDate_) {
+        QtSurface surface(painter, QRectF(rect()), textScale());
+        drawNotice(surface);
+        painter.resetTransform();
+    }
     if (!reading_.isEmpty()) drawReading(painter);
 }
 
@@ -140,8 +158,7 @@ Place DiagramView::toLogical(QPointF place) const {
 
 void DiagramView::mouseMoveEvent(QMouseEvent* event) {
     if (!calculation_) return;
-    const auto found =
-        ReadPicture(diagrams_, {*project_, &calculation_->results}, toLogical(event->position()));
+    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, toLogical(event->position()));
     mouse_ = event->position();
     reading_ = found ? QString::fromStdString(found->text()) : QString();
     Q_EMIT readingChanged(reading_);
@@ -164,14 +181,15 @@ void DiagramView::mousePressEvent(QMouseEvent* event) {
 void DiagramView::contextMenuEvent(QContextMenuEvent* event) {
     if (diagrams_.empty()) return;
     QMenu menu;
-    const QAction* save = menu.addAction(themeIcon("document-save-as", QStyle::SP_DialogSaveButton), tr("Save picture..."));
+    const QAction* save =
+        menu.addAction(themeIcon("document-save-as", QStyle::SP_DialogSaveButton), tr("Save picture..."));
     const QAction* copy = menu.addAction(themeIcon("edit-copy", QStyle::SP_FileIcon), tr("Copy picture"));
     const QAction* chosen = menu.exec(event->globalPos());
     if (chosen == save) savePictureAs();
     if (chosen == copy)
-        QApplication::clipboard()->setImage(renderPicture([this](DrawingSurface& surface) { draw(surface); },
-                                                          {kSavedSize.width(), kSavedSize.height() *
-                                                                                   static_cast<int>(diagrams_.size())}));
+        QApplication::clipboard()->setImage(
+            renderPicture([this](DrawingSurface& surface) { drawSaved(surface); },
+                          {kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size())}));
 }
 
 void DiagramView::savePictureAs() {
@@ -180,7 +198,7 @@ void DiagramView::savePictureAs() {
     if (!path) return;
     const QSize size(kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size()));
     const QString trouble = savePicture(
-        QString::fromStdString(*path), [this](DrawingSurface& surface) { draw(surface); }, size, title());
+        QString::fromStdString(*path), [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
     if (!trouble.isEmpty()) services_.messages.show(trouble.toStdString());
 }
 

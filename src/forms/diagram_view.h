@@ -53,6 +53,8 @@ protected:
 private:
     void contentChanged();
     void draw(DrawingSurface& surface) const;
+    void drawNotice(DrawingSurface& surface) const;
+    void drawSaved(DrawingSurface& surface) const;
     void drawReading(QPainter& painter) const;
     [[nodiscard]] QString title() const;
     [[nodiscard]] double textScale() const;

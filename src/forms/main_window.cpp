@@ -151,8 +151,10 @@ void MainWindow::buildStatusBar() {
     stateTime_->setObjectName("stateTime");
     stateUnsaved_ = new QLabel;
     stateUnsaved_->setObjectName("stateUnsaved");
-    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_})
+    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_}) {
+        label->setMargin(4);
         statusBar()->addPermanentWidget(label);
+    }
 }
 
 void MainWindow::WritefrmInput() {
@@ -179,7 +181,6 @@ bool MainWindow::hasUnsavedChanges() const {
 void MainWindow::showState() {
     const bool current = session_.Calculated;
     cmdCalc_->setEnabled(!current);
-    mnuCalc_->setEnabled(!current);
     tree_->setResultsReachable(current);
     picRes_->setOutOfDate(!current);
     results_->setOutOfDate(!current);

@@ -111,7 +111,6 @@ private:
     DiagramView* picRes_ = nullptr;
     ResultTablePane* results_ = nullptr;
     QPushButton* cmdCalc_ = nullptr;
-    QAction* mnuCalc_ = nullptr;
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
     QLabel* stateCalculated_ = nullptr;

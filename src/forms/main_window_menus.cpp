@@ -100,9 +100,9 @@ void MainWindow::buildMenus() {
           {"mnuFatigue", "Fatigue", QKeySequence(Qt::CTRL | Qt::Key_6), form, [this] { openForm("Fatigue"); }},
           {"mnuIndataDivider1"}});
 
-    mnuCalc_ = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
-    mnuCalc_->setObjectName("mnuCalc");
-    mnuCalc_->setShortcut(Qt::Key_F5);
+    QAction* calc = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
+    calc->setObjectName("mnuCalc");
+    calc->setShortcut(Qt::Key_F5);
 
     QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
     buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},

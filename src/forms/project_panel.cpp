@@ -12,6 +12,14 @@ namespace borvik {
 
 namespace {
 
+/// A text that is there already is left alone, with the cursor in it; a new one is shown from its beginning.
+void showName(QLineEdit* box, const std::string& name) {
+    const QString text = QString::fromStdString(name);
+    if (box->text() == text) return;
+    box->setText(text);
+    box->setCursorPosition(0);
+}
+
 bool isGeneral(const Project& project) {
     return project.SteelGrade == kGeneralSteel;
 }
@@ -106,8 +114,8 @@ QWidget* ProjectPanel::craneTypeBox() {
 
 void ProjectPanel::showProject() {
     Project& project = session_.project;
-    iproj_->setText(QString::fromStdString(project.Proj));
-    iident_->setText(QString::fromStdString(project.Ident));
+    showName(iproj_, project.Proj);
+    showName(iident_, project.Ident);
     if (!(ifyk_->hasFocus() && ifyk_->edited()) && !binder_.refusalPending()) binder_.show(ifyk_);
     ifyk_->setEnabled(isGeneral(project));
 
@@ -159,7 +167,7 @@ bool ProjectPanel::eventFilter(QObject* watched, QEvent* event) {
 /// Enter in the identification names the project too: the text goes to Proj at once, and to Ident on leaving the box.
 void ProjectPanel::enterInIdent() {
     storeName(iident_, session_.project.Proj);
-    iproj_->setText(QString::fromStdString(session_.project.Proj));
+    showName(iproj_, session_.project.Proj);
     if (ifyk_->isEnabled()) {
         ifyk_->setFocus(Qt::TabFocusReason);
     } else {

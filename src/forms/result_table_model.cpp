@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
+#include <algorithm>
 
 #include "forms/icons.h"
 
@@ -45,8 +46,10 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
     if (shown == nullptr) return {};
     const bool over = shown->emphasis == Emphasis::OverLimit;
     switch (role) {
-        case Qt::DisplayRole: return QString::fromStdString(shown->text);
-        case Qt::EditRole: return shown->number ? QVariant(*shown->number) : QString::fromStdString(shown->text);
+        case Qt::DisplayRole:
+            return QString::fromStdString(shown->text);
+        case Qt::EditRole:
+            return shown->number ? QVariant(*shown->number) : QString::fromStdString(shown->text);
         case Qt::ToolTipRole: {
             const QString text = QString::fromStdString(shown->text);
             if (over) return tr("%1: the ratio is greater than 1").arg(text);
@@ -73,9 +76,17 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
         case Qt::BackgroundRole:
             if (shown->emphasis == Emphasis::Heading) return QApplication::palette().color(QPalette::Button);
             return {};
-        case Qt::DecorationRole: return over ? QVariant(pictureIcon(Picture::OverLimit)) : QVariant();
-        default: return {};
+        case Qt::DecorationRole:
+            return over ? QVariant(pictureIcon(Picture::OverLimit)) : QVariant();
+        default:
+            return {};
     }
+}
+
+bool ResultTableModel::holdsNumbers(int column) const {
+    return std::any_of(table_.rows.begin(), table_.rows.end(), [column](const auto& row) {
+        return static_cast<std::size_t>(column) < row.size() && row[static_cast<std::size_t>(column)].number;
+    });
 }
 
 QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -88,8 +99,12 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
             if (!column.unit.empty()) head += QLatin1Char('\n') + QString::fromStdString(column.unit);
             return head;
         }
-        case Qt::ToolTipRole: return QString::fromStdString(column.help);
-        default: return {};
+        case Qt::ToolTipRole:
+            return QString::fromStdString(column.help);
+        case Qt::TextAlignmentRole:
+            return int(Qt::AlignVCenter) | int(holdsNumbers(section) ? Qt::AlignRight : Qt::AlignLeft);
+        default:
+            return {};
     }
 }
 

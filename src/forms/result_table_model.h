@@ -26,6 +26,8 @@ public:
 
     /// True for a line that belongs to no column: a heading or a note.
     [[nodiscard]] bool isLine(int row) const;
+    /// True for a column in which at least one number stands.
+    [[nodiscard]] bool holdsNumbers(int column) const;
 
 private:
     [[nodiscard]] const TableCell* cell(int row, int column) const;

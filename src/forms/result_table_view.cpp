@@ -10,6 +10,8 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 #include "forms/calculation_record.h"
 #include "forms/icons.h"
@@ -40,7 +42,6 @@ ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(t
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setResizeContentsPrecision(300);
     horizontalHeader()->setSectionsMovable(false);
     buildFirstColumn();
 }
@@ -64,7 +65,10 @@ void ResultTableView::buildFirstColumn() {
     connect(verticalScrollBar(), &QScrollBar::valueChanged, firstColumn_->verticalScrollBar(), &QScrollBar::setValue);
     connect(firstColumn_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeFirstColumn(); });
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { placeFirstColumn(); });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (!fitting_) columnsSetByUser_ = true;
+        placeFirstColumn();
+    });
 }
 
 void ResultTableView::placeFirstColumn() {
@@ -82,30 +86,49 @@ void ResultTableView::placeFirstColumn() {
 }
 
 void ResultTableView::showTable(ResultTable table) {
+    fitting_ = true;  // new columns come with widths of their own
     clearSpans();
     model_.setTable(std::move(table));
     const int columns = model_.columnCount();
     if (columns > 1)
         for (int row = 0; row < model_.rowCount(); ++row)
             if (model_.isLine(row)) setSpan(row, 0, 1, columns);
+    columnsSetByUser_ = false;
     fitColumns();
     scrollToTop();
     horizontalScrollBar()->setValue(0);
     placeFirstColumn();
 }
 
+/// Width that the texts of a column need; lines that run over all columns don't count.
+int ResultTableView::contentWidth(int column) const {
+    constexpr int kRowsMeasured = 300;
+    constexpr int kMargins = 16, kSign = 20;
+    int width = horizontalHeader()->sectionSizeHint(column) + kMargins / 2;
+    for (int row = 0; row < std::min(model_.rowCount(), kRowsMeasured); ++row) {
+        if (model_.isLine(row)) continue;
+        const QModelIndex cell = model_.index(row, column);
+        const int sign = cell.data(Qt::DecorationRole).isNull() ? 0 : kSign;
+        width = std::max(width, fontMetrics().horizontalAdvance(cell.data().toString()) + kMargins + sign);
+    }
+    return width;
+}
+
+/// Gives each column what its texts need. Where that is a little too much for the window the widest one gives way;
+/// where there is room to spare all get some of it.
 void ResultTableView::fitColumns() {
+    constexpr int kMostSpare = 60;
     const int columns = model_.columnCount();
     if (columns == 0) return;
-    resizeColumnsToContents();
-    const int room = viewport()->width();
-    int total = 0;
-    for (int column = 0; column < columns; ++column) {
-        setColumnWidth(column, std::clamp(columnWidth(column) + 12, 60, std::max(120, room / 2)));
-        total += columnWidth(column);
-    }
-    for (int column = 0; column < columns && total < room; ++column)
-        setColumnWidth(column, columnWidth(column) + (room - total) / columns);
+    std::vector<int> widths;
+    for (int column = 0; column < columns; ++column) widths.push_back(contentWidth(column));
+    const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+    auto widest = std::max_element(widths.begin(), widths.end());
+    if (spare < 0 && *widest + spare >= *widest / 2) *widest += spare;
+    fitting_ = true;
+    for (int column = 0; column < columns; ++column)
+        setColumnWidth(column, widths[static_cast<std::size_t>(column)] + std::clamp(spare / columns, 0, kMostSpare));
+    fitting_ = false;
 }
 
 void ResultTableView::setOutOfDate(bool outOfDate) {
@@ -115,6 +138,7 @@ void ResultTableView::setOutOfDate(bool outOfDate) {
 
 void ResultTableView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
+    if (!columnsSetByUser_) fitColumns();
     placeFirstColumn();
 }
 
@@ -152,7 +176,9 @@ QString ResultTableView::selectionText(bool withHeaders) const {
     return text;
 }
 
-QString ResultTableView::wholeText() const { return QString::fromStdString(tabSeparated(model_.table())); }
+QString ResultTableView::wholeText() const {
+    return QString::fromStdString(tabSeparated(model_.table()));
+}
 
 void ResultTableView::copy(const QString& text) {
     if (text.isEmpty()) return;
@@ -229,7 +255,9 @@ void ResultTablePane::showTable(const QString& title, ResultTable table) {
     list_->showTable(std::move(table));
 }
 
-void ResultTablePane::clear() { showTable({}, {}); }
+void ResultTablePane::clear() {
+    showTable({}, {});
+}
 
 void ResultTablePane::setOutOfDate(bool outOfDate) {
     const bool marked = outOfDate && list_->model()->rowCount() > 0;

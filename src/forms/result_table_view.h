@@ -34,12 +34,15 @@ protected:
 private:
     void buildFirstColumn();
     void placeFirstColumn();
+    [[nodiscard]] int contentWidth(int column) const;
     void fitColumns();
     void copy(const QString& text);
 
     ResultTableModel model_;
     QTableView* firstColumn_;
     bool outOfDate_ = false;
+    bool fitting_ = false;
+    bool columnsSetByUser_ = false;
 };
 
 /// A table with its name above, and its signs and units below.

@@ -25,6 +25,7 @@ bool showsResults(const TreeNode& node) {
 ResultTreeView::ResultTreeView(const QString& name, QWidget* parent) : QTreeWidget(parent) {
     setObjectName(name);
     setHeaderHidden(true);
+    setUniformRowHeights(true);
     setColumnCount(1);
     setAccessibleName(tr("Input and results"));
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { choose(item); });
