@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <iostream>
+#include <string_view>
 
 #include "forms/main_window.h"
 #include "forms/wheel_guard.h"
@@ -9,6 +11,10 @@
 /// The desktop program. Takes one project file as its argument.
 int main(int argc, char** argv) {
     using namespace borvik;
+    if (argc == 2 && (std::string_view(argv[1]) == "--version" || std::string_view(argv[1]) == "--help")) {
+        std::cout << "Borvik " BORVIK_VERSION ", design of steel crane runway beams\nusage: borvik [PROJECT.brvk]\n";
+        return 0;
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setApplicationVersion(BORVIK_VERSION);

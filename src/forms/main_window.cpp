@@ -67,8 +67,8 @@ void MainWindow::buildCentre() {
 
 QWidget* MainWindow::inputColumn() {
     panel_ = new ProjectPanel(session_, services_.messages);
-    connect(panel_, &ProjectPanel::inputChanged, this, &MainWindow::projectChanged);
-    connect(panel_, &ProjectPanel::namesChanged, this, &MainWindow::showState);
+    connect(panel_, &ProjectPanel::inputChanged, this, [this](const QString& what) { projectChanged(what); });
+    connect(panel_, &ProjectPanel::namesChanged, this, [this] { projectChanged(tr("Names"), true); });
 
     auto* cmdProfile = button("cmdProfile", "Profile");
     auto* command1 = button("Command1", "Beam");
@@ -166,8 +166,8 @@ void MainWindow::WritefrmInput() {
     showState();
 }
 
-void MainWindow::projectChanged(const QString& what) {
-    session_.inputChanged();
+void MainWindow::projectChanged(const QString& what, bool resultsStand) {
+    if (!resultsStand) session_.inputChanged();
     picBalk_->showSketch(session_.project);
     panel_->showProject();
     showState();

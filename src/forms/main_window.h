@@ -39,9 +39,11 @@ public:
     /// @return false when nothing was opened
     bool openProject(const std::string& path);
 
-    /// The one road by which input changes reach the window: results are out of date, the sketch follows.
-    /// @param what  the change in the user's words, such as "Material"
-    void projectChanged(const QString& what);
+    /// The one road by which edits reach the window: results are out of date, the sketch follows. Commands that put
+    /// another project in place of this one go through projectReplaced instead.
+    /// @param what          the change in the user's words, such as "Material"
+    /// @param resultsStand  the change touches no result: a name
+    void projectChanged(const QString& what, bool resultsStand = false);
 
     /// True when the project differs from what was last saved, opened or made new.
     [[nodiscard]] bool hasUnsavedChanges() const;

@@ -86,8 +86,10 @@ void MainWindow::calculate() {
     progress_.reset();
     if (twoCranes) {
         progress_ = std::make_unique<FrmProgress>(this);
-        connect(progress_.get(), &FrmProgress::closedByUser, this,
-                [this] { findChild<QWidget*>("iproj")->setFocus(); });
+        connect(progress_.get(), &FrmProgress::closedByUser, this, [this] {
+            activateWindow();
+            findChild<QWidget*>("iproj")->setFocus();
+        });
     }
     running_ = true;
     bool done = false;

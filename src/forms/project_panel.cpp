@@ -12,10 +12,10 @@ namespace borvik {
 
 namespace {
 
-/// A text that is there already is left alone, with the cursor in it; a new one is shown from its beginning.
+/// A text that is there already, or is just being typed, is left alone; a new one is shown from its beginning.
 void showName(QLineEdit* box, const std::string& name) {
     const QString text = QString::fromStdString(name);
-    if (box->text() == text) return;
+    if (box->text() == text || (box->hasFocus() && box->isModified())) return;
     box->setText(text);
     box->setCursorPosition(0);
 }
@@ -131,14 +131,19 @@ void ProjectPanel::showProject() {
     chkStartStop_->setChecked(project.StartStopOutside != 0);
 }
 
+std::string& ProjectPanel::nameOf(const QLineEdit* box) {
+    return box == iproj_ ? session_.project.Proj : session_.project.Ident;
+}
+
 bool ProjectPanel::commit() {
-    if (iproj_->hasFocus()) storeName(iproj_, session_.project.Proj);
-    if (iident_->hasFocus()) storeName(iident_, session_.project.Ident);
+    for (QLineEdit* box : {iproj_, iident_})
+        if (box->hasFocus()) storeName(box, nameOf(box));
     return binder_.commitFocused();
 }
 
 void ProjectPanel::storeName(QLineEdit* from, std::string& to) {
     const std::string text = from->text().toStdString();
+    if (&to == &nameOf(from)) from->setModified(false);
     if (text == to) return;
     to = text;
     Q_EMIT namesChanged();
@@ -146,8 +151,8 @@ void ProjectPanel::storeName(QLineEdit* from, std::string& to) {
 
 bool ProjectPanel::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusOut) {
-        if (watched == iproj_) storeName(iproj_, session_.project.Proj);
-        if (watched == iident_) storeName(iident_, session_.project.Ident);
+        for (QLineEdit* box : {iproj_, iident_})
+            if (watched == box) storeName(box, nameOf(box));
     }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();

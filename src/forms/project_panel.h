@@ -40,6 +40,8 @@ private:
     QWidget* namesBox();
     QWidget* materialBox();
     QWidget* craneTypeBox();
+    /// The field of the record that a box of names edits.
+    [[nodiscard]] std::string& nameOf(const QLineEdit* box);
     void storeName(QLineEdit* from, std::string& to);
     void enterInIdent();
     void chooseMaterial(int row);

@@ -177,6 +177,7 @@ TEST_F(ProjectCommands, whatIsBeingTypedIsSaved) {
 
 TEST_F(ProjectCommands, textsBeyondTheCodePageAreToldAbout) {
     project().Proj = "Träbalk \u4e2d";
+    window.WritefrmInput();
     saveAs(folder.file("lost.brvk"));
     EXPECT_EQ(messages.texts.size(), 1U);
     Project saved;

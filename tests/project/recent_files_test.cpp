@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"openFourth", {"/a", "/b", "/c", "/d"}, true, "/d", {"/d", "/a", "/b", "/c"}},
                     Case{"openUnlisted", {"/a", "/b", "/c", "/d"}, true, "/e", {"/e", "/a", "/b", "/c"}},
                     Case{"openUnlistedShortList", {"/a", "/b"}, true, "/e", {"/e", "/a", "/b"}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& tested) { return tested.param.name; });
 
 TEST(RecentFiles, captionsAreNumberAndPath) {
     SettingsInMemory settings;

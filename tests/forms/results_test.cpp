@@ -1,0 +1,369 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QDialog>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+#include "forms/frm_detailed_result.h"
+#include "window_support.h"
+
+namespace borvik {
+namespace {
+
+class ResultsTest : public testing::Test, public WindowFixture {
+protected:
+    void openExample(const char* name) {
+        ASSERT_TRUE(window.openProject(std::string(BORVIK_SOURCE_DIR "/examples/") + name)) << lastMessage();
+    }
+    void calculate() {
+        click("cmdCalc");
+        ASSERT_TRUE(session.Calculated) << lastMessage();
+    }
+    ResultTableView& list() { return control<ResultTableView>("lstViewDetailed"); }
+    DiagramView& picRes() { return control<DiagramView>("picRes"); }
+    std::vector<std::string> headers() {
+        std::vector<std::string> texts;
+        for (const TableColumn& column : list().table().columns) texts.push_back(column.header);
+        return texts;
+    }
+    /// Runs what opens a modal window, and closes that window. @return its object name; empty when none opened
+    std::string nameOfModal(const std::function<void()>& open) {
+        std::string name;
+        QTimer closer;
+        QObject::connect(&closer, &QTimer::timeout, &closer, [&] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                name = modal->objectName().toStdString();
+                modal->close();
+            }
+        });
+        closer.start(10);
+        open();
+        return name;
+    }
+};
+
+TEST_F(ResultsTest, aCalculationShowsSketchDiagramAndSummary) {
+    calculate();
+    EXPECT_FALSE(control<QPushButton>("cmdCalc").isEnabled());
+    EXPECT_EQ(control<DiagramView>("picBalk").diagrams(), std::vector<Diagram>{Diagram::Sketch});
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("MyVz", project()));
+    EXPECT_EQ(headers(), (std::vector<std::string>{"Control", "Interaction Ratio", "Reference "}));
+    EXPECT_EQ(list().table().rows.at(0).at(0).text, "ULS - Section Control/Lateral Torsional Buckling");
+    EXPECT_EQ(control<QLabel>("stateCalculated").text(), "Calculated");
+    EXPECT_FALSE(window.hasUnsavedChanges()) << "what a calculation writes back is no change of the user's";
+    EXPECT_TRUE(messages.texts.empty());
+    for (QWidget* other : QApplication::topLevelWidgets())
+        EXPECT_FALSE(other->objectName() == "frmProgress" && other->isVisible())
+            << "one crane needs no progress window";
+}
+
+TEST_F(ResultsTest, everyNodeShowsItsTableOrPicture) {
+    openExample("turbine-hall-tandem-lift.brvk");
+    calculate();
+    const std::pair<const char*, const char*> tables[] = {{"ULS + SLS", "FLS - Fatigue Control"},
+                                                          {"ULS", "SLS - Deflection Control"}};
+    const auto hasRow = [this](const char* text) {
+        const auto& rows = list().table().rows;
+        return std::any_of(rows.begin(), rows.end(), [&](const auto& row) { return row.at(0).text == text; });
+    };
+    for (const auto& [node, absent] : tables) {
+        clickNode(node);
+        EXPECT_FALSE(hasRow(absent)) << node;
+    }
+    clickNode("ULS + SLS + FLS");
+    EXPECT_TRUE(hasRow("FLS - Fatigue  Control"));
+    clickNode("Summary");
+    EXPECT_TRUE(hasRow("SLS - Deflection Control"));
+
+    const std::pair<const char*, const char*> pictures[] = {
+        {"My + Vz", "MyVz"},       {"Mz + Vy", "MzVy"},       {"Uz + Uy", "Uz"},         {"Cr1-Point 1", "Cr1Sp1"},
+        {"Cr1-Point 2", "Cr1Sp2"}, {"Cr1-Point 3", "Cr1Sp3"}, {"Cr2-Point 1", "Cr2Sp1"}, {"Cr2-Point 2", "Cr2Sp2"},
+        {"Cr2-Point 3", "Cr2Sp3"}, {"Reactions", "CrRz"}};
+    for (const auto& [node, picture] : pictures) {
+        clickNode(node);
+        EXPECT_EQ(picRes().diagrams(), pictureDiagrams(picture, project())) << node;
+        EXPECT_FALSE(picRes().diagrams().empty()) << node;
+        EXPECT_FALSE(picRes().grab().isNull());
+    }
+    EXPECT_EQ(nameOfModal([this] { clickNode("Detailed Results"); }), "frmDetailedResult");
+    EXPECT_TRUE(messages.texts.empty());
+}
+
+TEST_F(ResultsTest, noResultWithoutACalculation) {
+    calculate();
+    click("chkStartStop");
+    for (const char* node : {"ULS", "ULS + SLS", "ULS + SLS + FLS", "Summary", "My + Vz", "Mz + Vy", "Uz + Uy",
+                             "Cr1-Point 1", "Cr1-Point 2", "Cr1-Point 3", "Reactions", "Detailed Results"}) {
+        messages.texts.clear();
+        const auto shown = picRes().diagrams();
+        clickNode(node);
+        EXPECT_EQ(messages.texts, std::vector<std::string>{" Calculate before results can be presented "}) << node;
+        EXPECT_EQ(picRes().diagrams(), shown) << node;
+    }
+    for (const char* node : {"Borvik", "Input", "Results", "Diagram"}) {
+        messages.texts.clear();
+        clickNode(node);
+        EXPECT_TRUE(messages.texts.empty()) << node;
+    }
+}
+
+TEST_F(ResultsTest, withoutHorizontalLoadsThereIsNoHorizontalDiagram) {
+    project().H = {};
+    project().HasLoadsY = false;
+    calculate();
+    clickNode("Mz + Vy");
+    EXPECT_EQ(lastMessage(), " No loads in y-direction");
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("MyVz", project()));
+    clickNode("Uz + Uy");
+    EXPECT_EQ(picRes().diagrams(), std::vector<Diagram>{Diagram::SlsUz});
+
+    FrmDetailedResult detailed(window.calculation(), nullptr);
+    auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
+    auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
+    Q_EMIT tree->itemClicked(tree->itemOf("MzVy max/min"), 0);
+    EXPECT_TRUE(shown->table().columns.empty());
+}
+
+TEST_F(ResultsTest, detailedResultsOfTwoCranes) {
+    openExample("assembly-hall-two-cranes.brvk");
+    calculate();
+    FrmDetailedResult detailed(window.calculation(), nullptr);
+    detailed.show();
+    auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
+    auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
+    const std::pair<const char*, std::size_t> nodes[] = {{"MyVz max/min", 5},  {"MzVy max/min", 5}, {"Reactions", 5},
+                                                         {"Uz/Uy", 3},         {"Static", 7},       {"Fatigue", 5},
+                                                         {"FLS - Crane 1", 8}, {"FLS - Crane 2", 8}};
+    for (const auto& [node, columns] : nodes) {
+        ASSERT_NE(tree->itemOf(node), nullptr) << node;
+        Q_EMIT tree->itemClicked(tree->itemOf(node), 0);
+        EXPECT_EQ(shown->table().columns.size(), columns) << node;
+        EXPECT_FALSE(shown->table().rows.empty()) << node;
+    }
+    Q_EMIT tree->itemClicked(tree->itemOf("MyVz max/min"), 0);
+    EXPECT_EQ(shown->table().rows.size(), 21U * static_cast<std::size_t>(project().NofSpans));
+    QTest::mouseClick(detailed.findChild<QPushButton*>("cmbOk"), Qt::LeftButton);
+    EXPECT_FALSE(detailed.isVisible());
+}
+
+TEST_F(ResultsTest, oneCraneHasNoNodesOfASecond) {
+    calculate();
+    EXPECT_TRUE(hasNode("Cr1-Point 3"));
+    EXPECT_FALSE(hasNode("Cr2-Point 1"));
+    FrmDetailedResult detailed(window.calculation(), nullptr);
+    EXPECT_EQ(detailed.findChild<ResultTreeView*>("TreeView1")->itemOf("FLS - Crane 2"), nullptr);
+}
+
+TEST_F(ResultsTest, twoCranesShowTheirProgress) {
+    openExample("assembly-hall-two-cranes.brvk");
+    calculate();
+    auto* progress = window.findChild<FrmProgress*>("frmProgress");
+    ASSERT_NE(progress, nullptr);
+    EXPECT_TRUE(progress->isVisible());
+    EXPECT_FALSE(progress->isModal());
+    EXPECT_EQ(progress->windowTitle(), "Calculating...");
+    const QString text = progress->findChild<QPlainTextEdit*>("txt")->toPlainText();
+    for (const char* line : {"Calculating ULS ...100%", "Calculating SLS finnished", "Calculating FLS finnished",
+                             "Calculation FLS finnished  - 00:00:0"})
+        EXPECT_TRUE(text.contains(line)) << line << " in\n" << text.toStdString();
+    auto* cmdOK = progress->findChild<QPushButton*>("cmdOK");
+    EXPECT_EQ(cmdOK->text(), "Close");
+    EXPECT_TRUE(cmdOK->isEnabled());
+    QTest::mouseClick(cmdOK, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(progress->isVisible());
+    EXPECT_TRUE(control<QLineEdit>("iproj").hasFocus());
+    window.WritefrmInput();
+    EXPECT_TRUE(hasNode("Cr2-Point 1")) << "the window's own refresh keeps the results";
+}
+
+TEST_F(ResultsTest, aChangeMarksEverythingOutOfDate) {
+    calculate();
+    EXPECT_FALSE(picRes().outOfDate());
+    const QImage current = picRes().grab().toImage();
+    click("chkStartStop");
+    EXPECT_TRUE(picRes().outOfDate());
+    EXPECT_NE(picRes().grab().toImage(), current);
+    EXPECT_TRUE(control<QLabel>("lstViewDetailedOutOfDate").isVisible());
+    EXPECT_EQ(control<QLabel>("stateCalculated").text(), "Out of date: calculate again");
+    EXPECT_FALSE(control<QLabel>("stateGoverning").isVisible());
+    list().selectAll();
+    QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Out of date"));
+
+    project().Span(3) = 0;  // a shorter beam than the one that is shown
+    project().NofSpans = 2;
+    window.projectChanged("Beam");
+    EXPECT_FALSE(picRes().grab().isNull());
+    project().Span(3) = 6000;
+    click("chkStartStop");
+    calculate();
+    EXPECT_FALSE(picRes().outOfDate());
+    EXPECT_FALSE(control<QLabel>("lstViewDetailedOutOfDate").isVisible());
+}
+
+TEST_F(ResultsTest, aRefusedRunChangesNothingElse) {
+    calculate();
+    project().Span(2) = 0;
+    window.projectChanged("Beam");
+    trigger("mnuCalc");
+    EXPECT_EQ(messages.texts, std::vector<std::string>{" An inner beam can't have length = 0 "});
+    EXPECT_FALSE(session.Calculated);
+    EXPECT_TRUE(control<QPushButton>("cmdCalc").isEnabled());
+    EXPECT_TRUE(picRes().outOfDate());
+}
+
+TEST_F(ResultsTest, aRunTimeFaultLeavesTheWindowAlive) {
+    project().SpanSection(2).TableName = "HEA 17";
+    const Project entered = project();
+    trigger("mnuCalc");
+    ASSERT_EQ(messages.texts.size(), 1U);
+    EXPECT_NE(lastMessage().find("HEA 17"), std::string::npos) << lastMessage();
+    EXPECT_EQ(project().SpanSection, entered.SpanSection);
+    EXPECT_FALSE(session.Calculated);
+    project().SpanSection(2) = project().SpanSection(1);
+    calculate();
+}
+
+TEST_F(ResultsTest, aClickOnTheSketchOpensTheLoads) {
+    auto& sketch = control<DiagramView>("picBalk");
+    const auto clickAt = [&](double x) {
+        // The pixel whose place is the first not below x.
+        const int pixel = static_cast<int>(std::ceil(x / 1000.0 * sketch.width()));
+        return nameOfModal([&] { QTest::mouseClick(&sketch, Qt::LeftButton, {}, QPoint(pixel, 40)); });
+    };
+    EXPECT_EQ(clickAt(97.0), "");
+    EXPECT_EQ(clickAt(100.0), "frmLoad");
+    EXPECT_EQ(clickAt(797.0), "frmLoad");
+    EXPECT_EQ(clickAt(800.0), "");
+    click("OptRunW");
+    EXPECT_EQ(clickAt(400.0), "frmLoadRunway");
+}
+
+TEST_F(ResultsTest, anInputFormPutsResultsOutOfReach) {
+    calculate();
+    EXPECT_EQ(nameOfModal([this] { trigger("mnuLoad"); }), "frmLoad");
+    EXPECT_FALSE(session.Calculated);
+    EXPECT_TRUE(control<QPushButton>("cmdCalc").isEnabled());
+    EXPECT_FALSE(hasNode("Summary"));
+    calculate();
+    EXPECT_EQ(nameOfModal([this] { clickNode("Setup"); }), "frmSetup");
+}
+
+TEST_F(ResultsTest, theMouseReadsTheDiagram) {
+    calculate();
+    QSignalSpy spy(&picRes(), &DiagramView::readingChanged);
+    QTest::mouseMove(&picRes(), QPoint(picRes().width() / 2, 40));
+    ASSERT_FALSE(spy.isEmpty());
+    EXPECT_TRUE(spy.last().at(0).toString().startsWith("Span 2, x = ")) << spy.last().at(0).toString().toStdString();
+}
+
+TEST_F(ResultsTest, theKeyboardWalksOverResultsAndOpensNoWindow) {
+    calculate();
+    auto& tree = control<ResultTreeView>("TreeView1");
+    tree.setFocus();
+    tree.setCurrentItem(tree.itemOf("Mz + Vy"));
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Down); }), "");
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("Uz", project()));
+    tree.setCurrentItem(tree.itemOf("Fatigue"));
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Up); }), "");
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Return); }), "frmLoad");
+}
+
+TEST_F(ResultsTest, stepsAndAboutOpen) {
+    EXPECT_EQ(nameOfModal([this] { click("Command3"); }), "frmTemp");
+    EXPECT_EQ(nameOfModal([this] { trigger("mnuAbout"); }), "frmabout");
+    FrmTemp before(nullptr, nullptr);
+    auto* list = before.findChild<ResultTableView*>("lstViewTemp");
+    EXPECT_EQ(list->table().columns.size(), 9U);
+    EXPECT_TRUE(list->table().rows.empty());
+    calculate();
+    FrmTemp after(window.calculation(), nullptr);
+    EXPECT_FALSE(after.findChild<ResultTableView*>("lstViewTemp")->table().rows.empty());
+}
+
+/// A table with everything that a list has to cope with.
+ResultTable mixedTable() {
+    ResultTable table;
+    table.columns = {{"Control", "", ""}, {"Interaction Ratio", "-", "help"}, {"Reference ", "", ""}};
+    table.rows = {{{"Heading", Emphasis::Heading, {}, ""}},
+                  {{"holds", {}, {}, ""}, {"1.000", Emphasis::None, 1.0, "0.000"}, {"ref", {}, {}, ""}},
+                  {{"fails", {}, {}, ""}, {"1.000", Emphasis::OverLimit, 1.0001, "0.000"}, {"ref", {}, {}, ""}}};
+    return table;
+}
+
+TEST(ResultTableModel, marksRatiosOverOneByMoreThanColour) {
+    ResultTableModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setTable(mixedTable());
+    const QModelIndex holds = model.index(1, 1), fails = model.index(2, 1);
+    EXPECT_EQ(fails.data().toString(), "1.000");
+    EXPECT_EQ(fails.data(Qt::EditRole).toDouble(), 1.0001);
+    EXPECT_EQ(fails.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_FALSE(fails.data(Qt::DecorationRole).isNull());
+    EXPECT_TRUE(holds.data(Qt::ForegroundRole).isNull());
+    EXPECT_TRUE(holds.data(Qt::DecorationRole).isNull());
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString(), "Interaction Ratio\n-");
+    EXPECT_TRUE(model.index(0, 2).data().isNull()) << "a short row is empty to the right";
+    model.setOutOfDate(true);
+    EXPECT_EQ(fails.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_FALSE(holds.data(Qt::ForegroundRole).isNull());
+}
+
+TEST(ResultTableView, copiesAsTabSeparatedText) {
+    ResultTableView view;
+    view.resize(600, 300);
+    view.showTable(mixedTable());
+    view.selectAll();
+    EXPECT_EQ(view.selectionText(true),
+              "Control\tInteraction Ratio -\tReference\nHeading\t\t\nholds\t1.000\tref\nfails\t1.000\tref\n");
+    view.clearSelection();
+    view.selectionModel()->select(view.model()->index(1, 2), QItemSelectionModel::Select);
+    view.selectionModel()->select(view.model()->index(2, 0), QItemSelectionModel::Select);
+    EXPECT_EQ(view.selectionText(false), "\tref\nfails\t\n") << "cells keep their columns";
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "\tref\nfails\t\n");
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasHtml());
+}
+
+TEST(ResultTableView, theFirstColumnStaysInView) {
+    ResultTable table;
+    for (int column = 0; column < 12; ++column) table.columns.push_back({"Column " + std::to_string(column), "", ""});
+    for (int row = 0; row < 50000; ++row) table.rows.push_back({{std::to_string(row), {}, double(row), "0"}});
+    ResultTableView view;
+    view.resize(400, 300);
+    view.show();
+    view.showTable(table);
+    auto* first = view.findChild<QTableView*>();
+    EXPECT_FALSE(first->isVisible());
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    view.verticalScrollBar()->setValue(777);
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_EQ(first->columnAt(5), 0);
+    EXPECT_EQ(first->rowAt(5), view.rowAt(5));
+}
+
+TEST(Pictures, areSavedAsPngAndSvg) {
+    testing_support::TempFolder folder;
+    MessageList messages;
+    PreparedAnswers questions;
+    SettingsInMemory settings;
+    Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
+    DiagramView view({messages, questions, settings});
+    view.showSketch(session.project);
+    questions.toSave = {folder.file("a.png"), folder.file("a.svg"), folder.file("no/such/a.png"), std::nullopt};
+    for (int i = 0; i < 4; ++i) view.savePictureAs();
+    EXPECT_FALSE(QImage(QString::fromStdString(folder.file("a.png"))).isNull());
+    EXPECT_NE(testing_support::bytesOf(folder.file("a.svg")).find("Beam Data"), std::string::npos);
+    EXPECT_EQ(messages.texts.size(), 1U);
+}
+
+}  // namespace
+}  // namespace borvik
