@@ -32,6 +32,10 @@ std::string tableNames() {
 
 void addOptions(CLI::App& app, Options& options) {
     const std::map<std::string, WalkMethod> walks{{"plain", WalkMethod::Plain}, {"fast", WalkMethod::Fast}};
+    const std::map<std::string, ReportScope> scopes{{"uls", ReportScope::Uls},
+                                                    {"uls-sls", ReportScope::UlsSls},
+                                                    {"all", ReportScope::All},
+                                                    {"compressed", ReportScope::Compressed}};
     CLI::Option* files = app.add_option("FILE", options.files, "Projects to calculate (.brvk)")->type_name("");
     app.add_flag("--default", options.useDefault, "The default project instead of files")->excludes(files);
     app.add_option("--tables", options.tables,
@@ -48,7 +52,17 @@ void addOptions(CLI::App& app, Options& options) {
         ->check([](const std::string& name) {
             return findTable(name) != nullptr ? std::string() : "unknown table: one of " + tableNames();
         });
+    app.add_option("--xlsx", options.xlsx, "Write the table to a spreadsheet instead")
+        ->type_name("FILE")
+        ->needs("--table");
     if (kHasPictures) {
+        CLI::Option* report = app.add_option("--report", options.report, "Write the report as PDF");
+        report->type_name("FILE");
+        app.add_option("--scope", options.scope, "What the report covers")
+            ->type_name("uls|uls-sls|all|compressed")
+            ->transform(CLI::Transformer(scopes))
+            ->option_text("uls|uls-sls|all|compressed (default: all)")
+            ->needs(report);
         CLI::Option* picture = app.add_option("--png", options.picture, "File of the diagram; .svg makes an SVG of it");
         picture->type_name("FILE");
         CLI::Option* diagram =
@@ -76,6 +90,10 @@ void checkTogether(const Options& options) {
     if (options.projects() == 0) throw CLI::RequiredError("A project file, or --default,");
     if (options.projects() > 1 && !options.save.empty())
         throw CLI::ValidationError("--save", "takes the project of a single file");
+    if (options.projects() > 1 && !options.report.empty())
+        throw CLI::ValidationError("--report", "takes the report of a single project");
+    if (options.projects() > 1 && !options.xlsx.empty())
+        throw CLI::ValidationError("--xlsx", "takes the table of a single project");
     if (options.projects() > 1 && !options.picture.empty())
         throw CLI::ValidationError("--png", "takes the diagram of a single project");
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/walk.h"
+#include "results/report.h"
 
 namespace borvik {
 
@@ -16,18 +17,22 @@ struct Options {
     std::string tables;              ///< folder of the reference tables; empty: where programs look for them
     WalkMethod walk = WalkMethod::Fast;
     bool summary = false;
-    std::string json;     ///< file, "-" for standard output, or folder; empty: none
-    std::string table;    ///< name of a result table to print; empty: none
-    std::string diagram;  ///< name of a picture to save as `picture`; empty: none
-    std::string picture;  ///< file of the picture, .png or .svg
-    std::string save;     ///< project file to write; empty: none
+    std::string json;                      ///< file, "-" for standard output, or folder; empty: none
+    std::string table;                     ///< name of a result table to print; empty: none
+    std::string diagram;                   ///< name of a picture to save as `picture`; empty: none
+    std::string picture;                   ///< file of the picture, .png or .svg
+    std::string xlsx;                      ///< spreadsheet file that takes the table instead; empty: none
+    std::string report;                    ///< PDF file of the report; empty: none
+    ReportScope scope = ReportScope::All;  ///< of the report
+    std::string save;                      ///< project file to write; empty: none
     std::optional<double> failAbove;
     bool quiet = false;
 
     [[nodiscard]] std::size_t projects() const { return useDefault ? 1 : files.size(); }
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
-        return summary || (json.empty() && save.empty() && table.empty() && diagram.empty() && !quiet);
+        return summary ||
+               (json.empty() && save.empty() && table.empty() && diagram.empty() && report.empty() && !quiet);
     }
 };
 

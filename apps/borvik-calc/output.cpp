@@ -9,7 +9,9 @@
 #include "pictures.h"
 #include "platform/version.h"
 #include "project/project_file.h"
+#include "report_file.h"
 #include "results/json.h"
+#include "results/spreadsheet.h"
 #include "results/summary.h"
 #include "results/tables.h"
 
@@ -50,6 +52,13 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
         });
     if (!options_.json.empty()) attempt([&] { writeJson(run); });
     if (!options_.table.empty()) attempt([&] { writeTable(run); });
+    if (!options_.report.empty())
+        attempt([&] {
+            if (canReport(run.session))
+                saveReport(run.session, options_.scope, options_.report);
+            else
+                remarks.push_back("no report without results");
+        });
     if (!options_.diagram.empty()) attempt([&] { savePictureOf(run.session, options_.diagram, options_.picture); });
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (!failed.empty()) throw OutputError(failed);
@@ -80,8 +89,19 @@ std::string Outputs::jsonFile(const FinishedRun& run) {
 /// Several projects make one text, each under its name.
 void Outputs::writeTable(const FinishedRun& run) {
     if (!run.session.Calculated || !run.session.results) return;
+    if (!options_.xlsx.empty()) {
+        writeSpreadsheet(run);
+        return;
+    }
     std::string text = options_.projects() > 1 ? run.file.value_or("") + "\n" : "";
     print(text + tabSeparated(findTable(options_.table)->fill(run.session.project, *run.session.results)));
+}
+
+void Outputs::writeSpreadsheet(const FinishedRun& run) {
+    const TableEntry& entry = *findTable(options_.table);
+    const std::string failed =
+        SaveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title);
+    if (!failed.empty()) throw OutputError("can't write " + options_.xlsx + ": " + failed);
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {

@@ -37,6 +37,7 @@ private:
     void writeJson(const FinishedRun& run);
     std::string jsonFile(const FinishedRun& run);
     void writeTable(const FinishedRun& run);
+    void writeSpreadsheet(const FinishedRun& run);
     void writeSummary(const FinishedRun& run);
 
     const Options& options_;

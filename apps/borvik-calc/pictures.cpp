@@ -7,9 +7,8 @@
 #include "results/diagrams.h"
 
 #ifdef BORVIK_PICTURES
-#include <QGuiApplication>
-
 #include "platform/qt/picture.h"
+#include "qt_application.h"
 #endif
 
 namespace borvik {
@@ -29,21 +28,6 @@ namespace {
 
 constexpr int kPixelsAcross = 1400;
 constexpr double kPixelsPerUnit = 2.2;  // down
-
-/// Fonts and painters want an application; it asks for no display unless the user chose a platform.
-void needApplication() {
-    if (QCoreApplication::instance() != nullptr) return;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "borvik-calc";
-    static char* argv[] = {name, nullptr};
-    // Lives until the process ends: Qt's own statics go first, and an application must not outlive them half destroyed.
-    const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    static auto* const application =
-        new QGuiApplication(argc, argv);  // would warn about a desktop session that isn't there
-    (void)application;
-    qInstallMessageHandler(before);
-}
 
 }  // namespace
 

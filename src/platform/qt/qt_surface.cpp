@@ -34,6 +34,9 @@ QFont toQt(const Font& font, double scale) {
     made.setPointSizeF(font.points * scale);
     made.setBold(font.bold);
     made.setUnderline(font.underline);
+    // No ligatures: a reader of a PDF who searches "profile" must find it. Any spacing of letters turns them off.
+    constexpr double kLeastSpacing = 1.0 / 64.0;
+    made.setLetterSpacing(QFont::AbsoluteSpacing, kLeastSpacing);
     made.setHintingPreference(QFont::PreferNoHinting);  // extents must not jump with the size
     return made;
 }

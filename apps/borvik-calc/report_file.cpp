@@ -1,0 +1,39 @@
+#include "report_file.h"
+
+#include <ctime>
+
+#include "output.h"
+
+#ifdef BORVIK_PICTURES
+#include <QString>
+
+#include "platform/qt/qt_printer.h"
+#include "platform/version.h"
+#include "qt_application.h"
+#endif
+
+namespace borvik {
+
+#ifdef BORVIK_PICTURES
+
+void saveReport(const Session& session, ReportScope scope, const std::string& file) {
+    needApplication();
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    const QString failed = savePdf(
+        QString::fromStdString(file),
+        [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local)); }, defaultPageLayout(),
+        {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
+    if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());
+}
+
+#else
+
+void saveReport(const Session&, ReportScope, const std::string&) {
+    throw OutputError("this program was built without printing");
+}
+
+#endif
+
+}  // namespace borvik

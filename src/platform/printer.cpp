@@ -1,0 +1,17 @@
+#include "platform/printer.h"
+
+namespace borvik {
+
+DrawingSurface& PageRange::page() {
+    if (inRange()) return printer_.page();
+    return blank_;
+}
+
+void PageRange::newPage() {
+    ++number_;
+    if (!inRange()) return;
+    if (printed_ > 0) printer_.newPage();
+    ++printed_;
+}
+
+}  // namespace borvik

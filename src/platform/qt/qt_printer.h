@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QString>
+#include <functional>
+
+#include "platform/printer.h"
+#include "platform/qt/qt_surface.h"
+
+namespace borvik {
+
+/// Pages of a PDF file, of a printer or of a print preview.
+class QtPrinter : public Printer {
+public:
+    /// @param device  lives longer than this; takes its page size and margins from before
+    explicit QtPrinter(QPagedPaintDevice& device);
+
+    /// False when the printer could not be started.
+    [[nodiscard]] bool isActive() const { return painter_.isActive(); }
+    /// Sends the last page. @return false when the device reports a failure
+    bool end() { return painter_.end() && !failed_; }
+
+    [[nodiscard]] DrawingSurface& page() override { return surface_; }
+    void newPage() override;
+    [[nodiscard]] Extent printableArea() const override;
+
+private:
+    QPagedPaintDevice& device_;
+    QPainter painter_;
+    QtSurface surface_;
+    bool failed_ = false;
+};
+
+/// Prints a whole document.
+using PrintedDocument = std::function<void(Printer&)>;
+
+/// What a PDF reader shows about a document.
+struct DocumentProperties {
+    QString title;
+    QString author;
+    QString program;  ///< name and version
+};
+
+/// The user's name as the system has it; the program's where there is none.
+[[nodiscard]] QString documentAuthor();
+
+/// Paper of a new document: A4, or Letter where that is the custom; portrait, with the narrow margins of a printer.
+[[nodiscard]] QPageLayout defaultPageLayout();
+
+/// Saves a document as PDF, texts as texts with their fonts embedded. The old file stays until the new one is whole.
+/// @return an empty text, or what went wrong
+[[nodiscard]] QString savePdf(const QString& fileName, const PrintedDocument& document, const QPageLayout& layout,
+                              const DocumentProperties& properties);
+
+}  // namespace borvik

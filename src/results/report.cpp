@@ -1,0 +1,158 @@
+#include "results/report.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+#include "base/number_text.h"
+#include "platform/version.h"
+#include "results/report_chapters.h"
+
+namespace borvik {
+namespace {
+
+// Diagrams stand in a page scale of so many units from top to bottom, which gives them their height on the paper, and
+// each takes a fixed part of the page.
+constexpr double kForceScale = 1400.0;
+constexpr double kFlatScale = 2000.0;
+constexpr double kSketchStep = 0.075;
+constexpr double kForceStep = 0.15;
+constexpr double kUzStep = 0.051;
+constexpr double kUyStep = 0.05;
+constexpr double kFlsStep = 0.052;
+
+/// Lower case of the letters of Windows-1252 that have one, in UTF-8.
+std::string lowerCase(std::string text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (byte < 0x80)
+            text[i] = static_cast<char>(std::tolower(byte));
+        else if (byte == 0xC3 && i + 1 < text.size()) {  // U+00C0 to U+00FF
+            auto& next = text[++i];
+            const auto low = static_cast<unsigned char>(next);
+            if (low >= 0x80 && low <= 0x9E && low != 0x97) next = static_cast<char>(low + 0x20);
+        }
+    }
+    return text;
+}
+
+PageHeadTexts headOf(const Session& session, const ReportTime& when) {
+    return {kProgramAndVersion,   when.date, when.time, session.project.Proj, lowerCase(session.context.FileTitle),
+            session.project.Ident};
+}
+
+void printInput(Report& report, bool withFatigue) {
+    ReportPage& page = report.page;
+    page.PageHead(1);
+    PrintGeneral(report);
+    PrintCraneAndLoad(report);
+    page.advance(0.5);
+    PrintSection(report);
+    page.ruleAcross();
+    PrintLtb(report);
+    if (withFatigue) {
+        if (report.project.CraneType == 1)
+            PrintFatigueOverhead(report);
+        else
+            PrintFatigueMonorail(report);
+    }
+    page.advance(1.5);
+    if (page.PrintY > page.LinesPerPage * 0.85) {
+        page.newPage();
+        page.advance(0.5);
+    }
+}
+
+void printUlsDiagrams(Report& report, const DiagramData& data) {
+    report.page.diagram(Diagram::Sketch, data, kForceScale, kSketchStep);
+    report.page.diagram(Diagram::UlsMyVz, data, kForceScale, kForceStep);
+}
+
+void PrintFull(Report& report, const DiagramData& data) {
+    ReportPage& page = report.page;
+    printInput(report, true);
+    printUlsDiagrams(report, data);
+    page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
+    page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
+    page.newPage();
+    page.advance(0.5);
+    for (const Diagram diagram :
+         {Diagram::Cr1TopRange, Diagram::Cr1BottomRange, Diagram::Cr1ShearRange, Diagram::FlsReactions})
+        page.diagram(diagram, data, kFlatScale, kFlsStep);
+    PrintResults(report);
+    PrintFlsCrane1(report);
+    PrintFlsCrane2(report);
+}
+
+void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
+    ReportPage& page = report.page;
+    const bool compressed = scope == ReportScope::Compressed;
+    printInput(report, compressed);
+    printUlsDiagrams(report, data);
+    if (scope != ReportScope::Uls) page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
+    if (compressed || (scope == ReportScope::UlsSls && report.project.HasLoadsY))
+        page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
+    if (!compressed) return;
+    page.newPage();
+    page.advance(0.5);
+    page.diagram(Diagram::Cr1TopRange, data, kFlatScale, kFlsStep);
+    page.diagram(Diagram::Cr1ShearRange, data, kFlatScale, kFlsStep);
+    page.advance(0.5);
+    PrintResultsCompressed(report);
+}
+
+const char* nameOf(ReportScope scope) {
+    switch (scope) {
+        case ReportScope::Uls:
+            return "ULS";
+        case ReportScope::UlsSls:
+            return "ULS-SLS";
+        case ReportScope::All:
+            return "ULS-SLS-FLS";
+        case ReportScope::Compressed:
+            return "compressed";
+    }
+    return "";
+}
+
+}  // namespace
+
+bool canReport(const Session& session) {
+    return session.Calculated && session.results.has_value();
+}
+
+void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when) {
+    ReportPage page(printer, headOf(session, when));
+    Report report{page, session.project, session.context, *session.results};
+    const DiagramData data{session.project, &*session.results};
+    if (scope == ReportScope::All)
+        PrintFull(report, data);
+    else
+        PrintPartial(report, data, scope);
+}
+
+ReportTime reportTime(const std::tm& local) {
+    return {formatNumber(1900 + local.tm_year, "0000") + "-" + formatNumber(local.tm_mon + 1, "00") + "-" +
+                formatNumber(local.tm_mday, "00"),
+            formatNumber(local.tm_hour, "0") + ":" + formatNumber(local.tm_min, "00")};
+}
+
+std::string reportFileName(const Session& session, ReportScope scope) {
+    std::string name = std::filesystem::path(session.context.FileName).stem().string();
+    if (name.empty()) name = session.project.Proj;
+    // A title may hold what no file name may.
+    std::replace_if(
+        name.begin(), name.end(),
+        [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; }, '-');
+    const auto first = name.find_first_not_of(' ');
+    name = first == std::string::npos ? "report" : name.substr(first, name.find_last_not_of(' ') - first + 1);
+    return name + "-" + nameOf(scope) + ".pdf";
+}
+
+std::string reportTitle(const Session& session) {
+    std::string title = session.project.Proj;
+    if (session.project.Ident.find_first_not_of(' ') != std::string::npos) title += ", " + session.project.Ident;
+    return title;
+}
+
+}  // namespace borvik

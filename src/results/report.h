@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ctime>
+#include <string>
+
+#include "calculation/session.h"
+#include "platform/printer.h"
+
+namespace borvik {
+
+/// What a report covers.
+enum class ReportScope : int {
+    Uls = 1,         ///< input and the diagrams of the ultimate limit state
+    UlsSls = 2,      ///< the same with the deflections
+    All = 3,         ///< input, all diagrams, all checks of every span, support and splice
+    Compressed = 4,  ///< input, a choice of diagrams, the checks, of fatigue the governing rows
+};
+
+/// When a report is printed; the local date and clock time as they are to be shown.
+struct ReportTime {
+    std::string date;
+    std::string time;
+};
+
+/// The local time as "2026-03-01" and "9:05".
+[[nodiscard]] ReportTime reportTime(const std::tm& local);
+
+inline constexpr const char* kCalculateBeforePrint = "  Calculate before print  ";
+
+/// True when the session holds results that belong to its input: only such may be printed.
+[[nodiscard]] bool canReport(const Session& session);
+
+/// Writes the whole report, from page 1, on paper whose first page is empty.
+/// @pre canReport(session)
+void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when);
+
+/// "beam-a-ULS-SLS.pdf": a name for the file of a report, from the project's file or, where it has none, its title.
+[[nodiscard]] std::string reportFileName(const Session& session, ReportScope scope);
+
+/// Title of the document: project, identification.
+[[nodiscard]] std::string reportTitle(const Session& session);
+
+}  // namespace borvik

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "calculation/session.h"
+#include "results/report_page.h"
+
+namespace borvik {
+
+/// A report being written.
+struct Report {
+    ReportPage& page;
+    const Project& project;
+    const ProjectContext& context;
+    const Results& results;
+};
+
+// Each chapter begins below PrintY with its heading in bold, leaves PrintY below its last line, and goes on on a new
+// page where the old one is full.
+
+/// "General:": steel and partial factors.
+void PrintGeneral(Report& report);
+/// "Crane & Loadcombinations:": crane classes, load combinations, wheels.
+void PrintCraneAndLoad(Report& report);
+/// "Profile:": every distinct section with its sketch, properties, classes and resistances; what counts as dead load.
+void PrintSection(Report& report);
+/// "Lateral Torsional Buckling:": factors of the critical moment, curves, point of load.
+void PrintLtb(Report& report);
+/// "Fatigue Details:" of an overhead crane: categories and welds of the details in use.
+void PrintFatigueOverhead(Report& report);
+/// The same of a monorail.
+void PrintFatigueMonorail(Report& report);
+
+/// "Results: ": the rows of the ultimate and serviceability limit states, the governing ones first, then span by span.
+void PrintResults(Report& report);
+/// The same, and "FLS - Fatigue Control" with the governing row of each detail.
+void PrintResultsCompressed(Report& report);
+/// "FLS - Fatigue Control": all rows of the details. With two cranes a row sums up the damage of both.
+void PrintFlsCrane1(Report& report);
+/// With two cranes: the stress ranges of crane 2 that the rows take in; nothing where crane 2 was not walked by itself.
+void PrintFlsCrane2(Report& report);
+
+}  // namespace borvik

@@ -1,0 +1,199 @@
+#include "results/report_page.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+
+namespace borvik {
+namespace {
+
+constexpr const char* kFontName = "Arial";
+constexpr const char* kAverageLetters = "SmGasdfghjklpoiuytre";  // 20 of them
+constexpr double kHeadTop = 2.0;                                 // line of the head's first text
+constexpr double kGap = 1.0;                                     // least distance of two texts on a line, characters
+
+/// Bytes of the UTF-8 character that begins with this byte.
+std::size_t lengthOfCharacter(char first) {
+    const auto byte = static_cast<unsigned char>(first);
+    return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+}
+
+}  // namespace
+
+ReportPage::ReportPage(Printer& printer, PageHeadTexts head) : printer_(printer), head_(std::move(head)) {
+    DrawingSurface& paper = surface();
+    paper.scale(0.0, 0.0, 1.0, 1.0);
+    setStyle({});
+    LinesPerPage = roundHalfEven(1.0 / paper.extent("h").height);
+    CharsPerLine = roundHalfEven(1.0 / paper.textWidth(kAverageLetters) * 20.0);
+    gridScale();
+    ColLeft = roundHalfEven(CharsPerLine * 0.1);
+    ColRight = roundHalfEven(CharsPerLine * 0.95);
+    TabColumn* const columns[] = {&Col1, &Col2, &Col3, &Col4};
+    for (int i = 0; i < 4; ++i) {
+        const double stop1 = roundHalfEven(ColLeft + i * width() / 4.0);
+        *columns[i] = {stop1, stop1 + 6.0, stop1 + 9.0};
+    }
+}
+
+void ReportPage::gridScale() const {
+    surface().scale(0.0, 0.0, CharsPerLine, LinesPerPage);
+}
+
+Extent ReportPage::cell() const {
+    const Extent area = printer_.printableArea();
+    return {area.width / CharsPerLine, area.height / LinesPerPage};
+}
+
+void ReportPage::setStyle(TextStyle style) const {
+    surface().setFont({kFontName, ReportFontSize, style.bold});
+    surface().setColour(style.colour);
+}
+
+void ReportPage::PageHead(int first) {
+    constexpr double kNamePoints = 13.0;
+    number_ = first == 1 ? 1 : number_ + 1;
+    DrawingSurface& paper = surface();
+    gridScale();
+    paper.setFont({kFontName, kNamePoints, true});
+    paper.setColour(colours::blue);
+    paper.text({ColLeft, PrintY - 0.3}, "Borvik ");
+    putRight(ColRight, "Page: " + std::to_string(number_));
+    advance(2.0);
+    paper.setFont({kFontName, ReportFontSize + 1.0});
+    paper.setColour(colours::black);
+    paper.text({ColLeft, PrintY}, "Crane supporting Structures according to Eurocode 1993-6");
+    putRight(ColRight, "Date: " + head_.date);
+    advance(1.0);
+    headLine(head_.version, "Time: " + head_.time);
+    advance(1.2);
+    ruleAcross();
+    advance(0.5);
+    headLine("Project: " + head_.project, "File: " + head_.file);
+    advance(1.0);
+    headLine("Identification: " + head_.identification, "");
+    advance(1.2);
+    ruleAcross();
+}
+
+/// A text on the left and one on the right; the right one on a line of its own where both have no room on one.
+void ReportPage::headLine(std::string_view left, std::string_view right) {
+    setStyle({});
+    const double leftWidth = surface().textWidth(left);
+    const double rightWidth = surface().textWidth(right);
+    if (leftWidth + 2.0 + rightWidth <= width()) {
+        putRight(ColRight, right);
+        putBlock(ColLeft, width(), left);
+        return;
+    }
+    advance(putBlock(ColLeft, width(), left) - 1.0);
+    if (right.empty()) return;
+    advance(1.0);
+    advance(putBlock(ColLeft, width(), right) - 1.0);
+}
+
+void ReportPage::newPage() {
+    printer_.newPage();
+    PrintY = kHeadTop;
+    PageHead(2);
+    advance(0.5);
+    if (afterBreak) afterBreak();
+}
+
+bool ReportPage::need(double lines) {
+    if (lines <= room()) return false;
+    newPage();
+    return true;
+}
+
+void ReportPage::advance(double lines) {
+    PrintY += lines;
+    lineEnd_ = 0.0;
+}
+
+void ReportPage::nextLine() {
+    advance(1.0);
+    need(1.0);
+}
+
+void ReportPage::put(double column, std::string_view text, TextStyle style) {
+    if (text.empty()) return;
+    setStyle(style);
+    const double textWidth = surface().textWidth(text);
+    double at = lineEnd_ > 0.0 ? std::max(column, lineEnd_ + kGap) : column;
+    if (at + textWidth > ColRight && at > column) {
+        nextLine();
+        at = column;
+    }
+    if (at + textWidth > ColRight) at = std::max(ColLeft, std::min(at, ColRight - textWidth));
+    const std::vector<std::string> lines = wrapped(text, ColRight - at, style);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i > 0) nextLine();
+        setStyle(style);
+        surface().text({at, PrintY}, lines[i]);
+        lineEnd_ = at + surface().textWidth(lines[i]);
+    }
+}
+
+void ReportPage::putRight(double column, std::string_view text, TextStyle style) {
+    setStyle(style);
+    surface().text({column - surface().textWidth(text), PrintY}, text);
+}
+
+int ReportPage::putBlock(double column, double blockWidth, std::string_view text, TextStyle style) {
+    const std::vector<std::string> lines = wrapped(text, blockWidth, style);
+    setStyle(style);
+    double y = PrintY;
+    for (const std::string& line : lines) {
+        surface().text({column, y}, line);
+        y += 1.0;
+    }
+    return static_cast<int>(lines.size());
+}
+
+std::vector<std::string> ReportPage::wrapped(std::string_view text, double blockWidth, TextStyle style) const {
+    setStyle(style);
+    const DrawingSurface& paper = surface();
+    std::vector<std::string> lines;
+    while (paper.textWidth(text) > blockWidth) {
+        // As many characters as fit, at least one; back to the last blank where that leaves something on the line.
+        std::size_t fitting = lengthOfCharacter(text[0]);
+        for (std::size_t next = fitting; next < text.size(); next += lengthOfCharacter(text[next])) {
+            if (paper.textWidth(text.substr(0, next)) > blockWidth) break;
+            fitting = next;
+        }
+        const std::size_t blank = text.substr(0, fitting + 1).rfind(' ');
+        const std::size_t end =
+            blank != std::string_view::npos && text.find_first_not_of(' ') < blank ? blank : fitting;
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+        while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+        if (text.empty()) return lines;
+    }
+    lines.emplace_back(text);
+    return lines;
+}
+
+void ReportPage::ruleAcross(Colour colour) {
+    constexpr double kRuleMm = 0.2;
+    surface().setPenWidth(kRuleMm * surface().unitsPerMillimetre());
+    surface().setColour(colour);
+    surface().line({ColLeft, PrintY}, {ColRight, PrintY});
+}
+
+void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step) {
+    // Width of the frame around a diagram: 5 units to the left of its 1000 and 10 to the right.
+    constexpr double kFrameLeft = -5.0;
+    constexpr double kFrameRight = 1010.0;
+    const DiagramArea area = diagramArea(diagram, DiagramMode::Paper);
+    const double linesPerUnit = LinesPerPage / pageUnits;
+    if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));
+    const double unitsPerColumn = (kFrameRight - kFrameLeft) / width();
+    surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
+                    kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);
+    DrawDiagram(surface(), diagram, data, 0.0, PrintY / linesPerUnit, DiagramMode::Paper);
+    gridScale();
+    advance(LinesPerPage * step);
+}
+
+}  // namespace borvik

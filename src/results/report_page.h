@@ -1,0 +1,99 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/printer.h"
+#include "results/diagrams.h"
+
+namespace borvik {
+
+/// What the head of every page tells.
+struct PageHeadTexts {
+    std::string version;         ///< of the program
+    std::string date, time;      ///< of the print
+    std::string project;         ///< title of the project
+    std::string file;            ///< where it is kept
+    std::string identification;  ///< of the girder
+};
+
+/// How a text stands on the page.
+struct TextStyle {
+    bool bold = false;
+    Colour colour = colours::black;
+};
+
+/// Three stops of a tab column, columns of the character grid: a label, a sign behind it, a value.
+struct TabColumn {
+    double stop1 = 0.0, stop2 = 0.0, stop3 = 0.0;
+};
+
+/// The page being written, on a grid of character cells and lines that is measured from the printer, so that the report
+/// adapts to any paper and font. Texts are measured before they are placed: one that would cover its neighbour moves
+/// on, one that would leave the page goes on below, and where the paper ends a new page with its head begins.
+class ReportPage {
+public:
+    /// Measures the page; nothing is drawn.
+    ReportPage(Printer& printer, PageHeadTexts head);
+
+    double LinesPerPage = 0.0;                ///< printable height in lines
+    double CharsPerLine = 0.0;                ///< printable width in characters
+    double ColLeft = 0.0, ColRight = 0.0;     ///< edges of the text, columns
+    TabColumn Col1, Col2, Col3, Col4;         ///< four equal parts of the text's width
+    double PrintY = 2.0;                      ///< current line; a fraction is a part of a line
+    static constexpr int ReportFontSize = 8;  ///< points
+
+    [[nodiscard]] double width() const { return ColRight - ColLeft; }
+
+    /// The head. @param first  1 on page 1, 2 on the following pages
+    void PageHead(int first);
+    /// A new page with its head, and PrintY below it.
+    void newPage();
+    /// A new page when fewer than that many lines are left. @return true when there is one
+    bool need(double lines);
+    /// Lines left on the page.
+    [[nodiscard]] double room() const { return LinesPerPage - 1.0 - PrintY; }
+
+    /// Writes on the current line from a column on; behind what stands there already, and below where the line is full.
+    void put(double column, std::string_view text, TextStyle style = {});
+    /// Goes down. A text begins a new page where its line no longer fits.
+    void advance(double lines);
+    /// The next line, on a new page where this one is full.
+    void nextLine();
+    /// A line across from ColLeft to ColRight.
+    void ruleAcross(Colour colour = colours::black);
+
+    /// Writes wrapped text in a column, without moving PrintY. @return lines that it took
+    int putBlock(double column, double blockWidth, std::string_view text, TextStyle style = {});
+    /// Writes a text that ends at a column.
+    void putRight(double column, std::string_view text, TextStyle style = {});
+    /// A text broken into lines no wider than `blockWidth`, at blanks where there are some.
+    [[nodiscard]] std::vector<std::string> wrapped(std::string_view text, double blockWidth,
+                                                   TextStyle style = {}) const;
+
+    /// A diagram as wide as the text, with its origin at PrintY, in a page scale of that many units from top to bottom;
+    /// on a new page where it doesn't fit.
+    /// @param step  part of the page that PrintY goes down
+    void diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step);
+
+    /// Called after every page break, so that a table can repeat its head.
+    std::function<void()> afterBreak;
+
+    [[nodiscard]] DrawingSurface& surface() const { return printer_.page(); }
+    /// Millimetres of a character cell and of a line.
+    [[nodiscard]] Extent cell() const;
+
+private:
+    void gridScale() const;
+    void setStyle(TextStyle style) const;
+    void headLine(std::string_view left, std::string_view right);
+
+    Printer& printer_;
+    PageHeadTexts head_;
+    int number_ = 0;        ///< of the page
+    double lineEnd_ = 0.0;  ///< right end of what stands on the current line
+};
+
+}  // namespace borvik

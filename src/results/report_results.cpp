@@ -1,0 +1,284 @@
+#include <algorithm>
+#include <string>
+
+#include "base/number_text.h"
+#include "results/fatigue_details.h"
+#include "results/report_chapters.h"
+
+namespace borvik {
+namespace {
+
+constexpr TextStyle kBold{true};
+constexpr TextStyle kPlain{};
+constexpr TextStyle kFailed{true, colours::red};
+constexpr TextStyle kQuiet{false, colours::grey};
+
+/// A row of a check as it is printed.
+struct CheckRow {
+    std::string place;  ///< span, support or splice; span and point
+    std::string formula, numbers, ratio, reference;
+    std::string cranes;  ///< where they stood
+    bool overLimit = false;
+};
+
+template <int Rows>
+CheckRow checkRow(std::string place, const RowSet<Rows>& set) {
+    return {std::move(place), set(1), set(2), set(3), set(4), "", set.Ratio > 1.0};
+}
+
+/// Rows 5 to 8: span and distance of wheel 1, with two cranes those of wheel 5.
+CheckRow withCranes(CheckRow row, const RowSet<8>& set, bool two) {
+    if (set(5).empty()) return row;
+    row.cranes = (two ? "Crane 1: " : "Crane: ") + set(5) + "/" + set(6);
+    if (two) row.cranes += "  Crane 2: " + set(7) + "/" + set(8);
+    return row;
+}
+
+/// The columns of all check rows, and their head, which stands again on every new page.
+class CheckList {
+public:
+    explicit CheckList(ReportPage& page) : page_(page) {
+        const double w = page.width();
+        place_ = page.ColLeft;
+        equation_ = place_ + 0.10 * w;
+        ratio_ = place_ + 0.60 * w;
+        reference_ = place_ + 0.645 * w;
+        page_.afterBreak = [this] { head(); };
+    }
+    CheckList(const CheckList&) = delete;
+    CheckList& operator=(const CheckList&) = delete;
+    ~CheckList() { page_.afterBreak = nullptr; }
+
+    /// A heading in bold, the head of the columns below it.
+    void chapter(const char* heading) {
+        if (page_.room() < 8.0) breakWithoutHead();
+        page_.advance(0.5);
+        page_.put(place_, heading, kBold);
+        page_.advance(1.2);
+        head();
+    }
+
+    /// A line over a group of rows: a span, a detail.
+    void group(const std::string& title) {
+        page_.need(4.5);
+        page_.put(place_, title, kBold);
+        page_.advance(1.1);
+    }
+
+    /// Formula over numbers, with ratio, limit and reference beside them; kept together on one page.
+    void row(const CheckRow& row) {
+        const double equationWidth = ratio_ - 5.0 - equation_;
+        const double referenceWidth = page_.ColRight - reference_;
+        const auto count = [this](const std::string& text, double width) {
+            return text.empty() ? 0.0 : static_cast<double>(page_.wrapped(text, width).size());
+        };
+        const double formulaLines = count(row.formula, equationWidth);
+        const double referenceLines = count(row.reference, referenceWidth);
+        const double lines = std::max(formulaLines + count(row.numbers, equationWidth),
+                                      referenceLines + count(row.cranes, referenceWidth));
+        page_.need(lines + kRowGap);
+        const double top = page_.PrintY;
+        page_.putBlock(place_, equation_ - place_ - 1.0, row.place);
+        page_.putBlock(equation_, equationWidth, row.formula);
+        page_.putRight(ratio_, row.ratio, row.overLimit ? kFailed : kPlain);
+        // A mark beside the colour, for paper without any.
+        if (row.overLimit) page_.putBlock(ratio_ + 0.6, 3.0, "!!", kFailed);
+        page_.putBlock(reference_, referenceWidth, trimmed(row.reference));
+        page_.PrintY = top + formulaLines;
+        if (!row.numbers.empty()) page_.putBlock(equation_, equationWidth, row.numbers);
+        page_.PrintY = top + referenceLines;
+        if (!row.cranes.empty()) page_.putBlock(reference_, referenceWidth, row.cranes, kQuiet);
+        page_.PrintY = top;
+        page_.advance(lines + kRowGap);
+    }
+
+    /// A remark below the rows.
+    void note(const std::string& text) {
+        page_.need(1.5);
+        page_.put(place_, text, kQuiet);
+        page_.advance(1.2);
+    }
+
+private:
+    static constexpr double kRowGap = 0.3;
+
+    static std::string trimmed(const std::string& text) {
+        const auto first = text.find_first_not_of(' ');
+        return first == std::string::npos ? "" : text.substr(first);
+    }
+
+    void head() {
+        page_.put(place_, "Bar/Point", kQuiet);
+        page_.putBlock(equation_, ratio_ - equation_, "Interaction Ratio / Equation", kQuiet);
+        page_.putRight(ratio_ + 1.0, "Ratio ", kQuiet);
+        page_.putBlock(reference_, page_.ColRight - reference_, "Reference ", kQuiet);
+        page_.advance(1.1);
+        page_.ruleAcross(colours::grey);
+        page_.advance(0.3);
+    }
+
+    void breakWithoutHead() {
+        page_.afterBreak = nullptr;
+        page_.newPage();
+        page_.afterBreak = [this] { head(); };
+    }
+
+    ReportPage& page_;
+    double place_, equation_, ratio_, reference_;
+};
+
+std::string pointOf(int span, const Table<Single>& records) {
+    constexpr int kPlaceSlot = 9;  // x of the governing point in the span records
+    return std::to_string(span) + "/" + formatNumber(records(span, kPlaceSlot), "0");
+}
+
+void ultimateRows(CheckList& list, const Project& project, const Results& results) {
+    const CheckResults& checks = results.Checks;
+    const UlsResults& uls = results.Uls;
+    const bool two = project.NofCranes == 2;
+    const bool monorail = project.CraneType == 2;
+    list.group("Governing");
+    for (const RowSet<8>* set : {&checks.ShearGov, &checks.BendGov, &checks.LtbGov})
+        list.row(withCranes(checkRow("", *set), *set, two));
+    list.row(checkRow("", checks.LocalGov));
+    if (monorail) list.row(checkRow("", checks.VonMisesGov));
+
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        list.group("Span: " + std::to_string(span));
+        struct Sectional {
+            const Array<RowSet<8>>& rows;
+            std::string place;
+        };
+        for (const Sectional& check :
+             {Sectional{checks.ShearMax, pointOf(span, uls.VzMaxSpan)},
+              Sectional{checks.ShearMin, pointOf(span, uls.VzMinSpan)},
+              Sectional{checks.BendMax, pointOf(span, uls.MyMaxSpan)},
+              Sectional{checks.BendMin, pointOf(span, uls.MyMinSpan)}, Sectional{checks.LtbPos, std::to_string(span)},
+              Sectional{checks.LtbNeg, std::to_string(span)}})
+            list.row(withCranes(checkRow(check.place, check.rows(span)), check.rows(span), two));
+        for (const Array<RowSet<4>>* local : {&checks.LocalSpan, &checks.VonMisesSpan})
+            if (local->has(span)) list.row(checkRow(std::to_string(span), (*local)(span)));
+    }
+    list.note("Crane Position: Span/Distance from left wheel to left support");
+}
+
+CheckRow deflectionRow(std::string place, const RowSet<5>& set) {
+    CheckRow row = checkRow(std::move(place), set);
+    if (!set(5).empty()) row.cranes = "Crane: " + set(5);
+    return row;
+}
+
+void deflectionRows(CheckList& list, const Project& project, const CheckResults& checks) {
+    list.group("Governing");
+    list.row(deflectionRow("", checks.DefZGov));
+    if (project.HasLoadsY) list.row(deflectionRow("", checks.DefYGov));
+    list.group("Span: ");
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        list.row(deflectionRow(std::to_string(span), checks.DefZSpan(span)));
+        if (project.HasLoadsY) list.row(deflectionRow(std::to_string(span), checks.DefYSpan(span)));
+    }
+}
+
+const char* placeName(FatigueDetailTitle::Place place) {
+    switch (place) {
+        case FatigueDetailTitle::Place::Span:
+            return "Span: ";
+        case FatigueDetailTitle::Place::Support:
+            return "Support: ";
+        case FatigueDetailTitle::Place::Splice:
+            return "Splice: ";
+    }
+    return "";
+}
+
+void governingFatigueRows(CheckList& list, const Project& project, const FatigueResults& fatigue) {
+    for (const FatigueDetailTitle& detail : fatigueDetails(project)) {
+        const auto& governing = fatigue.FatResult(detail.number);
+        if (!(project.*detail.flag) || !governing) continue;
+        list.group(detail.name);
+        list.row(checkRow("", *governing));
+    }
+}
+
+/// The rows of a detail; those of detail 4 of an overhead crane live in the list of detail 6, which replaces them when
+/// it is checked too. Only the governing one is left then.
+const Array<RowSet<4>>* rowsOf(const FatigueDetailTitle& detail, const Project& project,
+                               const FatigueResults& fatigue) {
+    const bool lodger = detail.flag == &Project::Fat4;
+    if (lodger && project.Fat6) return nullptr;
+    const auto& rows = fatigue.FatRows(lodger ? 6 : detail.number);
+    return rows ? &*rows : nullptr;
+}
+
+void allFatigueRows(CheckList& list, const Project& project, const FatigueResults& fatigue) {
+    for (const FatigueDetailTitle& detail : fatigueDetails(project)) {
+        const auto& governing = fatigue.FatResult(detail.number);
+        if (!(project.*detail.flag) || !governing) continue;
+        list.group(detail.name);
+        const Array<RowSet<4>>* rows = rowsOf(detail, project, fatigue);
+        if (rows == nullptr) {
+            list.row(checkRow("", *governing));
+            continue;
+        }
+        for (int i = rows->first(); i <= rows->last(); ++i)
+            if (!(*rows)(i)(3).empty()) list.row(checkRow(placeName(detail.place) + std::to_string(i), (*rows)(i)));
+    }
+}
+
+void resultsHeading(ReportPage& page) {
+    page.need(10.0);
+    page.advance(0.5);
+    page.put(page.Col1.stop1, "Results: ", kBold);
+    page.advance(1.0);
+}
+
+bool anyFatigue(const Report& report) {
+    return std::any_of(fatigueDetails(report.project).begin(), fatigueDetails(report.project).end(),
+                       [&](const FatigueDetailTitle& detail) {
+                           return report.project.*detail.flag && report.results.Fatigue.FatResult(detail.number);
+                       });
+}
+
+}  // namespace
+
+void PrintResults(Report& report) {
+    resultsHeading(report.page);
+    CheckList list(report.page);
+    list.chapter("ULS");
+    ultimateRows(list, report.project, report.results);
+    list.chapter("SLS - Deflection Control");
+    deflectionRows(list, report.project, report.results.Checks);
+}
+
+void PrintResultsCompressed(Report& report) {
+    PrintResults(report);
+    if (!anyFatigue(report)) return;
+    CheckList list(report.page);
+    list.chapter("FLS - Fatigue Control");
+    governingFatigueRows(list, report.project, report.results.Fatigue);
+}
+
+void PrintFlsCrane1(Report& report) {
+    if (!anyFatigue(report)) return;
+    CheckList list(report.page);
+    list.chapter("FLS - Fatigue Control");
+    allFatigueRows(list, report.project, report.results.Fatigue);
+    if (report.project.NofCranes == 2) list.note("Each row sums up the damage of crane 1 and crane 2.");
+}
+
+void PrintFlsCrane2(Report& report) {
+    constexpr double kPageUnits = 2000.0;
+    constexpr double kStep = 0.052;
+    if (report.project.NofCranes != 2 || !report.results.Fatigue.Cr2) return;
+    ReportPage& page = report.page;
+    page.need(page.LinesPerPage * kStep + 4.0);
+    page.advance(0.5);
+    page.put(page.Col1.stop1, "FLS - Fatigue Control", kBold);
+    page.put(page.Col2.stop1, "Stress ranges of crane 2");
+    page.advance(2.0);
+    const DiagramData data{report.project, &report.results};
+    for (const Diagram diagram : {Diagram::Cr2TopRange, Diagram::Cr2BottomRange, Diagram::Cr2ShearRange})
+        page.diagram(diagram, data, kPageUnits, kStep);
+}
+
+}  // namespace borvik
