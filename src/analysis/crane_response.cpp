@@ -9,24 +9,17 @@ namespace borvik {
 // ------------------------------------------------------------------------------------------------------------
 
 Plane Plane::vertical(const LoadedBeam& loaded) {
-    return {loaded.beam, loaded.beam.z,   loaded.beam.Iy, loaded.pointsZ, loaded.placer.loads().WheelV,
-            &Wheel::P,   loaded.deadTerms};
+    return {loaded.beam, loaded.beam.z, loaded.beam.Iy, loaded.pointsZ, loaded.placer.loads().WheelV, loaded.deadTerms};
 }
 
 Plane Plane::horizontal(const LoadedBeam& loaded) {
-    return {loaded.beam, loaded.beam.y, loaded.beam.Iz, loaded.pointsY, loaded.placer.loads().WheelH, &Wheel::Q, {}};
+    return {loaded.beam, loaded.beam.y, loaded.beam.Iz, loaded.pointsY, loaded.placer.loads().WheelH, {}};
 }
 
 Plane::Plane(const Beam& itsBeam, const ThreeMomentMatrix& itsMatrix, const PerSpan& itsI,
-             const std::vector<SpanPoints>& itsPoints, const FixedArray<Single, 1, 8>& itsLoads, double Wheel::*itsLoad,
+             const std::vector<SpanPoints>& itsPoints, const FixedArray<Single, 1, 8>& itsLoads,
              const PerSpan& itsDeadTerms)
-    : beam(itsBeam),
-      matrix(itsMatrix),
-      I(itsI),
-      points(itsPoints),
-      wheelLoads(itsLoads),
-      load(itsLoad),
-      deadTerms(itsDeadTerms) {
+    : beam(itsBeam), matrix(itsMatrix), I(itsI), points(itsPoints), wheelLoads(itsLoads), deadTerms(itsDeadTerms) {
     const int last = beam.n - 1;
     deadEliminated = deadTerms;
     solve(deadEliminated, deadMoments);
@@ -48,6 +41,23 @@ void Plane::solve(PerSpan& b, PerSpan& X) const {
     X[0] = 0;
 }
 
+// --- Positions of a crane
+// -----------------------------------------------------------------------------------------------
+
+CranePositions::CranePositions(const Beam& beam, int firstWheel, int lastWheel)
+    : beam_(beam), firstWheel_(firstWheel), wheels_(lastWheel - firstWheel + 1) {}
+
+void CranePositions::addVariant(const Wheels& placed) {
+    for (int w = firstWheel_; w < firstWheel_ + wheels_; ++w) {
+        const Wheel& wheel = placed[static_cast<std::size_t>(w)];
+        const int n = beam_.n;
+        const int span = wheel.x < beam_.Cum[0]                             ? 0
+                         : wheel.x > beam_.Cum[static_cast<std::size_t>(n)] ? n + 1
+                                                                            : wheel.span;
+        stands_.push_back({static_cast<float>(wheel.a), static_cast<float>(wheel.b), span});
+    }
+}
+
 // --- Response of a crane
 // ------------------------------------------------------------------------------------------------
 
@@ -59,47 +69,47 @@ CraneResponse::CraneResponse(const Plane& plane, int last)
       leaves_(arrives_.size()) {}
 
 CraneResponse::CraneResponse(const Plane& plane, const CranePositions& positions)
-    : CraneResponse(plane, positions.last) {
-    for (int w = positions.firstWheel; w <= positions.lastWheel; ++w) {
-        const double load = plane.wheelLoads(w);
-        magnitudes_.load += std::abs(load) * 1000;
-        magnitudes_.wheels += load != 0;
+    : CraneResponse(plane, positions.last()) {
+    for (int w = 0; w < positions.wheels(); ++w) {
+        load_[w] = plane.wheelLoads(positions.firstWheel() + w) * 1000.0;
+        magnitudes_.load += std::abs(load_[w]);
+        magnitudes_.wheels += load_[w] != 0;
     }
     if (!present()) return;
     positions_ = &positions;
     perSupport_ = largest_.size();
     largest_.resize(perSupport_ * arrives_.size());
-    for (int p = 0; p <= positions.last && smallest_.empty(); ++p)
+    const int last = positions.last();
+    for (int p = 0; p <= last && smallest_.empty(); ++p)
         if (positions.variants(p) > 1) smallest_.resize(largest_.size());
-    std::fill(arrives_.begin(), arrives_.end(), positions.last + 1);
-    std::fill(leaves_.begin(), leaves_.end(), positions.last + 1);
-    for (int p = 0; p <= positions.last; ++p) {
+    std::fill(arrives_.begin(), arrives_.end(), last + 1);
+    std::fill(leaves_.begin(), leaves_.end(), last + 1);
+    for (int p = 0; p <= last; ++p) {
         respond(p);
         if (acts(p)) idleFrom_ = p + 1;
     }
 }
 
-CraneResponse::Load CraneResponse::loadOf(const Wheels& wheels) const {
+CraneResponse::Load CraneResponse::loadOf(const CranePositions::Stand* stands) const {
     const Beam& beam = plane_.beam;
     const int n = beam.n;
     Load load;
     load.first = n + 1;
     load.last = 0;
-    for (int w = positions_->firstWheel; w <= positions_->lastWheel; ++w) {
-        if (plane_.wheelLoads(w) == 0) continue;
-        const Wheel& wheel = wheels[w];
-        const int i = wheel.x < beam.Cum[0] ? 0 : wheel.x > beam.Cum[n] ? n + 1 : wheel.span;
+    for (int w = 0; w < positions_->wheels(); ++w) {
+        if (load_[w] == 0) continue;
+        const int i = stands[w].span;
         load.first = std::min(load.first, i);
         load.last = std::max(load.last, i);
         if (i < 1 || i > n) continue;
         load.acts = true;
         const auto add = [&](int r, double distance) {
-            const double F = rotationTerm(wheel.*plane_.load, distance, beam.L[i], plane_.I[i]);
+            const double F = rotationTerm(load_[w], distance, beam.L[i], plane_.I[i]);
             load.b[r] -= F;
             load.rotation[r] += std::abs(F);
         };
-        if (i > 1) add(i - 1, wheel.b);
-        if (i < n) add(i, wheel.a);
+        if (i > 1) add(i - 1, double{stands[w].b});
+        if (i < n) add(i, double{stands[w].a});
     }
     return load;
 }
@@ -107,13 +117,11 @@ CraneResponse::Load CraneResponse::loadOf(const Wheels& wheels) const {
 void CraneResponse::respond(int p) {
     const int n = plane_.beam.n;
     const auto at = static_cast<std::size_t>(p);
-    Wheels wheels;
     PerSpan X{};
     int first = n + 1;
     int last = 0;
     for (int variant = 0; variant < positions_->variants(p); ++variant) {
-        positions_->place(p, variant, wheels);
-        Load load = loadOf(wheels);
+        Load load = loadOf(positions_->at(p, variant));
         first = std::min(first, load.first);
         last = std::max(last, load.last);
         if (load.acts) acts_[at] = 1;
@@ -135,14 +143,22 @@ void CraneResponse::respond(int p) {
     }
 }
 
-void CraneResponse::at(int p, int variant, int first, int last, CraneAt& at) const {
-    if (present()) positions_->place(p, variant, at.wheels);
+void CraneResponse::moments(int p, int variant, int first, int last, PerSpan& X) const {
     if (variants(p) > 1) {
-        Load load = loadOf(at.wheels);
-        plane_.solve(load.b, at.X);
+        Load load = loadOf(positions_->at(p, variant));
+        plane_.solve(load.b, X);
         return;
     }
-    for (int r = first; r <= last; ++r) at.X[static_cast<std::size_t>(r)] = double{largestMoments(r)[p]};
+    for (int r = first; r <= last; ++r) X[static_cast<std::size_t>(r)] = double{largestMoments(r)[p]};
+}
+
+SpanWheels CraneResponse::wheelsIn(int i, int p, int variant) const {
+    SpanWheels found;
+    if (!present()) return found;
+    const CranePositions::Stand* stands = positions_->at(p, variant);
+    for (int w = 0; w < positions_->wheels(); ++w)
+        if (stands[w].span == i && load_[w] != 0) found.item[found.count++] = {double{stands[w].a}, load_[w]};
+    return found;
 }
 
 }  // namespace borvik

@@ -18,12 +18,11 @@ struct Plane {
     const PerSpan& I;
     const std::vector<SpanPoints>& points;
     const FixedArray<Single, 1, 8>& wheelLoads;  ///< kN; a wheel without load plays no part in this plane
-    double Wheel::*load;
-    PerSpan deadTerms;         ///< [1..n-1] stored load terms of the dead load
-    PerSpan deadEliminated{};  ///< [1..n-1] the same, eliminated
-    PerSpan deadMoments{};     ///< [0..n] support moments of the dead load
-    PerSpan fromRight{};       ///< X(r) = -fromRight(r) X(r + 1) while all load stands right of support r + 1
-    PerSpan fromLeft{};        ///< X(r) = -fromLeft(r) X(r - 1) while all load stands left of support r - 1
+    PerSpan deadTerms;                           ///< [1..n-1] stored load terms of the dead load
+    PerSpan deadEliminated{};                    ///< [1..n-1] the same, eliminated
+    PerSpan deadMoments{};                       ///< [0..n] support moments of the dead load
+    PerSpan fromRight{};  ///< X(r) = -fromRight(r) X(r + 1) while all load stands right of support r + 1
+    PerSpan fromLeft{};   ///< X(r) = -fromLeft(r) X(r - 1) while all load stands left of support r - 1
 
     [[nodiscard]] static Plane vertical(const LoadedBeam& loaded);
     [[nodiscard]] static Plane horizontal(const LoadedBeam& loaded);
@@ -33,7 +32,7 @@ struct Plane {
 
 private:
     Plane(const Beam& itsBeam, const ThreeMomentMatrix& itsMatrix, const PerSpan& itsI,
-          const std::vector<SpanPoints>& itsPoints, const FixedArray<Single, 1, 8>& itsLoads, double Wheel::*itsLoad,
+          const std::vector<SpanPoints>& itsPoints, const FixedArray<Single, 1, 8>& itsLoads,
           const PerSpan& itsDeadTerms);
 };
 
@@ -46,23 +45,39 @@ struct Magnitudes {
     int wheels = 0;        ///< wheels with load
 };
 
-/// The wheels that move as one, and where they can stand: at each position p = 0..last in one or a few variants, which
-/// differ by a rounding of some hundredths of a millimetre.
+/// Where wheels that move as one stand at each of their positions p = 0..last, in one or a few variants, which differ
+/// by a rounding of some hundredths of a millimetre. Made once for both planes.
 class CranePositions {
 public:
-    virtual ~CranePositions() = default;
-    [[nodiscard]] virtual int variants(int p) const = 0;
-    /// @param variant  from 0
-    virtual void place(int p, int variant, Wheels& wheels) const = 0;
+    /// One wheel: its span (0 left of the beam, n + 1 right of it) and its distances from the supports, mm.
+    struct Stand {
+        float a, b;
+        int span;
+    };
 
-    int last = 0;
-    int firstWheel = 1, lastWheel = 0;  ///< of 1..8; in ascending order, moving to the right with p
-};
+    /// @param firstWheel, lastWheel  of 1..8; in ascending order, moving to the right with p
+    CranePositions(const Beam& beam, int firstWheel, int lastWheel);
+    /// Adds a position, or a variant of the last one.
+    void addPosition() { first_.push_back(static_cast<int>(stands_.size()) / wheels()); }
+    void addVariant(const Wheels& placed);
 
-/// One variant of one position: support moments, and the wheels (without load where there are none).
-struct CraneAt {
-    PerSpan X{};
-    Wheels wheels{};
+    [[nodiscard]] int last() const { return static_cast<int>(first_.size()) - 1; }
+    [[nodiscard]] int firstWheel() const { return firstWheel_; }
+    [[nodiscard]] int wheels() const { return wheels_; }
+    [[nodiscard]] int variants(int p) const {
+        return (p < last() ? first_[static_cast<std::size_t>(p) + 1] : static_cast<int>(stands_.size()) / wheels()) -
+               first_[static_cast<std::size_t>(p)];
+    }
+    /// The wheels in ascending order. @param variant  from 0
+    [[nodiscard]] const Stand* at(int p, int variant) const {
+        return stands_.data() + static_cast<std::ptrdiff_t>(first_[static_cast<std::size_t>(p)] + variant) * wheels();
+    }
+
+private:
+    const Beam& beam_;
+    int firstWheel_, wheels_;
+    std::vector<int> first_;  ///< [position] its first variant
+    std::vector<Stand> stands_;
 };
 
 /// What wheels that move as one do in one plane, at every one of their positions.
@@ -89,18 +104,20 @@ public:
     /// First position at which all loaded wheels have left span i: from it on, the crane loads only what is right of
     /// the span.
     [[nodiscard]] int leaves(int i) const { return leaves_[static_cast<std::size_t>(i)]; }
-    /// Moments over the supports first..last, and the wheels, in one variant of position p.
-    void at(int p, int variant, int first, int last, CraneAt& at) const;
+    /// Moments over the supports first..last in one variant of position p. @param X  [first..last] are set
+    void moments(int p, int variant, int first, int last, PerSpan& X) const;
+    /// The wheels in span i in one variant of position p.
+    [[nodiscard]] SpanWheels wheelsIn(int i, int p, int variant) const;
     [[nodiscard]] const Magnitudes& magnitudes() const { return magnitudes_; }
 
 private:
     /// Load terms of the wheels of one variant and the spans of the first and the last of them.
     struct Load {
         PerSpan b{}, rotation{};
-        int first, last;  ///< 0 left of the beam, n + 1 right of it
+        int first, last;
         bool acts = false;
     };
-    [[nodiscard]] Load loadOf(const Wheels& wheels) const;
+    [[nodiscard]] Load loadOf(const CranePositions::Stand* stands) const;
     void respond(int p);
     [[nodiscard]] const float* row(const std::vector<float>& moments, int r) const {
         return moments.data() + static_cast<std::size_t>(r) * perSupport_;
@@ -108,6 +125,7 @@ private:
 
     const Plane& plane_;
     const CranePositions* positions_ = nullptr;
+    double load_[8] = {};         ///< of the wheels from the first one on, N
     std::size_t perSupport_ = 0;  ///< 0 for a crane that isn't there: all supports share one row of zeros
     int idleFrom_ = 0;
     std::vector<float> largest_, smallest_;  ///< [support][position]; the second only where variants differ

@@ -26,104 +26,87 @@ bool applies(const LoadedBeam& loaded) {
     return loaded.placer.minAvst() >= 0;
 }
 
-/// Wheels first..last at the positions of crane 1.
-class FirstCrane : public CranePositions {
-public:
-    FirstCrane(const WheelPlacer& placer, int N1, int lastOfThem) : placer_(placer) {
-        last = N1;
-        firstWheel = 1;
-        lastWheel = lastOfThem;
+/// Crane 1 at j = 0..N1, or the train of both.
+CranePositions firstCrane(const LoadedBeam& loaded, const WalkSteps& steps) {
+    const bool train = !steps.secondCraneMoves;
+    CranePositions positions(loaded.beam, 1, train ? 8 : 4);
+    Wheels wheels;
+    for (int j = 0; j <= steps.N1; ++j) {
+        train ? loaded.placer.PlaceWheels(j, 0, wheels) : loaded.placer.placeCrane1(j, wheels);
+        positions.addPosition();
+        positions.addVariant(wheels);
     }
-    [[nodiscard]] int variants(int) const override { return 1; }
-    void place(int j, int, Wheels& wheels) const override {
-        lastWheel > 4 ? placer_.PlaceWheels(j, 0, wheels) : placer_.placeCrane1(j, wheels);
-    }
+    return positions;
+}
 
-private:
-    const WheelPlacer& placer_;
+/// Position of wheel 4 less 200 j, and the first j that has it. Where the distances are whole millimetres there is one
+/// such offset; finer ones are rounded on the way to wheel 4, differently for small and for large j.
+struct Offset {
+    double x4;
+    int firstJ;
 };
 
-/// Crane 2 at s = j + k. Where the distances are whole millimetres, its position follows from s. Finer ones are rounded
-/// on the way to wheel 4, differently for small and for large j, so that a few positions that differ by a rounding
-/// share an s.
-class SecondCrane : public CranePositions {
-public:
-    SecondCrane(const WheelPlacer& placer, int N1) : placer_(placer) {
-        last = N1;
-        firstWheel = 5;
-        lastWheel = 8;
-        findOffsets();
-        if (!exact_) return;
-        for (int s = 0; s <= N1; ++s) {
-            first_.push_back(x5_.size());
-            for (const Offset& offset : offsets_) {
-                const double x5 = Single(placer_.minAvst() + offset.x4 + 200.0 * s);
-                if (offset.firstJ <= s &&
-                    std::find(x5_.begin() + static_cast<std::ptrdiff_t>(first_.back()), x5_.end(), x5) == x5_.end())
-                    x5_.push_back(x5);
-            }
-        }
-        first_.push_back(x5_.size());
+/// The offsets of all j; none where some sum on the way to wheel 5 isn't exact, so that its position would not follow
+/// from s.
+std::vector<Offset> offsetsOfWheel4(const LoadedBeam& loaded, const WalkSteps& steps) {
+    constexpr std::size_t kMostOffsets = 64;
+    std::vector<Offset> offsets;
+    if (!onGrid(loaded.placer.minAvst())) return {};
+    Wheels wheels;
+    for (int j = 0; j <= steps.N1; ++j) {
+        loaded.placer.placeCrane1(j, wheels);
+        const double x4 = wheels[4].x - 200.0 * j;
+        if (!onGrid(wheels[4].x) || offsets.size() > kMostOffsets) return {};
+        if (std::none_of(offsets.begin(), offsets.end(), [&](const Offset& offset) { return offset.x4 == x4; }))
+            offsets.push_back({x4, j});
     }
+    return offsets;
+}
 
-    /// Whether every sum on the way to wheel 5 is exact, so that its position depends on s and the offset alone.
-    [[nodiscard]] bool exact() const { return exact_; }
-    [[nodiscard]] int variants(int s) const override {
-        return static_cast<int>(first_[static_cast<std::size_t>(s) + 1] - first_[static_cast<std::size_t>(s)]);
-    }
-    void place(int s, int variant, Wheels& wheels) const override {
-        placer_.placeCrane2(x5_[first_[static_cast<std::size_t>(s)] + static_cast<std::size_t>(variant)], wheels);
-    }
-
-private:
-    struct Offset {
-        double x4;   ///< position of wheel 4 less 200 j
-        int firstJ;  ///< first position of crane 1 with this offset
-    };
-
-    void findOffsets() {
-        Wheels wheels;
-        exact_ = onGrid(placer_.minAvst());
-        for (int j = 0; j <= last && exact_; ++j) {
-            placer_.placeCrane1(j, wheels);
-            const double x4 = wheels[4].x - 200.0 * j;
-            const auto same = [&](const Offset& offset) { return offset.x4 == x4; };
-            if (std::none_of(offsets_.begin(), offsets_.end(), same)) offsets_.push_back({x4, j});
-            exact_ = onGrid(wheels[4].x) && offsets_.size() <= kMostOffsets;
+/// Crane 2 at s = j + k = 0..N1, in a variant for each place that the rounding of some j gives it.
+CranePositions secondCrane(const LoadedBeam& loaded, const WalkSteps& steps, const std::vector<Offset>& offsets) {
+    CranePositions positions(loaded.beam, 5, 8);
+    Wheels wheels;
+    std::vector<double> placed;
+    for (int s = 0; s <= steps.N1; ++s) {
+        positions.addPosition();
+        placed.clear();
+        for (const Offset& offset : offsets) {
+            const double x5 = Single(loaded.placer.minAvst() + offset.x4 + 200.0 * s);
+            if (offset.firstJ > s || std::find(placed.begin(), placed.end(), x5) != placed.end()) continue;
+            placed.push_back(x5);
+            loaded.placer.placeCrane2(x5, wheels);
+            positions.addVariant(wheels);
         }
     }
+    return positions;
+}
 
-    static constexpr std::size_t kMostOffsets = 64;
-    const WheelPlacer& placer_;
-    bool exact_ = false;
-    std::vector<Offset> offsets_;
-    std::vector<double> x5_;
-    std::vector<std::size_t> first_;
+/// The cranes of a walk: where they stand, for both planes.
+struct Cranes {
+    CranePositions one;
+    std::optional<CranePositions> two;  ///< where it moves on its own
 };
 
-/// @return false where crane 2's positions can't be told from s
-bool search(const Plane& plane, const WalkSteps& steps, const LoadedBeam& loaded, Quantity quantity,
-            Candidates& candidates) {
-    const FirstCrane one(loaded.placer, steps.N1, steps.secondCraneMoves ? 4 : 8);
-    const CraneResponse crane1(plane, one);
-    if (!steps.secondCraneMoves) {
-        searchPlane(plane, crane1, CraneResponse(plane, steps.N1), steps.N1, quantity, candidates);
-        return true;
-    }
-    const SecondCrane two(loaded.placer, steps.N1);
-    if (!two.exact()) return false;
-    const CraneResponse crane2(plane, two);
-    searchPlane(plane, crane1, crane2, steps.N1, quantity, candidates);
-    return true;
+void search(const Plane& plane, const Cranes& cranes, Quantity quantity, Candidates& candidates) {
+    const int last = cranes.one.last();
+    const CraneResponse crane1(plane, cranes.one);
+    const CraneResponse crane2 = cranes.two ? CraneResponse(plane, *cranes.two) : CraneResponse(plane, last);
+    searchPlane(plane, crane1, crane2, last, quantity, candidates);
 }
 
 /// @return false when there are too many, or when the search left the range of the doubles
 bool findCandidates(const WalkSteps& steps, const LoadedBeam& loaded, Quantity quantity, Candidates& candidates) {
     try {
         const ArithmeticFlags flags;
-        if (!search(Plane::vertical(loaded), steps, loaded, quantity, candidates)) return false;
-        if (loaded.horizontal && !candidates.tooMany())
-            if (!search(Plane::horizontal(loaded), steps, loaded, quantity, candidates)) return false;
+        Cranes cranes{firstCrane(loaded, steps), {}};
+        if (steps.secondCraneMoves) {
+            const std::vector<Offset> offsets = offsetsOfWheel4(loaded, steps);
+            if (offsets.empty()) return false;
+            cranes.two.emplace(secondCrane(loaded, steps, offsets));
+        }
+        search(Plane::vertical(loaded), cranes, quantity, candidates);
+        if (loaded.horizontal && !candidates.tooMany()) search(Plane::horizontal(loaded), cranes, quantity, candidates);
         flags.check();
         return !candidates.tooMany();
     } catch (const RuntimeFault&) {

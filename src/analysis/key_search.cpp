@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <utility>
 
 #include "analysis/lanes.h"
 #include "analysis/profile.h"
@@ -39,21 +41,22 @@ public:
                Candidates& candidates)
         : crane1_(crane1), crane2_(crane2), N_(last), quantity_(quantity), rules_{crane1, crane2, candidates} {}
 
-    /// Finds the pairs that may be the first to reach an extreme of one of the lanes. @param spans  to compare there
-    void find(const Lanes& lanes, SpanMask spans) {
-        lanes_ = &lanes;
-        spans_ = spans;
-        count_ = lanes.count;
-        a2_ = crane2_.present() ? crane2_.arrives(lanes.firstSpan) : crane1_.arrives(lanes.firstSpan);
-        b2_ = crane2_.present() ? crane2_.leaves(lanes.lastSpan) : a2_;
-        b1_ = crane1_.present() ? crane1_.leaves(lanes.lastSpan) : b2_;
+    /// Finds the pairs that may be the first to reach an extreme at the points of a span. Spans come in rising order.
+    void findInSpan(const SpanLanes& lanes) {
+        std::swap(left_, leftBefore_);
+        setRanges(lanes);
         left_.open(crane1_, crane2_, lanes.firstSpan - 1, 0, 0, a2_);
         right_.open(crane1_, crane2_, lanes.lastSpan, b1_, b2_, N_ + 1);
-        fillRows(crane1_, at1_, b1_, rows1_, nullptr);
-        fillRows(crane2_, at2_, b2_, high2_, crane2_.varies() ? &low2_ : nullptr);
-        for (Side& side : sides_) findBest(side);
-        setThresholds();
-        for (const Side& side : sides_) collect(side);
+        leftOfLanes_ = &left_;
+        find(SpanMask{1} << lanes.firstSpan);
+    }
+
+    /// The same for the reaction between the last two spans: what is left of them is left of the first, and right of
+    /// the second.
+    void findReaction(const ReactionLane& lane) {
+        setRanges(lane);
+        leftOfLanes_ = &leftBefore_;
+        find(SpanMask{3} << lane.firstSpan);
     }
 
 private:
@@ -65,19 +68,35 @@ private:
         LaneValues threshold{};      ///< what a pair must reach to be a candidate
     };
 
+    void setRanges(const Lanes& lanes) {
+        lanes_ = &lanes;
+        count_ = lanes.count;
+        a2_ = crane2_.present() ? crane2_.arrives(lanes.firstSpan) : crane1_.arrives(lanes.firstSpan);
+        b2_ = crane2_.present() ? crane2_.leaves(lanes.lastSpan) : crane1_.arrives(lanes.lastSpan);
+        b1_ = crane1_.present() ? crane1_.leaves(lanes.lastSpan) : b2_;
+    }
+
+    void find(SpanMask spans) {
+        spans_ = spans;
+        fillRows(crane1_, b1_, rows1_, nullptr);
+        fillRows(crane2_, b2_, high2_, crane2_.varies() ? &low2_ : nullptr);
+        for (Side& side : sides_) findBest(side);
+        setThresholds();
+        for (const Side& side : sides_) collect(side);
+    }
+
     /// Rows of the positions a2..end - 1: the largest of the variants, and where wanted the smallest.
-    void fillRows(const CraneResponse& crane, CraneAt& scratch, int end, std::vector<double>& high,
-                  std::vector<double>* low) {
+    void fillRows(const CraneResponse& crane, int end, std::vector<double>& high, std::vector<double>* low) const {
         high.resize(static_cast<std::size_t>(std::max(0, end - a2_)) * count_);
         if (low != nullptr) low->resize(high.size());
         LaneValues values;
         for (int p = a2_; p < end; ++p) {
             const std::size_t at = static_cast<std::size_t>(p - a2_) * count_;
-            lanes_->row(crane, p, 0, scratch, high.data() + at);
+            lanes_->row(crane, p, 0, high.data() + at);
             if (low == nullptr) continue;
             std::copy_n(high.data() + at, count_, low->data() + at);
             for (int variant = 1; variant < crane.variants(p); ++variant) {
-                lanes_->row(crane, p, variant, scratch, values.data());
+                lanes_->row(crane, p, variant, values.data());
                 for (std::size_t l = 0; l < count_; ++l) {
                     high[at + l] = std::max(high[at + l], values[l]);
                     (*low)[at + l] = std::min((*low)[at + l], values[l]);
@@ -122,8 +141,8 @@ private:
             const double* from = suffixAt(side, a2_, room);
             for (std::size_t l = 0; l < count_; ++l) {
                 const double factor = side.sign * lanes_->fromLeft[l];
-                improve(l, left_.best(factor));
-                improve(l, left_.moment1.best(factor) + from[l]);
+                improve(l, leftOfLanes_->best(factor));
+                improve(l, leftOfLanes_->moment1.best(factor) + from[l]);
             }
         }
         for (int j = a2_; j < b1_; ++j) {
@@ -134,7 +153,7 @@ private:
         for (std::size_t l = 0; l < count_ && b1_ <= N_; ++l) improve(l, right_.best(side.sign * lanes_->fromRight[l]));
         for (std::size_t l = 0; l < count_; ++l)
             side.best[l] -=
-                std::abs(lanes_->fromLeft[l]) * left_.spread + std::abs(lanes_->fromRight[l]) * right_.spread;
+                std::abs(lanes_->fromLeft[l]) * leftOfLanes_->spread + std::abs(lanes_->fromRight[l]) * right_.spread;
         if (crane2_.varies()) makeSuffix(side, true);
     }
 
@@ -164,8 +183,8 @@ private:
             if (rules_.repeats(j)) continue;
             const double* from = suffixAt(side, j, room);
             const double* row = row1(j);
-            int any = 0;
-            for (std::size_t l = 0; l < count_; ++l) any |= side.sign * row[l] + from[l] >= side.threshold[l];
+            std::int64_t any = 0;
+            for (std::size_t l = 0; l < count_; ++l) any |= side.sign * row[l] + from[l] >= side.threshold[l] ? 1 : 0;
             if (any == 0) continue;
             for (std::size_t l = 0; l < count_; ++l)
                 if (side.sign * row[l] + from[l] >= side.threshold[l])
@@ -178,14 +197,14 @@ private:
     void collectLeft(const Side& side, std::size_t l, double fromArrival) {
         const double factor = side.sign * lanes_->fromLeft[l];
         const double threshold = side.threshold[l];
-        left_.moment1.reaching(factor, threshold - fromArrival, [&](int j) {
-            if (!rules_.repeats(j)) pairFrom(side, l, j, a2_, threshold - factor * double{left_.moment1[j]});
+        leftOfLanes_->moment1.reaching(factor, threshold - fromArrival, [&](int j) {
+            if (!rules_.repeats(j)) pairFrom(side, l, j, a2_, threshold - factor * double{leftOfLanes_->moment1[j]});
         });
-        (factor >= 0 ? left_.highest : left_.lowest).reaching(factor, threshold, [&](int j) {
+        (factor >= 0 ? leftOfLanes_->highest : leftOfLanes_->lowest).reaching(factor, threshold, [&](int j) {
             if (rules_.repeats(j)) return;
-            const double needed = threshold - factor * double{left_.moment1[j]};
+            const double needed = threshold - factor * double{leftOfLanes_->moment1[j]};
             for (int s = j; s <= rules_.lastS(j, a2_ - 1); ++s)
-                if (left_.at2(factor, s) >= needed) add(j, s);
+                if (leftOfLanes_->at2(factor, s) >= needed) add(j, s);
         });
     }
 
@@ -217,10 +236,10 @@ private:
     const Lanes* lanes_ = nullptr;
     SpanMask spans_ = 0;
     std::size_t count_ = 0;
-    int a2_ = 0, b2_ = 0, b1_ = 0;  ///< crane 2 arrives and has left, crane 1 has left
-    OneSided left_, right_;
+    int a2_ = 0, b2_ = 0, b1_ = 0;        ///< crane 2 arrives and has left, crane 1 has left
+    OneSided left_, leftBefore_, right_;  ///< of the last span, of the one before; and right of the last span
+    const OneSided* leftOfLanes_ = &left_;
     std::vector<double> rows1_, high2_, low2_;  ///< [j - a2][lane] and [s - a2][lane]; low2_ only where variants differ
-    CraneAt at1_, at2_;  ///< each crane has its own: the wheels of the other one stay without load
     std::array<Side, 2> sides_{{{1, {}, {}, {}}, {-1, {}, {}, {}}}};
 };
 
@@ -231,8 +250,8 @@ void searchPlane(const Plane& plane, const CraneResponse& crane1, const CraneRes
     const MomentBounds bounds(plane, crane1.magnitudes(), crane2.magnitudes());
     LaneSearch search(crane1, crane2, last, quantity, candidates);
     for (int i = 1; i <= plane.beam.n && !candidates.tooMany(); ++i) {
-        search.find(SpanLanes(plane, i, quantity, bounds), SpanMask{1} << i);
-        if (i > 1 && quantity == Quantity::Forces) search.find(ReactionLane(plane, i, bounds), SpanMask{3} << (i - 1));
+        search.findInSpan(SpanLanes(plane, i, quantity, bounds));
+        if (i > 1 && quantity == Quantity::Forces) search.findReaction(ReactionLane(plane, i, bounds));
     }
 }
 

@@ -31,7 +31,7 @@ MomentBounds::MomentBounds(const Plane& plane, const Magnitudes& m1, const Magni
 // ---------------------------------------------------------------------------------------------------
 
 SpanLanes::SpanLanes(const Plane& plane, int i, Quantity quantity, const MomentBounds& bounds)
-    : plane_(plane), points_(plane.points[static_cast<std::size_t>(i)]) {
+    : points_(plane.points[static_cast<std::size_t>(i)]) {
     const bool forces = quantity == Quantity::Forces;
     count = forces ? 2 * kPoints : kPoints;
     firstSpan = lastSpan = i;
@@ -76,13 +76,14 @@ void SpanLanes::set(int lane, double a, double b, double deadValue, double wheel
     wheels_[l] = wheels;
 }
 
-void SpanLanes::row(const CraneResponse& crane, int p, int variant, CraneAt& at, double* values) const {
+void SpanLanes::row(const CraneResponse& crane, int p, int variant, double* values) const {
     const int i = firstSpan;
-    crane.at(p, variant, i - 1, i, at);
-    const double Ma = at.X[static_cast<std::size_t>(i - 1)];
-    const double Mb = at.X[static_cast<std::size_t>(i)];
+    PerSpan X;
+    crane.moments(p, variant, i - 1, i, X);
+    const double Ma = X[static_cast<std::size_t>(i - 1)];
+    const double Mb = X[static_cast<std::size_t>(i)];
     for (std::size_t l = 0; l < count; ++l) values[l] = left_[l] * Ma + right_[l] * Mb;
-    const SpanWheels wheels = wheelsInSpan(at.wheels, i, plane_.load);
+    const SpanWheels wheels = crane.wheelsIn(i, p, variant);
     if (wheels.count == 0) return;
     const bool forces = count > kPoints;
     PointValues first{}, second{};
@@ -120,17 +121,18 @@ ReactionLane::ReactionLane(const Plane& plane, int i, const MomentBounds& bounds
     fromRight[0] = (1 + r1) / right.L + (r1 + r1 * r2) / left.L;
 }
 
-void ReactionLane::row(const CraneResponse& crane, int p, int variant, CraneAt& at, double* values) const {
+void ReactionLane::row(const CraneResponse& crane, int p, int variant, double* values) const {
     const auto b = static_cast<std::size_t>(lastSpan);
     const auto a = b - 1;
-    crane.at(p, variant, firstSpan - 1, lastSpan, at);
+    PerSpan X;
+    crane.moments(p, variant, firstSpan - 1, lastSpan, X);
     const SpanPoints& left = plane_.points[a];
     const SpanPoints& right = plane_.points[b];
-    double start = (at.X[b] - at.X[a]) / right.L;
-    double end = (at.X[a] - at.X[a - 1]) / left.L;
-    const SpanWheels onRight = wheelsInSpan(at.wheels, lastSpan, plane_.load);
+    double start = (X[b] - X[a]) / right.L;
+    double end = (X[a] - X[a - 1]) / left.L;
+    const SpanWheels onRight = crane.wheelsIn(lastSpan, p, variant);
     for (int w = 0; w < onRight.count; ++w) start += right.startShear(onRight.item[w]);
-    const SpanWheels onLeft = wheelsInSpan(at.wheels, firstSpan, plane_.load);
+    const SpanWheels onLeft = crane.wheelsIn(firstSpan, p, variant);
     for (int w = 0; w < onLeft.count; ++w) end += left.endShear(onLeft.item[w]);
     values[0] = start - end;
 }

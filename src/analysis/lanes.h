@@ -28,8 +28,8 @@ struct MomentBounds {
 class Lanes {
 public:
     virtual ~Lanes() = default;
-    /// Values that a crane gives at position p in one of its variants. @param at  scratch
-    virtual void row(const CraneResponse& crane, int p, int variant, CraneAt& at, double* values) const = 0;
+    /// Values that a crane gives at position p in one of its variants.
+    virtual void row(const CraneResponse& crane, int p, int variant, double* values) const = 0;
 
     std::size_t count = 0;
     int firstSpan = 0, lastSpan = 0;  ///< a crane elsewhere acts through the moment over the nearest support alone
@@ -45,11 +45,10 @@ public:
 class SpanLanes : public Lanes {
 public:
     SpanLanes(const Plane& plane, int i, Quantity quantity, const MomentBounds& bounds);
-    void row(const CraneResponse& crane, int p, int variant, CraneAt& at, double* values) const override;
+    void row(const CraneResponse& crane, int p, int variant, double* values) const override;
 
 private:
     void set(int lane, double a, double b, double deadValue, double wheels);
-    const Plane& plane_;
     const SpanPoints& points_;
     LaneValues left_{}, right_{};  ///< shares of the end moments Ma, Mb
     LaneValues wheels_{};          ///< magnitude of the wheels' share
@@ -60,7 +59,7 @@ private:
 class ReactionLane : public Lanes {
 public:
     ReactionLane(const Plane& plane, int i, const MomentBounds& bounds);
-    void row(const CraneResponse& crane, int p, int variant, CraneAt& at, double* values) const override;
+    void row(const CraneResponse& crane, int p, int variant, double* values) const override;
 
 private:
     const Plane& plane_;
