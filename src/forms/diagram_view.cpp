@@ -108,6 +108,8 @@ void DiagramView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (diagrams_.empty()) {
         painter.fillRect(rect(), palette().color(QPalette::Base));
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter, tr("Results stand here after a calculation (F5)"));
         return;
     }
     const QSize pixels = size() * devicePixelRatioF();

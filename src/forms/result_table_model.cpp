@@ -102,7 +102,7 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
         case Qt::ToolTipRole:
             return QString::fromStdString(column.help);
         case Qt::TextAlignmentRole:
-            return int(Qt::AlignVCenter) | int(holdsNumbers(section) ? Qt::AlignRight : Qt::AlignLeft);
+            return int(Qt::AlignVCenter) | int(holdsNumbers(section) ? Qt::AlignHCenter : Qt::AlignLeft);
         default:
             return {};
     }

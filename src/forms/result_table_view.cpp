@@ -114,17 +114,18 @@ int ResultTableView::contentWidth(int column) const {
     return width;
 }
 
-/// Gives each column what its texts need. Where that is a little too much for the window the widest one gives way;
-/// where there is room to spare all get some of it.
+/// Gives each column what its texts need. Where that is too much for the window and the widest one can give way without
+/// becoming unreadable, it does; else the list scrolls. Where there is room to spare all get some of it.
 void ResultTableView::fitColumns() {
     constexpr int kMostSpare = 60;
     const int columns = model_.columnCount();
     if (columns == 0) return;
     std::vector<int> widths;
     for (int column = 0; column < columns; ++column) widths.push_back(contentWidth(column));
-    const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+    const int room = viewport()->width();
+    const int spare = room - std::accumulate(widths.begin(), widths.end(), 0);
     auto widest = std::max_element(widths.begin(), widths.end());
-    if (spare < 0 && *widest + spare >= *widest / 2) *widest += spare;
+    if (spare < 0 && *widest + spare >= room / 3) *widest += spare;
     fitting_ = true;
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, widths[static_cast<std::size_t>(column)] + std::clamp(spare / columns, 0, kMostSpare));

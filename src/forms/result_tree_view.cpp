@@ -53,6 +53,7 @@ void ResultTreeView::showTree(const TreeNode& root) {
     clear();
     root_ = root;
     add(nullptr, root_);
+    topLevelItem(0)->setSizeHint(0, {0, fontMetrics().height() + 4});  // and so all rows
     expandAll();
     if (QTreeWidgetItem* again = itemOf(selected)) setCurrentItem(again);
 }

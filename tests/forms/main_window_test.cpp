@@ -51,6 +51,11 @@ TEST_F(MainWindowTest, startsWithTheDefaultProject) {
     EXPECT_TRUE(messages.texts.empty());
 }
 
+TEST_F(MainWindowTest, fitsASmallScreen) {
+    EXPECT_LE(window.minimumSizeHint().width(), 1024);
+    EXPECT_LE(window.minimumSizeHint().height(), 700);
+}
+
 TEST_F(MainWindowTest, controlsHaveTheirCaptions) {
     const std::pair<const char*, const char*> buttons[] = {
         {"OptOverH", "Overhead Crane"}, {"OptRunW", "Monorail"},

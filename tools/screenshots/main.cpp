@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QStyleFactory>
 #include <iostream>
 
@@ -57,6 +58,8 @@ void choose(QWidget& window, const QString& node) {
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     QApplication application(argc, argv);
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setApplicationVersion(BORVIK_VERSION);
@@ -76,6 +79,8 @@ int main(int argc, char** argv) {
     MainWindow window(session, {messages, questions, settings});
     if (arguments.size() > 3) window.resize(arguments.at(2).toInt(), arguments.at(3).toInt());
     window.show();
+    QApplication::processEvents();
+    std::cout << "window usable after " << sinceStart.elapsed() << " ms\n";
     if (arguments.size() > 1 && !window.openProject(arguments.at(1).toStdString())) {
         std::cerr << messages.texts.back() << '\n';
         return 5;

@@ -14,7 +14,12 @@ int box(QMessageBox::Icon icon, const std::string& text, QMessageBox::StandardBu
     QMessageBox message(icon, QApplication::applicationDisplayName(), QString::fromStdString(text), buttons,
                         QApplication::activeWindow());
     message.setTextFormat(Qt::PlainText);
-    return message.exec();
+    // A box wants an answer, also while a calculation shows the hourglass.
+    const bool busy = QApplication::overrideCursor() != nullptr;
+    if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int answer = message.exec();
+    if (busy) QApplication::restoreOverrideCursor();
+    return answer;
 }
 
 }  // namespace
