@@ -155,7 +155,7 @@ bool BeamDialog::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
     }
-    return InputDialog::eventFilter(watched, event);
+    return QDialog::eventFilter(watched, event);
 }
 
 void BeamDialog::fillSections() {

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -66,10 +65,6 @@ void InputDialog::setContent(QLayout* content) {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(area);
-    for (QComboBox* list : findChildren<QComboBox*>()) {
-        list->setFocusPolicy(Qt::StrongFocus);
-        list->installEventFilter(this);
-    }
     // Enter moves on from box to box and must never press a button that doesn't have the focus.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
 }
@@ -91,14 +86,6 @@ void InputDialog::keyPressEvent(QKeyEvent* event) {
     } else {
         QDialog::keyPressEvent(event);
     }
-}
-
-bool InputDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && !qobject_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();  // the form scrolls instead of the choice changing
-        return true;
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 Group makeGroup(const std::string& name, const QString& title) {
