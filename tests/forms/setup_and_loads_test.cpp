@@ -208,6 +208,10 @@ void PrintTo(const Refusal& refusal, std::ostream* out) {
     *out << refusal.name;
 }
 
+std::string nameOf(const testing::TestParamInfo<Refusal>& info) {
+    return info.param.name;
+}
+
 class LoadRefusals : public testing::TestWithParam<Refusal> {};
 
 /// A beam of 15 m under a crane of two wheels, with a second crane of two wheels that counts only when asked for.
@@ -280,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 p.V(4) = p.Avst(3) = 10;
                             },
                             " Distance between point 2/3 missing", "Distance between point 1/2 missing"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    nameOf);
 
 INSTANTIATE_TEST_SUITE_P(
     SecondCrane, LoadRefusals,
@@ -314,7 +318,7 @@ INSTANTIATE_TEST_SUITE_P(
                             " Distance for Crane 2 between point 3/4 missing! ", nullptr, 2},
                     Refusal{"TooNear", [](Project& p) { p.MinAvst = 100; }, " Min distance 100 ", nullptr, 2},
                     Refusal{"JustFarEnough", [](Project& p) { p.MinAvst = 100.5; }, "", nullptr, 2}),
-    [](const auto& info) { return std::string(info.param.name); });
+    nameOf);
 
 TEST(SettledLoads, LoseTheHorizontalLoadsOfWheelsThatAreNotThere) {
     Project p = soundProject();
