@@ -14,6 +14,10 @@ if(BORVIK_SANITIZE)
         -fsanitize=${BORVIK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(borvik_flags INTERFACE -fsanitize=${BORVIK_SANITIZE})
 endif()
+if(BORVIK_FUZZ)
+    # Arithmetic faults are read from the processor's flags, so clang must not compute what the text doesn't ask for.
+    target_compile_options(borvik_flags INTERFACE -fsanitize=fuzzer-no-link -ffp-exception-behavior=maytrap)
+endif()
 
 # borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. Each room stands
 # on the include path under its own name through a small folder of links, so that only the rooms it knows can be included.
