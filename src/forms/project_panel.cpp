@@ -6,7 +6,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QSignalBlocker>
+
+#include "base/number_text.h"
 
 namespace borvik {
 
@@ -116,7 +117,9 @@ void ProjectPanel::showProject() {
     Project& project = session_.project;
     showName(iproj_, project.Proj);
     showName(iident_, project.Ident);
-    if (!(ifyk_->hasFocus() && ifyk_->edited()) && !binder_.refusalPending()) binder_.show(ifyk_);
+    const bool refusedHere = ifyk_->standsRefused() && ifyk_->text().toStdString() == formatNumber(project.fyk, "#00");
+    const bool beingTyped = ifyk_->hasFocus() && ifyk_->edited();
+    if (!beingTyped && !refusedHere && !binder_.refusalPending()) binder_.show(ifyk_);
     ifyk_->setEnabled(isGeneral(project));
 
     const int row = FindMaterial(session_.tables, project.SteelGrade);

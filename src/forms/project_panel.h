@@ -21,7 +21,8 @@ public:
     ProjectPanel(Session& session, Messages& messages, QWidget* parent = nullptr);
 
     /// Fills the controls from the record, and brings MaterialIndex and StartStopOutside in line with it: a crane that
-    /// stands fixed can't start outside the beam. A strength that is just being typed is left alone.
+    /// stands fixed can't start outside the beam. What is just being typed, and a refused strength with its mark, is
+    /// left alone.
     void showProject();
     /// Stores what is just being typed, as leaving its box would.
     /// @return false when it was refused; the user has been told

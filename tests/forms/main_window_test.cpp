@@ -143,6 +143,8 @@ TEST_F(MainWindowTest, strengthHasLimits) {
         EXPECT_EQ(project().fyk, Single(c.stored)) << c.typed;
         const bool refused = *c.message != '\0';
         EXPECT_EQ(control<QLineEdit>("ifyk").hasFocus(), refused) << c.typed;
+        window.WritefrmInput();
+        EXPECT_EQ(control<NumberBox>("ifyk").refused(), refused) << c.typed;
         if (c.stored != 2000.0) expectNotCalculated(c.typed);
         if (refused) enter("ifyk", "2000");
     }
