@@ -32,16 +32,20 @@ const char* refusal(const Project& project) {
     return nullptr;
 }
 
+/// Whether a splice stands on the beam. A span number below 1, as only a spoilt file has it, is no place on the beam
+/// either.
+bool fits(const Project& project, double span, double distance) {
+    if (!(span > 0.5 && span <= project.NofSpans)) return false;
+    return !(distance > project.Span(roundHalfEven(span)));
+}
+
 /// Unticks the splices that lie beyond the beam or beyond their span, without a message, and the whole detail when none
 /// is left. Only the four splices that the form offers are looked at.
 void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& inUse,
                  const FixedArray<Single, 1, 10>& span, const FixedArray<Single, 1, 10>& distance) {
     bool anyLeft = false;
     for (int splice = 1; splice <= 4; ++splice) {
-        if (detail && inUse(splice)) {
-            const bool beyondBeam = span(splice) > project.NofSpans;
-            if (beyondBeam || distance(splice) > project.Span(roundHalfEven(span(splice)))) inUse(splice) = false;
-        }
+        if (detail && inUse(splice)) inUse(splice) = fits(project, span(splice), distance(splice));
         anyLeft = anyLeft || inUse(splice);
     }
     if (!anyLeft) detail = false;

@@ -7,7 +7,6 @@ namespace borvik {
 /// Checks the beam input: no gap in the spans, a section for each span and a span for each section. Counts NofSpans,
 /// and drops, without a message and for good, fatigue splices that no longer fit the beam. Shows its own messages.
 /// @return false when a message was shown
-/// @throws RuntimeFault  when a splice in use stands in a span below 1, as only a spoilt file has it
 [[nodiscard]] bool CheckInput(Project& project, Messages& messages);
 
 /// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. On success `Calculated`
