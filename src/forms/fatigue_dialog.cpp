@@ -30,7 +30,7 @@ QToolButton* makePictureButton(const FatigueInfo& info, QWidget* form) {
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     const int side = form->fontMetrics().lineSpacing() * 3;
     const QSize size(side * 4 / 3, side);
-    const DrawPicture draw = fatigueDetailPicture(info.detail);
+    const PicturePainter draw = fatigueDetailPicture(info.detail);
     button->setIcon(QIcon(pictureImage(draw, size, form->palette(), form->devicePixelRatio())));
     button->setIconSize(size);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

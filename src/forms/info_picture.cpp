@@ -8,7 +8,7 @@ namespace {
 constexpr int kColumns = 90, kLines = 26;
 }
 
-InfoPicture::InfoPicture(const char* name, const QString& caption, DrawPicture draw, QWidget* parent)
+InfoPicture::InfoPicture(const char* name, const QString& caption, PicturePainter draw, QWidget* parent)
     : QDialog(parent) {
     setObjectName(QString::fromUtf8(name));
     setWindowTitle(caption);
@@ -22,7 +22,7 @@ void InfoPicture::mousePressEvent(QMouseEvent*) {
     close();
 }
 
-void showInfoPicture(const char* name, const QString& caption, DrawPicture draw, QWidget* parent) {
+void showInfoPicture(const char* name, const QString& caption, PicturePainter draw, QWidget* parent) {
     auto* window = new InfoPicture(name, caption, std::move(draw), parent);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setModal(true);

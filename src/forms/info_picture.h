@@ -10,13 +10,13 @@ namespace borvik {
 class InfoPicture : public QDialog {
 public:
     /// @param name  "frmInfoSetup", "frmInfoFatigue" or "frmInfoLoadComb"
-    InfoPicture(const char* name, const QString& caption, DrawPicture draw, QWidget* parent);
+    InfoPicture(const char* name, const QString& caption, PicturePainter draw, QWidget* parent);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
 };
 
 /// Shows such a window; it deletes itself when closed.
-void showInfoPicture(const char* name, const QString& caption, DrawPicture draw, QWidget* parent);
+void showInfoPicture(const char* name, const QString& caption, PicturePainter draw, QWidget* parent);
 
 }  // namespace borvik

@@ -57,7 +57,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
     left->addWidget(sectionList().box);
     left->addStretch();
 
-    picture_ = new Picture(sectionPicture(current_, project_), 56, 20);
+    picture_ = new Picture(sectionPicture(current_, project_), 64, 20);
     picture_->setToolTip(tr("The section to scale, with the point of load application"));
     auto* middle = new QVBoxLayout;
     middle->addWidget(picture_, 1);

@@ -4,9 +4,13 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "forms/dialogs.h"
 #include "forms/frm_about.h"
 #include "forms/frm_detailed_result.h"
+#include "forms/info_picture.h"
 #include "forms/main_window.h"
+#include "pictures/fatigue_pictures.h"
+#include "pictures/info_pictures.h"
 #include "platform/messages.h"
 
 /// Takes the pictures of the windows for the documents, from a project calculated in the real main window.
@@ -52,6 +56,35 @@ void choose(QWidget& window, const QString& node) {
     auto* tree = window.findChild<ResultTreeView*>("TreeView1");
     auto* item = tree->itemOf(node);
     if (item != nullptr) Q_EMIT tree->itemClicked(item, 0);
+}
+
+/// All input forms, named after their windows. Those of a monorail show a project of their own.
+void takeForms(Camera& camera, Session& session, Messages& messages) {
+    Session monorail(session.tables);
+    monorail.project.CraneType = 2;
+    monorail.project.LoadLevel = 4;
+    for (const auto kind :
+         {DialogKind::Setup, DialogKind::Beam, DialogKind::Load, DialogKind::LoadRunway, DialogKind::Profile,
+          DialogKind::ProfReinf, DialogKind::Rail, DialogKind::Lateral, DialogKind::Fatigue1, DialogKind::Fatigue2}) {
+        const bool ofMonorail = kind == DialogKind::LoadRunway || kind == DialogKind::Fatigue2;
+        Session& shown = ofMonorail ? monorail : session;
+        shown.context.CurrentSection.Reinforced = kind == DialogKind::ProfReinf;
+        shown.context.CurrentSection.ReinfText = kind == DialogKind::ProfReinf ? "PL1" : "";
+        const auto form = makeDialog(
+            kind, shown, messages, [] {}, nullptr);
+        form->show();
+        camera.take(*form, form->objectName());
+    }
+    const std::pair<const char*, PicturePainter> explained[] = {
+        {"frmInfoSetup-factors", fatigueFactorPicture()},
+        {"frmInfoSetup-limits", deflectionLimitPicture()},
+        {"frmInfoLoadComb", loadCombinationPicture()},
+        {"frmInfoFatigue", fatigueDetailPicture(FatigueDetail::SupportPoint)}};
+    for (const auto& [name, picture] : explained) {
+        InfoPicture info(name, name, picture, nullptr);
+        info.show();
+        camera.take(info, name);
+    }
 }
 
 }  // namespace
@@ -118,6 +151,8 @@ int main(int argc, char** argv) {
     FrmAbout about(&window);
     about.show();
     camera.take(about, "about");
+
+    takeForms(camera, session, messages);
 
     window.projectChanged("Material");
     camera.take(window, "main-out-of-date");

@@ -2,7 +2,7 @@
 
 namespace borvik {
 
-DrawPicture beamPicture(const Project& project) {
+PicturePainter beamPicture(const Project& project) {
     return [&project](QPainter& painter, const QRectF& area, const Ink& ink) {
         double total = 0;
         int spans = 0;

@@ -6,6 +6,6 @@
 namespace borvik {
 
 /// The spans of the beam to scale on their supports, each with its number, length and section.
-[[nodiscard]] DrawPicture beamPicture(const Project& project);
+[[nodiscard]] PicturePainter beamPicture(const Project& project);
 
 }  // namespace borvik

@@ -95,19 +95,19 @@ void drawWheels(QPainter& painter, const QRectF& area, const Ink& ink, const std
 
 }  // namespace
 
-DrawPicture cranesPicture(const Project& project) {
+PicturePainter cranesPicture(const Project& project) {
     return [&project](QPainter& painter, const QRectF& area, const Ink& ink) {
         drawWheels(painter, area, ink, placeWheels(project, project.NofCranes == 2), false);
     };
 }
 
-DrawPicture hoistPicture(const Project& project) {
+PicturePainter hoistPicture(const Project& project) {
     return [&project](QPainter& painter, const QRectF& area, const Ink& ink) {
         drawWheels(painter, area, ink, placeWheels(project, false), true);
     };
 }
 
-DrawPicture bottomFlangePicture(const Project& project) {
+PicturePainter bottomFlangePicture(const Project& project) {
     return [&project](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double line = painter.fontMetrics().lineSpacing();
         const double half = std::min(area.width() * 0.3, area.height() * 0.75);

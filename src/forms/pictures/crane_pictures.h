@@ -7,10 +7,10 @@ namespace borvik {
 
 /// One or two overhead cranes on the beam: the wheels with their numbers at their distances to scale; wheels that
 /// aren't there are faint.
-[[nodiscard]] DrawPicture cranesPicture(const Project& project);
+[[nodiscard]] PicturePainter cranesPicture(const Project& project);
 /// The same for the hoist of a monorail, hanging under the beam.
-[[nodiscard]] DrawPicture hoistPicture(const Project& project);
+[[nodiscard]] PicturePainter hoistPicture(const Project& project);
 /// The wheels of a hoist on the bottom flange, with the distance n from the tip of the flange.
-[[nodiscard]] DrawPicture bottomFlangePicture(const Project& project);
+[[nodiscard]] PicturePainter bottomFlangePicture(const Project& project);
 
 }  // namespace borvik

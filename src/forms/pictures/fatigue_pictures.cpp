@@ -293,7 +293,7 @@ private:
 
 }  // namespace
 
-DrawPicture fatigueDetailPicture(FatigueDetail detail) {
+PicturePainter fatigueDetailPicture(FatigueDetail detail) {
     const auto* scene = std::find_if(std::begin(kScenes), std::end(kScenes),
                                      [detail](const Scene& each) { return each.detail == detail; });
     return [scene](QPainter& painter, const QRectF& area, const Ink& ink) {

@@ -27,6 +27,6 @@ enum class FatigueDetail {
 
 /// The detail drawn with its welds, the stress that counts marked by an arrow, the place of the crack by a circle. On a
 /// large area the detail categories of EN 1993-1-9 that belong to it stand beside it.
-[[nodiscard]] DrawPicture fatigueDetailPicture(FatigueDetail detail);
+[[nodiscard]] PicturePainter fatigueDetailPicture(FatigueDetail detail);
 
 }  // namespace borvik

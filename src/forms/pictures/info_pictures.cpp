@@ -48,7 +48,7 @@ QPointF drawBentBeam(QPainter& painter, const QPointF& left, const QPointF& righ
 
 }  // namespace
 
-DrawPicture fatigueFactorPicture() {
+PicturePainter fatigueFactorPicture() {
     return [](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double line = painter.fontMetrics().lineSpacing();
         painter.setPen(ink.line);
@@ -68,7 +68,7 @@ DrawPicture fatigueFactorPicture() {
     };
 }
 
-DrawPicture deflectionLimitPicture() {
+PicturePainter deflectionLimitPicture() {
     return [](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double line = painter.fontMetrics().lineSpacing();
         const struct {
@@ -91,7 +91,7 @@ DrawPicture deflectionLimitPicture() {
     };
 }
 
-DrawPicture loadCombinationPicture() {
+PicturePainter loadCombinationPicture() {
     return [](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double line = painter.fontMetrics().lineSpacing();
         const double size = std::min(area.height(), area.width() * 0.5);

@@ -4,7 +4,7 @@
 
 namespace borvik {
 
-DrawPicture momentPicture(MomentZone zone) {
+PicturePainter momentPicture(MomentZone zone) {
     return [zone](QPainter& painter, const QRectF& area, const Ink& ink) {
         constexpr int kSpans = 3;
         const bool end = zone == MomentZone::EndPositive || zone == MomentZone::EndNegative;

@@ -8,6 +8,6 @@ namespace borvik {
 enum class MomentZone { EndPositive, MidPositive, EndNegative, MidNegative };
 
 /// A beam of three spans with the span and the part of its moment diagram marked.
-[[nodiscard]] DrawPicture momentPicture(MomentZone zone);
+[[nodiscard]] PicturePainter momentPicture(MomentZone zone);
 
 }  // namespace borvik

@@ -17,7 +17,7 @@ Ink inkOf(const QPalette& palette) {
             .faint = dark ? QColor(130, 130, 130) : QColor(150, 150, 150)};
 }
 
-Picture::Picture(DrawPicture draw, int columns, int lines, QWidget* parent)
+Picture::Picture(PicturePainter draw, int columns, int lines, QWidget* parent)
     : QWidget(parent), draw_(std::move(draw)), columns_(columns), lines_(lines) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
@@ -32,7 +32,7 @@ void Picture::paintEvent(QPaintEvent*) {
     draw_(painter, QRectF(rect()).adjusted(2, 2, -2, -2), inkOf(palette()));
 }
 
-QPixmap pictureImage(const DrawPicture& draw, const QSize& size, const QPalette& palette, qreal ratio) {
+QPixmap pictureImage(const PicturePainter& draw, const QSize& size, const QPalette& palette, qreal ratio) {
     QPixmap image(size * ratio);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);

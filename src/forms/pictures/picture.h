@@ -20,13 +20,13 @@ struct Ink {
 [[nodiscard]] Ink inkOf(const QPalette& palette);
 
 /// Draws a picture into an area. All sizes follow the area and the font, so that it is crisp at any scale.
-using DrawPicture = std::function<void(QPainter& painter, const QRectF& area, const Ink& ink)>;
+using PicturePainter = std::function<void(QPainter& painter, const QRectF& area, const Ink& ink)>;
 
 /// A picture on a form. It asks its painter anew at each repaint, so `update()` lets it follow entered values.
 class Picture : public QWidget {
 public:
     /// @param columns,lines  size wished for, in average characters and lines of text
-    Picture(DrawPicture draw, int columns, int lines, QWidget* parent = nullptr);
+    Picture(PicturePainter draw, int columns, int lines, QWidget* parent = nullptr);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint() * 0.7; }
 
@@ -34,13 +34,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    DrawPicture draw_;
+    PicturePainter draw_;
     int columns_;
     int lines_;
 };
 
 /// The picture as an image for a button, `size` in device independent pixels.
-[[nodiscard]] QPixmap pictureImage(const DrawPicture& draw, const QSize& size, const QPalette& palette, qreal ratio);
+[[nodiscard]] QPixmap pictureImage(const PicturePainter& draw, const QSize& size, const QPalette& palette, qreal ratio);
 
 // Strokes that the pictures share.
 

@@ -46,7 +46,7 @@ QString symbol(const char* name, double value) {
 
 }  // namespace
 
-DrawPicture railPicture(const ProjectContext& context, const Project& project) {
+PicturePainter railPicture(const ProjectContext& context, const Project& project) {
     return [&context, &project](QPainter& painter, const QRectF& area, const Ink& ink) {
         const RailRecord& rail = context.CurrentRail;
         const double h = rail.RailHr, b = std::max(double(rail.RailBr), 1.0), k = rail.RailKr;

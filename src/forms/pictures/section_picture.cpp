@@ -72,12 +72,12 @@ void drawLoadPoint(QPainter& painter, const Frame& frame, const SectionRecord& s
 
 }  // namespace
 
-DrawPicture sectionPicture(const SectionRecord& section, const Project& project) {
+PicturePainter sectionPicture(const SectionRecord& section, const Project& project) {
     return [&section, &project](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double h = section.h, widest = std::max(double(section.b1), double(section.b2));
         if (h <= 0 || widest <= 0) return;
         const double line = painter.fontMetrics().lineSpacing();
-        const QRectF room = area.adjusted(6.6 * line, 5 * line, -6.3 * line, -3 * line);
+        const QRectF room = area.adjusted(7 * line, 5 * line, -7 * line, -3 * line);
         const double scale = std::min(room.width() / (widest + 2 * section.ReinfT), room.height() / h);
         const Frame frame{{room.center().x(), room.center().y() + h * scale / 2}, scale};
         drawSection(painter, frame, section, ink);
@@ -109,7 +109,7 @@ DrawPicture sectionPicture(const SectionRecord& section, const Project& project)
     };
 }
 
-DrawPicture reinforcementPicture(const SectionRecord& section) {
+PicturePainter reinforcementPicture(const SectionRecord& section) {
     return [&section](QPainter& painter, const QRectF& area, const Ink& ink) {
         const double h = section.h, b = section.b1, t = section.ReinfT, d = section.ReinfD;
         if (h <= 0 || b <= 0) return;

@@ -6,8 +6,8 @@
 namespace borvik {
 
 /// The section to scale with its dimensions, its reinforcement, and an arrow at the point of load application.
-[[nodiscard]] DrawPicture sectionPicture(const SectionRecord& section, const Project& project);
+[[nodiscard]] PicturePainter sectionPicture(const SectionRecord& section, const Project& project);
 /// The top of the section with the reinforcement plates and their dimensions.
-[[nodiscard]] DrawPicture reinforcementPicture(const SectionRecord& section);
+[[nodiscard]] PicturePainter reinforcementPicture(const SectionRecord& section);
 
 }  // namespace borvik
