@@ -103,6 +103,7 @@ void FormBinder::show(NumberBox* box) {
     const char* mask = row.maskWhenFilled != nullptr ? row.maskWhenFilled : row.mask;
     box->showText(QString::fromStdString(formatNumber(row.field.get(), mask)));
     box->clearRefusal();
+    if (box->hasFocus()) box->selectAll();  // as on entry: typing replaces what has just been shown
 }
 
 void FormBinder::addGrid(std::vector<std::vector<NumberBox*>> columns) {

@@ -73,7 +73,9 @@ void NumberBox::paintBackground(const QColor& colour) {
 void NumberBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     paintBackground(kFocusedGreen);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    // Somebody who comes back from another window goes on typing where he was.
+    const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    if (comesBack && edited()) return;
     selectAll();
     selectOnRelease_ = event->reason() == Qt::MouseFocusReason;  // the press that follows would drop the selection
 }
