@@ -1,37 +1,78 @@
 #include "forms/help.h"
 
-#include <QCoreApplication>
-#include <QDesktopServices>
-#include <QDir>
+#include <QApplication>
+#include <QDialog>
 #include <QFileInfo>
-#include <QUrl>
+#include <QKeyEvent>
+
+#include "forms/help_window.h"
 
 namespace borvik {
 
 namespace {
 
-/// File of the page below the help folder.
-QString fileOf(HelpPage page) {
-    switch (page) {
-        case HelpPage::Contents: return "index.html";
-        case HelpPage::Search: return "search.html";
-        case HelpPage::Theory: return "theory.html";
+struct PageOfWindow {
+    const char* window;
+    const char* page;
+};
+
+constexpr PageOfWindow kPages[] = {
+    {"frmBorvik", "main-window.md"},
+    {"frmSetup", "setup.md"},
+    {"frmInfoSetup", "setup.md"},
+    {"frmBeam", "beam.md"},
+    {"frmProfile", "profile.md"},
+    {"frmProfReinf", "reinforcement.md"},
+    {"frmRail", "rail.md"},
+    {"frmvipping", "lateral-torsional-buckling.md"},
+    {"frmLoad", "loads-overhead-crane.md"},
+    {"frmLoadRunway", "loads-monorail.md"},
+    {"frmFatigue1", "fatigue-overhead-crane.md"},
+    {"frmFatigue2", "fatigue-monorail.md"},
+    {"frmProgress", "calculating.md"},
+    {"frmTemp", "crane-positions.md"},
+    {"frmDetailedResult", "detailed-results.md"},
+    {"frmabout", "index.md"},
+};
+
+/// @param over  owner of the help window; an owner's open help window is used again
+HelpWindow* openHelp(QWidget* over, Messages& messages) {
+    const QFileInfo contents(QString(kHelpPath) + ":index.md");
+    if (!contents.exists()) {
+        messages.show("The help pages are missing: they belong into the folder docs/help beside the section tables.");
+        return nullptr;
     }
-    return {};
+    auto* window = over == nullptr ? nullptr : over->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
+    if (window == nullptr) window = new HelpWindow(contents.absolutePath(), over);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    return window;
 }
 
 }  // namespace
 
 void showHelp(HelpPage page, Messages& messages) {
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char* folder : {"help", "../share/doc/borvik/help"}) {
-        const QString path = program.absoluteFilePath(QLatin1String(folder) + QLatin1Char('/') + fileOf(page));
-        if (QFileInfo::exists(path)) {
-            QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::cleanPath(path)));
-            return;
-        }
-    }
-    messages.show("The help file " + program.absoluteFilePath("help/" + fileOf(page)).toStdString() + " is missing.");
+    HelpWindow* window = openHelp(QApplication::activeWindow(), messages);
+    if (window == nullptr) return;
+    window->showPage(page == HelpPage::Theory ? "../theory.md" : "index.md");
+    if (page == HelpPage::Search) window->goToSearch();
+}
+
+QString helpPageOf(const QWidget* window) {
+    for (; window != nullptr; window = window->parentWidget())
+        for (const PageOfWindow& known : kPages)
+            if (window->objectName() == known.window) return known.page;
+    return "index.md";
+}
+
+bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) return false;
+    QWidget* window = static_cast<QWidget*>(watched)->window();
+    if (qobject_cast<QDialog*>(window) == nullptr) return false;
+    if (HelpWindow* help = openHelp(window, messages_)) help->showPage(helpPageOf(window));
+    return true;
 }
 
 }  // namespace borvik

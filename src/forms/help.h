@@ -1,13 +1,34 @@
 #pragma once
 
+#include <QObject>
+#include <QWidget>
+
 #include "platform/messages.h"
 
 namespace borvik {
 
-/// The documents that the Help menu opens.
+/// Where the help pages are found: Qt's search path of this name, which the program sets to the folder of the pages.
+inline constexpr const char* kHelpPath = "help";
+
+/// What the Help menu opens.
 enum class HelpPage { Contents, Search, Theory };
 
-/// Opens a document beside the program; a missing one is said in a message.
+/// Opens the help window over the active window. A help that isn't there is said in a message.
 void showHelp(HelpPage page, Messages& messages);
+
+/// The help page of a window, by its name; that of the window it belongs to if it has none of its own.
+/// @return file below the help folder
+[[nodiscard]] QString helpPageOf(const QWidget* window);
+
+/// F1 in a form opens the form's own page. Installed on the application; the main window has its menu for it.
+class HelpKey : public QObject {
+public:
+    /// @param messages  must outlive it
+    explicit HelpKey(Messages& messages) : messages_(messages) {}
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Messages& messages_;
+};
 
 }  // namespace borvik
