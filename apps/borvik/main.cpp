@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 #include <iostream>
 #include <string_view>
 
+#include "forms/help.h"
 #include "forms/main_window.h"
 #include "forms/wheel_guard.h"
 #include "platform/data_folder.h"
@@ -19,14 +22,20 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setApplicationVersion(BORVIK_VERSION);
     QApplication::setDesktopFileName("borvik");
+    QApplication::setWindowIcon(QIcon::fromTheme("borvik"));
     WheelGuard wheelGuard;
     application.installEventFilter(&wheelGuard);
 
     QtMessages messages;
     QtQuestions questions;
     QtSettings settings;
+    HelpKey helpKey(messages);
+    application.installEventFilter(&helpKey);
+    const std::string data = FindDataFolder(ProgramFolder(argv[0]));
+    QDir::setSearchPaths(kHelpPath, {QString::fromStdString(data + "/docs/help")});
+    QDir::setSearchPaths(kExamplesPath, {QString::fromStdString(data + "/examples")});
     try {
-        Session session(LoadTables(FindDataFolder(ProgramFolder(argv[0]))));
+        Session session(LoadTables(data));
         MainWindow window(session, {messages, questions, settings});
         window.show();
         const QStringList arguments = QApplication::arguments();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
@@ -20,6 +21,9 @@
 #include "project/recent_files.h"
 
 namespace borvik {
+
+/// Where the example projects are found: Qt's search path of this name, which the program sets.
+inline constexpr const char* kExamplesPath = "examples";
 
 /// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files) and
 /// main_window_results.cpp (calculation and what it shows); menus are made in main_window_menus.cpp.
@@ -69,12 +73,14 @@ private:
     void buildMenus();
     void fill(QMenu* menu, std::initializer_list<MenuEntry> entries);
     QMenu* menu(QMenu* parent, const char* name, const char* caption);
+    void buildExampleEntries(QMenu* menu);
     void buildRecentEntries(QMenu* menu);
     void buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]);
 
     // Projects
     void newProject();
     void chooseAndOpen();
+    void openExample(const QFileInfo& file);
     void openRecent(int entry);
     bool saveTo(const std::string& path);
     void save();

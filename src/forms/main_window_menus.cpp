@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -52,6 +53,18 @@ void MainWindow::buildRecentEntries(QMenu* menu) {
     }
 }
 
+void MainWindow::buildExampleEntries(QMenu* menu) {
+    const QStringList folders = QDir::searchPaths(kExamplesPath);
+    const QFileInfoList files =
+        folders.isEmpty() ? QFileInfoList() : QDir(folders.first()).entryInfoList({"*.brvk"}, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files) {
+        QString caption = file.completeBaseName().replace('-', ' ');
+        caption[0] = caption[0].toUpper();
+        menu->addAction(caption, this, [this, file] { openExample(file); });
+    }
+    menu->menuAction()->setVisible(!menu->isEmpty());
+}
+
 void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]) {
     for (int i = 0; i < 4; ++i) {
         const int scope = i + 1;
@@ -71,8 +84,9 @@ void MainWindow::buildMenus() {
     fill(file, {{"mnuArkivNytt", "&New   ", QKeySequence::New, themeIcon("document-new", QStyle::SP_FileIcon),
                  [this] { newProject(); }},
                 {"mnuArkivÖppna", "&Open", QKeySequence::Open, themeIcon("document-open", QStyle::SP_DialogOpenButton),
-                 [this] { chooseAndOpen(); }},
-                {"mnuArkivLinje1"},
+                 [this] { chooseAndOpen(); }}});
+    buildExampleEntries(menu(file, "mnuExamples", "Open example"));
+    fill(file, {{"mnuArkivLinje1"},
                 {"mnuArkivSpara", "&Save", QKeySequence::Save, themeIcon("document-save", QStyle::SP_DialogSaveButton),
                  [this] { save(); }},
                 {"mnuArkivSparasom", "Save as", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),

@@ -60,6 +60,14 @@ bool MainWindow::openProject(const std::string& path) {
     return true;
 }
 
+void MainWindow::openExample(const QFileInfo& file) {
+    if (!load(file.filePath().toStdString())) return;
+    // Without its folder, so that saving makes a copy in the current folder and leaves the example as it is.
+    session_.context.FileName = session_.context.FileTitle = file.fileName().toStdString();
+    WritefrmInput();
+    showState();
+}
+
 void MainWindow::openRecent(int entry) {
     const std::string path = RescentFile::pathOf(recent_.captions().at(static_cast<std::size_t>(entry)));
     if (!QFile(QString::fromStdString(path)).open(QIODevice::ReadOnly)) {

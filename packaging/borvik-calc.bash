@@ -1,0 +1,29 @@
+# bash completion for borvik-calc
+
+# The names of tables or diagrams, as the program lists them when it is given an unknown one.
+_borvik_calc_names() {
+    borvik-calc --default "$@" 2>&1 | sed -n 's/.*one of //p' | tr -d ,
+}
+
+_borvik_calc() {
+    local current=$2 previous=$3
+    case $previous in
+        --table) mapfile -t COMPREPLY < <(compgen -W "$(_borvik_calc_names --table '?')" -- "$current") ;;
+        --diagram) mapfile -t COMPREPLY < <(compgen -W "$(_borvik_calc_names --png - --diagram '?')" -- "$current") ;;
+        --walk) mapfile -t COMPREPLY < <(compgen -W "plain fast" -- "$current") ;;
+        --scope) mapfile -t COMPREPLY < <(compgen -W "uls uls-sls all compressed" -- "$current") ;;
+        --tables) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
+        --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+        --fail-above) COMPREPLY=(1.0) ;;
+        *)
+            if [[ $current == -* ]]; then
+                mapfile -t COMPREPLY < <(compgen -W "--default --diagram --fail-above --help --json --png --quiet --report
+                    --save --scope --summary --table --tables --version --walk --xlsx" -- "$current")
+            else
+                mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
+            fi
+            ;;
+    esac
+}
+
+complete -o filenames -F _borvik_calc borvik-calc
