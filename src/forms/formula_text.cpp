@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <utility>
 
 namespace borvik {
 
@@ -9,13 +10,47 @@ namespace {
 
 const QHash<QString, QString>& signs() {
     static const QHash<QString, QString> table{
-        {"alpha", "α"},  {"beta", "β"},    {"gamma", "γ"},     {"Delta", "Δ"}, {"delta", "δ"}, {"varepsilon", "ε"},
-        {"eta", "η"},    {"lambda", "λ"},  {"mu", "μ"},        {"nu", "ν"},    {"pi", "π"},    {"rho", "ρ"},
-        {"sigma", "σ"},  {"tau", "τ"},     {"varphi", "φ"},    {"Phi", "Φ"},   {"chi", "χ"},   {"psi", "ψ"},
-        {"cdot", " · "}, {"times", " × "}, {"le", " ≤ "},      {"ge", " ≥ "},  {"ne", " ≠ "},  {"approx", " ≈ "},
-        {"pm", " ± "},   {"lvert", "|"},   {"rvert", "|"},     {"infty", "∞"}, {"dots", "…"},  {"sum", "Σ"},
-        {"to", " → "},   {"quad", "    "}, {"qquad", "     "}, {",", " "},     {";", " "},     {"%", "%"},
-        {"max", "max"},  {"min", "min"},   {"exp", "exp"},     {"{", "{"},     {"}", "}"},
+        {"alpha", "α"},
+        {"beta", "β"},
+        {"gamma", "γ"},
+        {"Delta", "Δ"},
+        {"delta", "δ"},
+        {"varepsilon", "ε"},
+        {"eta", "η"},
+        {"lambda", "λ"},
+        {"mu", "μ"},
+        {"nu", "ν"},
+        {"pi", "π"},
+        {"rho", "ρ"},
+        {"sigma", "σ"},
+        {"tau", "τ"},
+        {"varphi", "φ"},
+        {"Phi", "Φ"},
+        {"chi", "χ"},
+        {"psi", "ψ"},
+        {"cdot", " · "},
+        {"times", " × "},
+        {"le", " ≤ "},
+        {"ge", " ≥ "},
+        {"ne", " ≠ "},
+        {"approx", " ≈ "},
+        {"pm", " ± "},
+        {"lvert", "|"},
+        {"rvert", "|"},
+        {"infty", "∞"},
+        {"dots", "…"},
+        {"sum", "Σ"},
+        {"to", " → "},
+        {"quad", "&nbsp;&nbsp; "},
+        {"qquad", "&nbsp;&nbsp;&nbsp;&nbsp; "},
+        {",", " "},
+        {";", " "},
+        {"%", "%"},
+        {"max", "max"},
+        {"min", "min"},
+        {"exp", "exp"},
+        {"{", "{"},
+        {"}", "}"},
     };
     return table;
 }
@@ -61,19 +96,34 @@ private:
     QString item() {
         const QChar sign = tex_[at_++];
         if (sign == '\\') return command();
-        if (sign == '^') return "<sup>" + argument() + "</sup>";
-        if (sign == '_') return "<sub>" + argument() + "</sub>";
+        if (sign == '^') return "<sup>" + tight() + "</sup>";
+        if (sign == '_') return "<sub>" + tight() + "</sub>";
         if (sign == '{') {
             --at_;
             return argument();
         }
         if (sign.isSpace() || sign == '}') return {};
         if (sign.isLetter()) return "<i>" + QString(sign) + "</i>";
-        if (sign == '-') return afterOperand() ? " − " : "−";
-        if (sign == '+' || sign == '=') return " " + QString(sign) + " ";
-        if (sign == '<' || sign == '>') return " " + QString(sign).toHtmlEscaped() + " ";
-        if (sign == ',') return ", ";
+        if (sign == '-') return afterOperand() ? spaced("−") : "−";
+        if (QStringLiteral("+=<>").contains(sign)) return spaced(QString(sign).toHtmlEscaped());
+        if (sign == ',') return tight_ ? "," : ", ";
         return sign == '~' ? QString(" ") : QString(sign).toHtmlEscaped();
+    }
+
+    /// An index or a power, within which no room is left around signs.
+    QString tight() {
+        const bool before = std::exchange(tight_, true);
+        const QString html = argument();
+        tight_ = before;
+        return html;
+    }
+    [[nodiscard]] QString spaced(const QString& sign) const { return tight_ ? sign : " " + sign + " "; }
+
+    /// Whether a factor follows. A fraction on one line must be kept apart from it: "a/b · c".
+    [[nodiscard]] bool beforeFactor() const {
+        static const QRegularExpression factor(
+            "^\\s*(\\\\(?!right|cdot|times|le\\b|ge\\b|text|to\\b|q?quad|approx|,)|[A-Za-z0-9(])");
+        return factor.match(tex_.mid(at_)).hasMatch();
     }
 
     /// Whether the sign just read stands behind something that it can be taken from.
@@ -89,7 +139,8 @@ private:
         if (name.isEmpty()) name = tex_[at_++];
         if (name == "frac") {
             const QString upper = bracketed(argument());
-            return upper + "/" + bracketed(argument());
+            const QString fraction = upper + "/" + bracketed(argument());
+            return beforeFactor() ? fraction + " · " : fraction;
         }
         if (name == "sqrt") return root();
         if (name == "text" || name == "mathrm") return words();
@@ -123,6 +174,7 @@ private:
 
     const QString& tex_;
     qsizetype at_ = 0;
+    bool tight_ = false;
 };
 
 }  // namespace
