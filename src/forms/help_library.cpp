@@ -120,16 +120,20 @@ HelpLibrary::HelpLibrary(const QString& folder) : folder_(folder) {
         if (const auto heading = groupLine.match(line); heading.hasMatch()) group = heading.captured(1);
         const auto entry = pageLine.match(line);
         if (!entry.hasMatch()) continue;
-        QTextDocument document;
         pages_.append({entry.captured(2), entry.captured(1), group});
-        show(entry.captured(2), document);
-        plainTexts_.append(document.toPlainText());
     }
 }
 
 QList<HelpText> HelpLibrary::search(const QString& words) const {
     const QStringList wanted = words.split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
     if (wanted.isEmpty()) return {};
+    if (plainTexts_.isEmpty()) {
+        for (const HelpText& page : pages_) {
+            QTextDocument document;
+            show(page.file, document);
+            plainTexts_.append(document.toPlainText());
+        }
+    }
     QList<std::pair<qsizetype, HelpText>> found;
     for (qsizetype i = 0; i < pages_.size(); ++i) {
         qsizetype weight = 0;

@@ -35,7 +35,7 @@ public:
 private:
     QDir folder_;
     QList<HelpText> pages_;
-    QStringList plainTexts_;  ///< one for each page, for the search
+    mutable QStringList plainTexts_;  ///< one for each page, made for the first search
 };
 
 /// Fills a document from Markdown with formulas between dollar signs.
