@@ -80,7 +80,8 @@ WalkSteps::WalkSteps(const Project& project, int cranes) {
     T = (project.StartStopOutside != 0 ? beam + length : beam - length) / 200;
     if (std::floor(T) > std::numeric_limits<std::int16_t>::max())
         throw RuntimeFault("overflow: the beam is too long, the walk counts its positions to 32767");
-    N1 = project.Fixerad ? 0 : static_cast<int>(std::floor(T));
+    // Wheel distances far below zero, of a damaged file, leave no position at all.
+    N1 = project.Fixerad ? 0 : static_cast<int>(std::fmax(std::floor(T), -1));
     secondCraneMoves = cranes != 1 && !project.Fixerad && project.MinDistConst != 1.0;
 }
 
