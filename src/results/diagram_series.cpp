@@ -250,7 +250,6 @@ std::string signRemark(Diagram diagram, const DiagramData& data) {
     if (stress.crane == 0) return "";
     if (data.results != nullptr && !stressSet(data, stress.crane)) return "both cranes run as one train: see crane 1";
     if (stress.range) return "";
-    if (stress.range) return "";
     switch (stress.quantity) {
         case StressDiagram::Quantity::Top:
             return "Max/Min, + tension";

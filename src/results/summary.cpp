@@ -61,8 +61,9 @@ std::string lineOf(const std::vector<TableCell>& row, const std::vector<std::siz
 }  // namespace
 
 std::string PlainText(const ResultTable& table) {
-    std::vector<std::vector<TableCell>> lines{{}};
-    for (const TableColumn& column : table.columns) lines[0].push_back({column.header, Emphasis::None, {}, {}});
+    std::vector<TableCell> headers;
+    for (const TableColumn& column : table.columns) headers.push_back({column.header, Emphasis::None, {}, {}});
+    std::vector<std::vector<TableCell>> lines{headers};
     lines.insert(lines.end(), table.rows.begin(), table.rows.end());
 
     std::vector<std::size_t> widths(table.columns.size());

@@ -52,7 +52,7 @@ QtSurface::QtSurface(QPainter& painter, const QRectF& area, double textScale)
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter_.setBrush(Qt::NoBrush);
     applyPen();
-    setFont({});
+    QtSurface::setFont({});
 }
 
 QPointF QtSurface::toArea(Place place) const {
