@@ -14,6 +14,7 @@
 #include "forms/diagram_view.h"
 #include "forms/dialogs.h"
 #include "forms/frm_progress.h"
+#include "forms/printing.h"
 #include "forms/project_panel.h"
 #include "forms/result_table_view.h"
 #include "forms/result_tree_view.h"
@@ -75,7 +76,8 @@ private:
     QMenu* menu(QMenu* parent, const char* name, const char* caption);
     void buildExampleEntries(QMenu* menu);
     void buildRecentEntries(QMenu* menu);
-    void buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]);
+    void buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4],
+                           PrintCommand command);
 
     // Projects
     void newProject();
@@ -100,7 +102,7 @@ private:
     void showTable(const std::string& name);
     void ShowTreeView();
     void ShowTreeViewResults();
-    void print(int scope);
+    void print(int scope, PrintCommand command);
 
     void showState();
     void showGoverning();

@@ -65,12 +65,14 @@ void MainWindow::buildExampleEntries(QMenu* menu) {
     menu->menuAction()->setVisible(!menu->isEmpty());
 }
 
-void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4]) {
+void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4],
+                                   PrintCommand command) {
     for (int i = 0; i < 4; ++i) {
         const int scope = i + 1;
-        fill(menu, {{names[i], captions[i], {}, themeIcon("document-print", QStyle::SP_FileIcon), [this, scope] {
-                         print(scope);
-                     }}});
+        fill(menu,
+             {{names[i], captions[i], {}, themeIcon("document-print", QStyle::SP_FileIcon), [this, scope, command] {
+                   print(scope, command);
+               }}});
         if (!canPrint()) {
             menu->actions().constLast()->setEnabled(false);
             menu->actions().constLast()->setStatusTip(tr("This version can't print"));
@@ -79,6 +81,7 @@ void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], c
 }
 
 void MainWindow::buildMenus() {
+    static constexpr const char* kScopes[4] = {"ULS", "ULS+SLS", "ULS+SLS+FLS", "Compressed"};
     const QIcon form = pictureIcon(Picture::Form);
     QMenu* file = menu(nullptr, "mnuArkiv", "&File");
     fill(file, {{"mnuArkivNytt", "&New   ", QKeySequence::New, themeIcon("document-new", QStyle::SP_FileIcon),
@@ -94,7 +97,12 @@ void MainWindow::buildMenus() {
                 {"mnuArkivLinje2"}});
     buildPrintEntries(menu(file, "LmnuPrint", "Print"),
                       {"LmnuPrintULS", "LmnuPrintULSSLS", "LmnuPrintALL", "LmnuPrintCompressed"},
-                      {"Print ULS", "Print ULS+SLS", "Print ULS+SLS+FLS ", "Print Compressed"});
+                      {"Print ULS", "Print ULS+SLS", "Print ULS+SLS+FLS ", "Print Compressed"}, printReport);
+    buildPrintEntries(menu(file, "mnuPreview", "Print preview"),
+                      {"mnuPreviewULS", "mnuPreviewULSSLS", "mnuPreviewAll", "mnuPreviewCompressed"}, kScopes,
+                      previewReport);
+    buildPrintEntries(menu(file, "mnuPdf", "Print to PDF"),
+                      {"mnuPdfULS", "mnuPdfULSSLS", "mnuPdfAll", "mnuPdfCompressed"}, kScopes, saveReportAsPdf);
     buildRecentEntries(file);
     fill(file, {{"mnuspace"},
                 {"mnuArkivAvsluta", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q),
@@ -120,7 +128,7 @@ void MainWindow::buildMenus() {
 
     QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
     buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},
-                      {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"});
+                      {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
     printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
 
     fill(menu(nullptr, "mnuHelp", "&Help"),

@@ -183,13 +183,13 @@ void MainWindow::showGoverning() {
     stateTime_->setToolTip(tr("Time of the calculation"));
 }
 
-void MainWindow::print(int scope) {
+void MainWindow::print(int scope, PrintCommand command) {
     if (running_ || !panel_->commit()) return;
     if (!session_.Calculated) {
         services_.messages.show("  Calculate before print  ");
         return;
     }
-    printReport(session_, scope, this);
+    command(session_, scope, this);
 }
 
 }  // namespace borvik

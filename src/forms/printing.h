@@ -13,15 +13,26 @@ enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCo
 
 /// False where this build cannot print: the commands are then disabled.
 [[nodiscard]] bool canPrint();
-/// Prints the report of the last calculation on a printer that the user chooses.
+
+// Without a calculation of the present input each of these shows "  Calculate before print  " and does no more; a
+// cancelled dialog leaves everything as it was.
+
+/// Prints the report of the last calculation on a printer that the user chooses, the pages and copies asked for.
 /// @param scope   1 ULS, 2 ULS+SLS, 3 ULS+SLS+FLS, 4 compressed
 /// @param parent  owner of the print dialog
-/// @pre the session is calculated
 void printReport(Session& session, int scope, QWidget* parent);
+/// Shows the pages before they are printed, and prints them from there.
+void previewReport(Session& session, int scope, QWidget* parent);
+/// Saves the report as PDF to a file that the user chooses.
+void saveReportAsPdf(Session& session, int scope, QWidget* parent);
+
+/// One of the three above.
+using PrintCommand = void (*)(Session& session, int scope, QWidget* parent);
 
 /// False where this build has no spreadsheet export: the commands are then disabled.
 [[nodiscard]] bool canExportTable();
-/// Writes the table as a spreadsheet to a file that the user chooses.
+/// Writes the table to a new workbook and opens it in the user's spreadsheet program; saving it is up to the user.
+/// Where no such program is found a box says so and offers to save the file.
 void exportTable(const ResultTable& table, QWidget* parent);
 
 }  // namespace borvik

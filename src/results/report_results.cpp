@@ -74,7 +74,11 @@ public:
         };
         const double formulaLines = count(row.formula, equationWidth);
         const double referenceLines = count(row.reference, referenceWidth);
-        const double lines = std::max(formulaLines + count(row.numbers, equationWidth),
+        // Long numbers may take the whole width, below the reference.
+        const bool wide = row.cranes.empty() && count(row.numbers, equationWidth) > 1.0;
+        const double numbersWidth = wide ? page_.ColRight - equation_ : equationWidth;
+        const double numbersDown = wide ? std::max(formulaLines, referenceLines) : formulaLines;
+        const double lines = std::max(numbersDown + count(row.numbers, numbersWidth),
                                       referenceLines + count(row.cranes, referenceWidth));
         page_.need(lines + kRowGap);
         const double top = page_.PrintY;
@@ -84,8 +88,8 @@ public:
         // A mark beside the colour, for paper without any.
         if (row.overLimit) page_.putBlock(ratio_ + 0.6, 3.0, "!!", kFailed);
         page_.putBlock(reference_, referenceWidth, trimmed(row.reference));
-        page_.PrintY = top + formulaLines;
-        if (!row.numbers.empty()) page_.putBlock(equation_, equationWidth, row.numbers);
+        page_.PrintY = top + numbersDown;
+        if (!row.numbers.empty()) page_.putBlock(equation_, numbersWidth, row.numbers);
         page_.PrintY = top + referenceLines;
         if (!row.cranes.empty()) page_.putBlock(reference_, referenceWidth, row.cranes, kQuiet);
         page_.PrintY = top;
@@ -172,10 +176,11 @@ void deflectionRows(CheckList& list, const Project& project, const CheckResults&
     list.group("Governing");
     list.row(deflectionRow("", checks.DefZGov));
     if (project.HasLoadsY) list.row(deflectionRow("", checks.DefYGov));
-    list.group("Span: ");
+    list.group("Every span");
     for (int span = 1; span <= project.NofSpans; ++span) {
-        list.row(deflectionRow(std::to_string(span), checks.DefZSpan(span)));
-        if (project.HasLoadsY) list.row(deflectionRow(std::to_string(span), checks.DefYSpan(span)));
+        const std::string place = "Span: " + std::to_string(span);
+        list.row(deflectionRow(place, checks.DefZSpan(span)));
+        if (project.HasLoadsY) list.row(deflectionRow(place, checks.DefYSpan(span)));
     }
 }
 
