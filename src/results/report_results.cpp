@@ -40,7 +40,7 @@ public:
     explicit CheckList(ReportPage& page) : page_(page) {
         const double w = page.width();
         place_ = page.ColLeft;
-        equation_ = place_ + 0.10 * w;
+        equation_ = place_ + 0.12 * w;
         ratio_ = place_ + 0.60 * w;
         reference_ = place_ + 0.645 * w;
         page_.afterBreak = [this] { head(); };

@@ -3,9 +3,12 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <memory>
 
@@ -127,6 +130,8 @@ std::string SaveSpreadsheet(const std::string& file, const ResultTable& table, c
     const std::string unfinished = file + ".part";
     std::error_code failed;
     std::string problem;
+    // The library tells of a file that can't be made on standard error only.
+    if (!std::ofstream(unfinished)) return std::strerror(errno);
     {
         Workbook workbook(unfinished);
         if (!workbook.isOpen()) return "out of memory";

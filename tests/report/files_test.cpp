@@ -18,13 +18,13 @@ namespace {
 
 using namespace testing_support;
 
-struct Run {
+struct Answer {
     int exitCode = -1;
     std::string output;
 };
 
-Run run(const std::string& command) {
-    Run result;
+Answer run(const std::string& command) {
+    Answer result;
     std::FILE* pipe = ::popen((command + " 2>&1").c_str(), "r");
     std::array<char, 4096> buffer{};
     while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
@@ -42,7 +42,7 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 /// The cells of a workbook as an independent reader finds them: row, column, type ("n" or "s"), value, number format.
 /// Below them the alignment of column A and the widths of the columns.
-Run readBack(const std::string& file) {
+Answer readBack(const std::string& file) {
     return run(
         "python3 -c '\n"
         "import openpyxl, sys\n"
@@ -64,7 +64,7 @@ TEST(SpreadsheetFile, holdsTheTextsOfTheTableWithNumbersAsNumbers) {
         const ResultTable table = entry.fill(session.project, *session.results);
         const std::string file = folder.file(std::string(entry.name) + ".xlsx");
         ASSERT_EQ(SaveSpreadsheet(file, table, entry.title), "");
-        const Run read = readBack(file);
+        const Answer read = readBack(file);
         ASSERT_EQ(read.exitCode, 0) << read.output;
         std::vector<std::string> lines = linesOf(read.output);
         ASSERT_GT(lines.size(), 2U);
@@ -115,8 +115,8 @@ TEST(SpreadsheetFile, failureLeavesTheOldFileAndNothingElse) {
 TEST(SpreadsheetFile, commandLineWritesIt) {
     const TempFolder folder;
     calculatedAndSaved(Sample::OneCrane, folder.file("p.brvk"));
-    const Run made = run(std::string(BORVIK_CALC) + " --quiet " + folder.file("p.brvk") + " --table Reactions --xlsx " +
-                         folder.file("r.xlsx"));
+    const Answer made = run(std::string(BORVIK_CALC) + " --quiet " + folder.file("p.brvk") +
+                            " --table Reactions --xlsx " + folder.file("r.xlsx"));
     EXPECT_EQ(made.exitCode, 0) << made.output;
     EXPECT_EQ(made.output, "");
     EXPECT_EQ(linesOf(readBack(folder.file("r.xlsx")).output).size(), 5U + 4U * 5U + 2U);
@@ -126,7 +126,8 @@ TEST(SpreadsheetFile, commandLineWritesIt) {
 
 std::string report(const TempFolder& folder, const std::string& project, const std::string& scope) {
     const std::string file = folder.file(scope + ".pdf");
-    const Run made = run(std::string(BORVIK_CALC) + " --quiet " + project + " --report " + file + " --scope " + scope);
+    const Answer made =
+        run(std::string(BORVIK_CALC) + " --quiet " + project + " --report " + file + " --scope " + scope);
     EXPECT_EQ(made.exitCode, 0) << made.output;
     return file;
 }
@@ -200,7 +201,7 @@ TEST(ReportFile, thereIsNoneWithoutResults) {
     Session session = calculated(Sample::OneCrane);
     session.project.Span(2) = 0;  // a gap, which the input check refuses
     SaveProject(folder.file("p.brvk"), session.project);
-    const Run made =
+    const Answer made =
         run(std::string(BORVIK_CALC) + " --quiet " + folder.file("p.brvk") + " --report " + folder.file("p.pdf"));
     EXPECT_EQ(made.exitCode, 3) << made.output;
     EXPECT_NE(made.output.find("no report without results"), std::string::npos);
