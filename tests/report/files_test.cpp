@@ -44,7 +44,7 @@ std::vector<std::string> linesOf(const std::string& text) {
 /// Below them the alignment of column A and the widths of the columns.
 Answer readBack(const std::string& file) {
     return run(
-        "python3 -c '\n"
+        "/usr/bin/python3 -c '\n"
         "import openpyxl, sys\n"
         "sheet = openpyxl.load_workbook(sys.argv[1]).active\n"
         "for row in sheet.iter_rows():\n"
