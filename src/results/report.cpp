@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "platform/version.h"
 #include "results/report_chapters.h"
+#include "results/tables.h"
 
 namespace borvik {
 namespace {
@@ -68,12 +69,40 @@ void printUlsDiagrams(Report& report, const DiagramData& data) {
     report.page.diagram(Diagram::UlsMyVz, data, kForceScale, kForceStep);
 }
 
+/// The reactions as a list, for beams of so many spans that their diagram has no room for all the numbers.
+void printManyReactions(Report& report) {
+    constexpr int kSpansOfADiagram = 8;
+    if (report.project.NofSpans <= kSpansOfADiagram) return;
+    ReportPage& page = report.page;
+    const ResultTable table = TableReactions(report.project, report.results);
+    const double column = page.width() / static_cast<double>(table.columns.size());
+    const auto at = [&](std::size_t number) { return page.ColLeft + static_cast<double>(number) * column; };
+    const auto head = [&] {
+        for (std::size_t c = 0; c < table.columns.size(); ++c)
+            page.put(at(c), table.columns[c].header, {false, colours::grey});
+        page.advance(1.2);
+    };
+    page.need(6.0);
+    page.put(page.ColLeft, "ULS - Reactions (kN)", {true});
+    page.advance(1.2);
+    head();
+    page.afterBreak = head;
+    for (const std::vector<TableCell>& row : table.rows) {
+        page.need(1.0);
+        for (std::size_t c = 0; c < row.size(); ++c) page.put(at(c), row[c].text);
+        page.advance(1.0);
+    }
+    page.afterBreak = nullptr;
+    page.advance(1.0);
+}
+
 void PrintFull(Report& report, const DiagramData& data) {
     ReportPage& page = report.page;
     printInput(report, true);
     printUlsDiagrams(report, data);
     page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
+    printManyReactions(report);
     page.newPage();
     page.advance(0.5);
     for (const Diagram diagram :
@@ -92,6 +121,7 @@ void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
     if (scope != ReportScope::Uls) page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     if (compressed || (scope == ReportScope::UlsSls && report.project.HasLoadsY))
         page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
+    printManyReactions(report);
     if (!compressed) return;
     page.newPage();
     page.advance(0.5);

@@ -278,6 +278,19 @@ TEST(Report, inputChaptersTellTheProject) {
         EXPECT_NE(thirty.find("\n" + std::to_string(number) + " - "), std::string::npos) << "section " << number;
 }
 
+TEST(Report, longBeamsListTheirReactions) {
+    const Session& session = sessionOf(Sample::ThirtySpans);
+    const ResultTable table = TableReactions(session.project, *session.results);
+    for (const ReportScope scope : kScopes) {
+        const std::string text = printed(Sample::ThirtySpans, scope).text();
+        std::vector<std::string> rows{"ULS - Reactions (kN)"};
+        for (const std::vector<TableCell>& row : table.rows)
+            for (const TableCell& cell : row) rows.push_back("\n" + cell.text);
+        EXPECT_EQ(firstMissing(text, rows), "") << int(scope);
+    }
+    EXPECT_EQ(printed(Sample::OneCrane, ReportScope::All).text().find("ULS - Reactions (kN)"), std::string::npos);
+}
+
 TEST(Report, pageRangeKeepsPagesAndNumbersOfTheWhole) {
     const RecordingPrinter whole = printed(Sample::ThirtySpans, ReportScope::All);
     RecordingPrinter some(kA4.width, kA4.height);
