@@ -7,6 +7,7 @@
 #include "forms/dialogs.h"
 #include "forms/frm_about.h"
 #include "forms/frm_detailed_result.h"
+#include "forms/help_window.h"
 #include "forms/info_picture.h"
 #include "forms/main_window.h"
 #include "pictures/fatigue_pictures.h"
@@ -145,6 +146,10 @@ int main(int argc, char** argv) {
     detailed.show();
     choose(detailed, "Static");
     camera.take(detailed, "detailed-results");
+    HelpWindow help(BORVIK_SOURCE_DIR "/docs/help", &window);
+    help.showPage("rail.md");
+    help.show();
+    camera.take(help, "help");
     FrmTemp steps(window.calculation(), &window);
     steps.show();
     camera.take(steps, "steps");
