@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTimer>
@@ -179,6 +180,56 @@ TEST_F(WholeWork, IsDoneSavedAndFoundAgain) {
     EXPECT_EQ(again.project(), made);
     EXPECT_FALSE(again.session.Calculated);
     EXPECT_EQ(calculatedSummary(again), summary);
+}
+
+/// The steps of docs/help/tutorial.md as they stand there: a beginner must get through them without a refusal, to a
+/// beam that holds.
+TEST_F(WholeWork, theTutorialWorksAsWritten) {
+    WindowFixture program;
+    program.questions.answers = {Answer::No};
+    program.trigger("mnuArkivNytt");
+    inForm(program, "mnuProfile", "frmProfile", "Command1", [](OpenForm form) {
+        form.choose("cboEuprofile", "HEB 400");
+        form.click("addtoDBIu");
+        form.click("OptLoadL1");
+    });
+    inForm(program, "mnuBeam", "frmBeam", "cmdOK", [](OpenForm form) {
+        auto& rows = form.control<QTreeWidget>("lstViewTill");
+        const auto select = [&rows](int number) {
+            rows.clearSelection();
+            rows.setCurrentItem(rows.topLevelItem(number - 1));
+        };
+        select(3);
+        QTest::keyClick(&rows, Qt::Key_Delete);
+        select(1);
+        form.enter("txtBeamLength", "6000");
+        form.choose("cboProf", "HEB 400");
+        form.click("Command1");
+        form.control<QAbstractButton>("chkDead").setChecked(true);
+    });
+    inForm(program, "mnuRail", "frmRail", "cmdOK", [](OpenForm form) {
+        form.choose("cboRail", "A 55");
+        form.click("optRail2");
+    });
+    inForm(program, "mnuLoad", "frmLoad", "cmdOK", [](OpenForm form) {
+        form.click("optEn");
+        form.click("optRorlig");
+        form.choose("cboCraneClass1", "S4");
+        const std::pair<const char*, const char*> entries[] = {
+            {"txtPsiV1", "1.15"}, {"txtPsiH1", "1.5"}, {"txtV1", "70"},     {"txtH1", "8"},
+            {"txtV2", "70"},      {"txtH2", "-8"},     {"txtAvst1", "3000"}};
+        for (const auto& [box, text] : entries) form.enter(box, text);
+    });
+    inForm(program, "mnuFatigue", "frmFatigue1", "cmdOK", [](OpenForm form) {
+        form.click("Command10");
+        form.click("chkFat5");
+    });
+    calculatedSummary(program);
+    EXPECT_TRUE(program.messages.texts.empty()) << program.lastMessage();
+    EXPECT_EQ(program.project().NofSpans, 2);
+    EXPECT_EQ(program.project().SpanSection(2).DisplayName, "HEB 400");
+    EXPECT_FALSE(program.project().Fat5);
+    EXPECT_TRUE(program.control<QLabel>("stateGoverning").text().startsWith("\u2713"));
 }
 
 }  // namespace
