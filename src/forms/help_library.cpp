@@ -85,7 +85,8 @@ void frameTables(QTextDocument& document) {
         if (table == nullptr) continue;
         QTextTableFormat format = table->format();
         format.setBorderCollapse(true);
-        format.setBorder(0.5);
+        format.setBorder(1.0);
+        format.setBorderBrush(Qt::lightGray);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setCellPadding(3);
         table->setFormat(format);
