@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -39,12 +40,14 @@ int numberOfKills() {
     return wanted != nullptr ? std::atoi(wanted) : 60;
 }
 
-/// Saves first one, then the other, until it is killed.
-[[noreturn]] void saveForEver(const std::string& path, const Project& first, const Project& second) {
+/// Saves first one, then the other, until it is killed. Says by a byte in `pipe` that it has begun.
+[[noreturn]] void saveForEver(const std::string& path, const Project& first, const Project& second, int pipe) {
     try {
+        SaveProject(path, first);
+        if (::write(pipe, "!", 1) != 1) ::_exit(2);
         for (;;) {
-            SaveProject(path, first);
             SaveProject(path, second);
+            SaveProject(path, first);
         }
     } catch (...) {
         ::_exit(1);
@@ -68,10 +71,16 @@ TEST(KilledSave, leavesTheOldFileOrTheNewOne) {
     std::mt19937 random(20260101);
     std::ptrdiff_t halfway = 0;
     for (int kill = 1; kill <= numberOfKills(); ++kill) {
+        std::array<int, 2> begun{};
+        ASSERT_EQ(::pipe(begun.data()), 0);
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
-        if (child == 0) saveForEver(path, first, second);
-        ::usleep(static_cast<useconds_t>(500 + random() % 8000));
+        if (child == 0) saveForEver(path, first, second, begun[1]);
+        ::close(begun[1]);
+        char byte = 0;
+        ASSERT_EQ(::read(begun[0], &byte, 1), 1) << "the first save failed";
+        ::close(begun[0]);
+        ::usleep(static_cast<useconds_t>(random() % 8000));
         ASSERT_EQ(::kill(child, SIGKILL), 0);
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);
