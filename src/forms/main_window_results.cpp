@@ -189,7 +189,7 @@ void MainWindow::print(int scope, PrintCommand command) {
         services_.messages.show("  Calculate before print  ");
         return;
     }
-    command(session_, scope, this);
+    command(session_, scope, services_, this);
 }
 
 }  // namespace borvik

@@ -35,9 +35,9 @@ void show(const QString& text) {
 }
 
 /// True when there is something to print; else the user has been told.
-bool isReady(const Session& session) {
+bool isReady(const Session& session, const Services& services) {
     if (canReport(session)) return true;
-    show(QString::fromUtf8(kCalculateBeforePrint));
+    services.messages.show(kCalculateBeforePrint);
     return false;
 }
 
@@ -106,8 +106,8 @@ bool canPrint() {
     return true;
 }
 
-void printReport(Session& session, int scope, QWidget* parent) {
-    if (!isReady(session)) return;
+void printReport(Session& session, int scope, const Services& services, QWidget* parent) {
+    if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer, session, reportScope);
@@ -115,11 +115,12 @@ void printReport(Session& session, int scope, QWidget* parent) {
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
     if (dialog.exec() != QDialog::Accepted) return;
-    if (const QString failed = send(printer, session, reportScope); !failed.isEmpty()) show(failed);
+    if (const QString failed = send(printer, session, reportScope); !failed.isEmpty())
+        services.messages.show(failed.toStdString());
 }
 
-void previewReport(Session& session, int scope, QWidget* parent) {
-    if (!isReady(session)) return;
+void previewReport(Session& session, int scope, const Services& services, QWidget* parent) {
+    if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer, session, reportScope);
@@ -127,21 +128,22 @@ void previewReport(Session& session, int scope, QWidget* parent) {
     dialog.setWindowTitle(QObject::tr("Print preview"));
     if (parent != nullptr) dialog.resize(parent->window()->size());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
-        if (const QString failed = send(*target, session, reportScope); !failed.isEmpty()) show(failed);
+        if (const QString failed = send(*target, session, reportScope); !failed.isEmpty())
+            services.messages.show(failed.toStdString());
     });
     dialog.exec();
 }
 
-void saveReportAsPdf(Session& session, int scope, QWidget*) {
-    if (!isReady(session)) return;
+void saveReportAsPdf(Session& session, int scope, const Services& services, QWidget*) {
+    if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
-    const auto file = QtQuestions().fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
+    const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
     if (!file) return;
     const QString failed = savePdf(
         QString::fromStdString(*file), [&](Printer& printer) { PrintReport(printer, session, reportScope, now()); },
         defaultPageLayout(),
         {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
-    if (!failed.isEmpty()) show(QString::fromStdString(*file) + ": " + failed);
+    if (!failed.isEmpty()) services.messages.show(*file + ": " + failed.toStdString());
 }
 
 bool canExportTable() {

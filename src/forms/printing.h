@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "calculation/session.h"
+#include "forms/services.h"
 
 namespace borvik {
 
@@ -19,15 +20,16 @@ enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCo
 
 /// Prints the report of the last calculation on a printer that the user chooses, the pages and copies asked for.
 /// @param scope   1 ULS, 2 ULS+SLS, 3 ULS+SLS+FLS, 4 compressed
+/// @param services  where messages and questions go
 /// @param parent  owner of the print dialog
-void printReport(Session& session, int scope, QWidget* parent);
+void printReport(Session& session, int scope, const Services& services, QWidget* parent);
 /// Shows the pages before they are printed, and prints them from there.
-void previewReport(Session& session, int scope, QWidget* parent);
+void previewReport(Session& session, int scope, const Services& services, QWidget* parent);
 /// Saves the report as PDF to a file that the user chooses.
-void saveReportAsPdf(Session& session, int scope, QWidget* parent);
+void saveReportAsPdf(Session& session, int scope, const Services& services, QWidget* parent);
 
 /// One of the three above.
-using PrintCommand = void (*)(Session& session, int scope, QWidget* parent);
+using PrintCommand = void (*)(Session& session, int scope, const Services& services, QWidget* parent);
 
 /// False where this build has no spreadsheet export: the commands are then disabled.
 [[nodiscard]] bool canExportTable();
