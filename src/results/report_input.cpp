@@ -39,11 +39,19 @@ std::string className(int craneClass) {
     return craneClass >= CraneClassName.first && craneClass <= CraneClassName.last ? CraneClassName(craneClass) : "";
 }
 
-/// "1, 2, 4": the spans that have a section.
+/// "1, 2, 4" or "1-30": the spans that have a section; more than three in a row stand as a range, so that a long beam
+/// keeps to its line.
 std::string spansOf(const DistinctSections& sections, int number, int spans) {
     std::string text;
-    for (int span = 1; span <= spans; ++span)
-        if (sections.numberOf(span) == number) text += (text.empty() ? "" : ", ") + std::to_string(span);
+    for (int span = 1; span <= spans; ++span) {
+        if (sections.numberOf(span) != number) continue;
+        int last = span;
+        while (last < spans && sections.numberOf(last + 1) == number) ++last;
+        text += (text.empty() ? "" : ", ") + std::to_string(span);
+        if (last - span < 3) continue;
+        text += "-" + std::to_string(last);
+        span = last;
+    }
     return text;
 }
 

@@ -278,6 +278,17 @@ TEST(Report, inputChaptersTellTheProject) {
         EXPECT_NE(thirty.find("\n" + std::to_string(number) + " - "), std::string::npos) << "section " << number;
 }
 
+/// Thirty numbers would run into the name of the section.
+TEST(Report, manySpansOfOneSectionStandAsARange) {
+    Session session = calculated(Sample::ThirtySpans);
+    for (int span = 2; span <= 29; ++span) session.project.SpanSection(span) = session.project.SpanSection(1);
+    RecordingPrinter printer(kA4.width, kA4.height);
+    PrintReport(printer, session, ReportScope::Uls, {"2026-03-01", "9:05"});
+    const std::string text = printer.text();
+    EXPECT_NE(text.find("Span: 1-29"), std::string::npos);
+    EXPECT_NE(text.find("Span: 30"), std::string::npos);
+}
+
 TEST(Report, longBeamsListTheirReactions) {
     const Session& session = sessionOf(Sample::ThirtySpans);
     const ResultTable table = TableReactions(session.project, *session.results);
