@@ -16,13 +16,16 @@ bool onGrid(double x) {
     return std::abs(x) < 0x1p24 && std::fmod(x, 0x1p-28) == 0;
 }
 
-/// The method rests on wheels in ascending order and on supports at exact positions.
+/// The method rests on wheels in ascending order, on supports at exact positions and, for its error bound, on a beam of
+/// positive stiffness. Anything else, such as the nonsense of a damaged file, is walked plainly.
 bool applies(const LoadedBeam& loaded) {
     const Beam& beam = loaded.beam;
     const RunLoads& loads = loaded.placer.loads();
     if (!std::all_of(loads.WheelGap.begin(), loads.WheelGap.end(), [](Single gap) { return gap >= 0; })) return false;
-    for (int i = 1; i <= beam.n; ++i)
+    for (int i = 1; i <= beam.n; ++i) {
         if (beam.Cum[i] - beam.Cum[i - 1] != beam.L[i] || beam.L[i] <= 0) return false;
+        if (!(beam.Iy[i] > 0 && beam.Iz[i] > 0)) return false;
+    }
     return loaded.placer.minAvst() >= 0;
 }
 

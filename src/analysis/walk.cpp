@@ -49,13 +49,6 @@ PositionLog logPositions(const WalkSteps& steps, const WheelPlacer& placer) {
     return log;
 }
 
-/// The bounds of the fast walk rest on a beam of positive stiffness. The nonsense of a damaged file is walked plainly.
-bool hasStiffness(const Project& project) {
-    for (int i = 1; i <= project.NofSpans; ++i)
-        if (!(project.SpanSection(i).Iy > 0.0 && project.SpanSection(i).Iz > 0.0)) return false;
-    return true;
-}
-
 /// The frame that the three walks share: the fit of the cranes, the results at zero, all positions, the log.
 /// @param log  filled, or null for a walk that keeps none
 template <class Results, class Post>
@@ -72,8 +65,7 @@ Results runWalk(const char* name, Walk walk, const Project& project, const RunLo
         const WalkSteps steps(project, loads.NCranes);
         progress.walkStarts(walk);
         if (log != nullptr) results.*log = logPositions(steps, loaded.placer);
-        const bool plain = method == WalkMethod::Plain || !hasStiffness(project);
-        if (plain || !walkFast(steps, loaded, Post::quantity, post, walk, progress))
+        if (method == WalkMethod::Plain || !walkFast(steps, loaded, Post::quantity, post, walk, progress))
             walkPlain(steps, loaded, post, walk, progress);
         progress.walkEnds(walk);
     });
