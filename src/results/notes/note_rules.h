@@ -1,0 +1,55 @@
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+
+#include "calculation/calculation.h"
+#include "notes/notes.h"
+
+namespace borvik {
+
+// The catalogue by chapters, each in the order of its keys.
+[[nodiscard]] std::span<const NoteRule> loadNotes();        // A: loads and walk
+[[nodiscard]] std::span<const NoteRule> sectionNotes();     // B: sections and their resistance
+[[nodiscard]] std::span<const NoteRule> bendingNotes();     // C: checks of the cross-section
+[[nodiscard]] std::span<const NoteRule> wheelNotes();       // D: wheel loads
+[[nodiscard]] std::span<const NoteRule> deflectionNotes();  // E: deflection
+[[nodiscard]] std::span<const NoteRule> bucklingNotes();    // F: lateral torsional buckling
+[[nodiscard]] std::span<const NoteRule> fatigueNotes();     // G: fatigue
+[[nodiscard]] std::span<const NoteRule> rowNotes();         // H: what the rows show
+[[nodiscard]] std::span<const NoteRule> missingNotes();     // I: checks of the standards that the program doesn't make
+
+/// A finding with no number: the rule matters here, and that is all.
+[[nodiscard]] inline std::optional<NoteFinding> matters(bool here, std::string remark = "") {
+    if (!here) return std::nullopt;
+    return NoteFinding{{}, std::move(remark)};
+}
+
+/// A finding of one ratio.
+[[nodiscard]] inline NoteFinding changed(std::string what, double shown, double other) {
+    return NoteFinding{{{std::move(what), shown, other}}, ""};
+}
+
+/// "bending, span 2"
+[[nodiscard]] inline std::string inSpan(const char* what, int span) {
+    return std::string(what) + ", span " + std::to_string(span);
+}
+
+/// The same project calculated with something changed: a copy of the session after `change(Session&)` has run on it.
+/// nullopt where the changed project is refused or ends in a fault.
+template <class Change>
+[[nodiscard]] std::optional<Session> recalculated(const Session& session, Change change) {
+    struct : Messages {
+        void show(const std::string&) override {}
+    } silent;
+    Progress progress;
+    Session copy = session;
+    change(copy);
+    if (!Calculate(copy, silent, progress)) return std::nullopt;
+    return copy;
+}
+
+}  // namespace borvik

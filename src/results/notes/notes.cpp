@@ -1,0 +1,136 @@
+#include "notes/notes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include "base/fault.h"
+#include "base/number_text.h"
+#include "notes/note_rules.h"
+
+namespace borvik {
+
+namespace {
+
+std::string written(const NoteChange& change, double number) {
+    return formatNumber(number, change.mask);
+}
+
+/// Finite, and different in the digits that are shown.
+bool shows(const NoteChange& change) {
+    return std::isfinite(change.shown) && std::isfinite(change.other) &&
+           written(change, change.shown) != written(change, change.other);
+}
+
+/// What the rule finds, in order; nullopt where none of its numbers shows a difference.
+std::optional<NoteFinding> found(const NoteRule& rule, const Session& session) {
+    std::optional<NoteFinding> finding;
+    try {
+        watched("Notes", 0, [&] { finding = rule.find(session); });
+    } catch (const RuntimeFault&) {
+        return NoteFinding{};
+    }
+    if (!finding || finding->changes.empty()) return finding;
+    auto& changes = finding->changes;
+    std::erase_if(changes, [](const NoteChange& change) { return !shows(change); });
+    if (changes.empty()) return std::nullopt;
+    std::stable_sort(changes.begin(), changes.end(),
+                     [](const NoteChange& a, const NoteChange& b) { return a.growth() > b.growth(); });
+    return finding;
+}
+
+double growthOf(const Note& note) {
+    return note.finding.changes.empty() ? 0.0 : std::max(0.0, note.finding.changes.front().growth());
+}
+
+bool before(const Note& a, const Note& b) {
+    if (growthOf(a) != growthOf(b)) return growthOf(a) > growthOf(b);
+    return a.rule->effect < b.rule->effect;
+}
+
+std::vector<NoteRule> allRules() {
+    std::vector<NoteRule> rules;
+    for (const auto chapter : {loadNotes(), sectionNotes(), bendingNotes(), wheelNotes(), deflectionNotes(),
+                               bucklingNotes(), fatigueNotes(), rowNotes(), missingNotes()})
+        rules.insert(rules.end(), chapter.begin(), chapter.end());
+    return rules;
+}
+
+}  // namespace
+
+std::span<const NoteRule> noteRules() {
+    static const std::vector<NoteRule> rules = allRules();
+    return rules;
+}
+
+const NoteRule* findNoteRule(std::string_view key) {
+    const auto rules = noteRules();
+    const auto rule = std::find_if(rules.begin(), rules.end(), [&](const NoteRule& each) { return key == each.key; });
+    return rule == rules.end() ? nullptr : &*rule;
+}
+
+const char* nameOf(NoteCheck check) {
+    switch (check) {
+        case NoteCheck::General:
+            return "Loads and beam";
+        case NoteCheck::Section:
+            return "Shear and bending";
+        case NoteCheck::LateralBuckling:
+            return "Lateral torsional buckling";
+        case NoteCheck::WheelLoad:
+            return "Wheel loads";
+        case NoteCheck::VonMises:
+            return "Von Mises stress";
+        case NoteCheck::Deflection:
+            return "Deflection";
+        case NoteCheck::Fatigue:
+            return "Fatigue";
+    }
+    return "";
+}
+
+const char* nameOf(NoteEffect effect) {
+    switch (effect) {
+        case NoteEffect::Unsafe:
+            return "unsafe";
+        case NoteEffect::Either:
+            return "either";
+        case NoteEffect::Information:
+            return "information";
+    }
+    return "";
+}
+
+Notes ProjectNotes(const Session& session) {
+    Notes notes;
+    if (!session.Calculated || !session.results) return notes;
+    for (const NoteRule& rule : noteRules()) {
+        std::optional<NoteFinding> finding = found(rule, session);
+        if (!finding) continue;
+        if (rule.assumption) {
+            notes.assumptions.push_back(&rule);
+        } else {
+            notes.notes.push_back({&rule, std::move(*finding)});
+        }
+    }
+    std::stable_sort(notes.notes.begin(), notes.notes.end(), before);
+    return notes;
+}
+
+std::string changeText(const NoteChange& change) {
+    return change.what + ": " + written(change, change.other) + " instead of " + written(change, change.shown);
+}
+
+std::string noteText(const Note& note) {
+    const NoteRule& rule = *note.rule;
+    std::string text = rule.says;
+    if (!note.finding.remark.empty()) text += " Here: " + note.finding.remark + ".";
+    if (!note.finding.changes.empty()) {
+        const std::string with = rule.with;
+        text += " " + (with.empty() ? "" : with + ", ") + changeText(note.finding.changes.front()) + ".";
+    }
+    if (*rule.clause != '\0') text += std::string(" (") + rule.clause + ")";
+    return text;
+}
+
+}  // namespace borvik

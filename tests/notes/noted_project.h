@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "notes/notes.h"
+
+namespace borvik::testing_support {
+
+/// The default project (three spans of 6 m HEA 300, rail, one crane of two wheels) with something changed, calculated.
+/// Fails the test when the project is refused.
+[[nodiscard]] Session calculated(const std::function<void(Session&)>& change = {});
+
+/// What the rule of that key finds in a calculated session, as the list of notes would tell it: nullopt when it is
+/// silent.
+[[nodiscard]] std::optional<NoteFinding> findingOf(const Session& session, const std::string& key);
+
+/// A project in which a note matters, with the two numbers computed by hand, and one in which it doesn't.
+struct NoteCase {
+    const char* key;
+    std::function<void(Session&)> matters;  ///< changes the default project
+    std::function<void(Session&)> silent;
+    std::string what;  ///< of the largest change; empty: no number is expected
+    double shown = 0, other = 0;
+    double tolerance = 0.0006;  ///< relative to the larger number
+};
+std::ostream& operator<<(std::ostream& out, const NoteCase& noteCase);
+
+/// Expects what the case says.
+void expectNote(const NoteCase& noteCase);
+
+}  // namespace borvik::testing_support
