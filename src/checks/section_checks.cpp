@@ -57,40 +57,32 @@ RowSet<8> shearRows(const SectionRecord& section, const Table<Single>& steps, in
 /// @param steps  MyMaxSpan or MyMinSpan
 RowSet<8> bendingRows(const Project& project, const SectionRecord& section, const Table<Single>& steps, int span,
                       const BendingTexts& texts) {
-    const double MyEdSigned = steps(span, 1) / 1000000;
-    const double MyEd = std::abs(MyEdSigned);
-    const double VzEd = std::abs(steps(span, 2)) / 1000;
-    const double MzEd = std::abs(steps(span, 3)) / 1000000;
-    const double Mr = ReducedMoment(project, section, MyEdSigned, VzEd);
-    const double Mzr = section.MzRd / project.GammaM0;
+    const SectionForces forces(steps(span, 1), steps(span, 2), steps(span, 3));
+    const BendingResistance resistance(project, section, forces);
 
-    const bool shearFree = 0.5 >= VzEd / section.VzRd;
+    const bool shearFree = 0.5 >= forces.Vz / section.VzRd;
     const auto formula = [&](const FormulaTexts& text) { return shearFree ? text.shearFree : text.reduced; };
-    const std::string My = oneDecimal(MyEd) + "/" + oneDecimal(Mr);
-    const std::string Mz = oneDecimal(MzEd) + "/" + oneDecimal(Mzr);
+    const std::string My = oneDecimal(std::abs(forces.My)) + "/" + oneDecimal(resistance.My);
+    const std::string Mz = oneDecimal(forces.Mz) + "/" + oneDecimal(resistance.Mz);
 
     RowSet<8> rows;
-    Single ratio;
     const char* reference = nullptr;
     // The class under positive moment decides the formula for a negative moment too, as it does for MzRd: the
     // horizontal load acts on the top flange, whatever the sign of My.
-    if (MzEd == 0) {
-        ratio = MyEd / Mr;
+    if (forces.Mz == 0) {
         rows(1) = formula(texts.alone);
         rows(2) = My;
         reference = shearFree ? " mm; Ch 6.2.5)" : " mm; Ch 6.2.8)";
     } else if (section.ClassPos > 2) {
-        ratio = MyEd / Mr + MzEd / Mzr;
         rows(1) = formula(texts.linear);
         rows(2) = My + " + " + Mz + " = ";
         reference = " mm; Ch 6.2.1)";
     } else {
-        ratio = std::pow(MyEd / Mr, kAlpha) + MzEd / Mzr;
         rows(1) = formula(texts.power);
         rows(2) = "[" + My + "]^" + noDecimals(kAlpha) + " + " + Mz + " = ";
         reference = " mm; Ch 6.2.5/6.2.9)";
     }
-    setRatio(rows, ratio);
+    setRatio(rows, BendingRatio(forces, resistance, section.ClassPos));
     rows(4) = limitAt(span, steps(span, 9), "0") + reference;
     setWheelRows(rows, steps, span);
     return rows;
@@ -116,8 +108,24 @@ RowSet<8> worseBending(const RowSet<8>& max, const RowSet<8>& min) {
 
 }  // namespace
 
+SectionForces::SectionForces(double MyNmm, double VzN, double MzNmm)
+    : My(MyNmm / 1000000), Vz(std::abs(VzN) / 1000), Mz(std::abs(MzNmm) / 1000000) {}
+
+BendingResistance::BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces)
+    : My(ReducedMoment(project, section, forces.My, forces.Vz)), Mz(section.MzRd / project.GammaM0) {}
+
+Single BendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass) {
+    const double My = std::abs(forces.My) / resistance.My;
+    if (forces.Mz == 0) return My;
+    return (sectionClass > 2 ? My : std::pow(My, kAlpha)) + forces.Mz / resistance.Mz;
+}
+
+double ShearReduction(const SectionRecord& section, double VzEd) {
+    return 0.5 * section.VzRd >= VzEd ? 0.0 : std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0);
+}
+
 Single ReducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {
-    const double rho = 0.5 * section.VzRd >= VzEd ? 0.0 : std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0);
+    const double rho = ShearReduction(section, VzEd);
     const bool positive = MyEd >= 0;
     const double base = (positive ? section.MyRdPos : section.MyRdNeg) / project.GammaM0;
     const int sectionClass = positive ? section.ClassPos : section.ClassNeg;

@@ -19,6 +19,25 @@ Session calculated(const std::function<void(Session&)>& change) {
     return session;
 }
 
+void oneWheel(Session& session, int spans, int length) {
+    Project& project = session.project;
+    for (int span = 1; span <= kMaxSpans; ++span) {
+        project.Span(span) = span <= spans ? length : 0;
+        project.SpanSection(span) = span <= spans ? session.context.BlankSection : SectionRecord{};
+    }
+    project.V = project.H = {};
+    project.V(1) = 100;
+    project.Avst = {};
+    project.SelfWeight = project.RailOn = false;
+    project.Gangway = 0;
+    project.PsiV1 = project.PsiH1 = project.LfULS = 1;
+}
+
+void standsAt(Session& session, double x) {
+    session.project.Fixerad = true;
+    session.project.Position = x;
+}
+
 std::optional<NoteFinding> findingOf(const Session& session, const std::string& key) {
     const Notes notes = ProjectNotes(session);
     for (const Note& note : notes.notes)

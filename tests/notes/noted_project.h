@@ -13,6 +13,12 @@ namespace borvik::testing_support {
 /// Fails the test when the project is refused.
 [[nodiscard]] Session calculated(const std::function<void(Session&)>& change = {});
 
+/// Equal spans of HEA 300 under wheel 1 of 100 kN alone: no dead load, no horizontal load, no rail, all factors 1.
+void oneWheel(Session& session, int spans, int length);
+
+/// Wheel 1 stands still at x, mm from the left end of the beam.
+void standsAt(Session& session, double x);
+
 /// What the rule of that key finds in a calculated session, as the list of notes would tell it: nullopt when it is
 /// silent.
 [[nodiscard]] std::optional<NoteFinding> findingOf(const Session& session, const std::string& key);

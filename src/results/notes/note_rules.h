@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "calculation/calculation.h"
 #include "notes/notes.h"
@@ -31,6 +32,18 @@ namespace borvik {
 /// A finding of one ratio.
 [[nodiscard]] inline NoteFinding changed(std::string what, double shown, double other) {
     return NoteFinding{{{std::move(what), shown, other}}, ""};
+}
+
+/// Of the same check in several places: the change that leads to the largest ratio, of those that grow. nullopt where
+/// none does.
+[[nodiscard]] inline std::optional<NoteFinding> worstOf(const std::vector<NoteChange>& changes,
+                                                        std::string remark = "") {
+    constexpr double kLeast = 0.0005;  // smaller growth doesn't show in three decimals
+    const NoteChange* worst = nullptr;
+    for (const NoteChange& change : changes)
+        if (change.growth() >= kLeast && (worst == nullptr || change.other > worst->other)) worst = &change;
+    if (worst == nullptr) return std::nullopt;
+    return NoteFinding{{*worst}, std::move(remark)};
 }
 
 /// "bending, span 2"
