@@ -82,12 +82,16 @@ public:
         results.FatResult(detail_.result) = std::move(governing);
     }
 
+    [[nodiscard]] std::vector<DamagePoint> sums() const;
+
 private:
     // Places
     [[nodiscard]] bool atSplices() const;
     [[nodiscard]] const SpliceFields& splices() const;
     [[nodiscard]] int rowCount() const;
+    [[nodiscard]] bool checkedAt(int row) const;
     [[nodiscard]] Place firstPlace(int row) const;
+    [[nodiscard]] int lastPoint(const Place& first) const;
     [[nodiscard]] std::string placeText(const Place& place) const;
 
     // Stress and damage at a place
@@ -124,6 +128,14 @@ const SpliceFields& DetailCheck::splices() const {
 int DetailCheck::rowCount() const {
     if (atSplices()) return kSplices;
     return detail_.places == Places::SpanPoints ? project_.NofSpans : project_.NofSpans + 1;
+}
+
+bool DetailCheck::checkedAt(int row) const {
+    return !atSplices() || (project_.*splices().used)(row);
+}
+
+int DetailCheck::lastPoint(const Place& first) const {
+    return detail_.places == Places::SpanPoints ? kPoints : first.point;
 }
 
 Place DetailCheck::firstPlace(int row) const {
@@ -331,14 +343,14 @@ std::string DetailCheck::numbers(const Damage& damage) const {
 }
 
 void DetailCheck::check(int row, RowSet<4>& texts) const {
-    if (atSplices() && !(project_.*splices().used)(row)) return;
+    if (!checkedAt(row)) return;
 
     Place place = firstPlace(row);
-    const int lastPoint = detail_.places == Places::SpanPoints ? kPoints : place.point;
+    const int last = lastPoint(place);
     const LocalStress local = localStress(place);
     Damage governing;
     Place governingPlace;
-    for (; place.point <= lastPoint; ++place.point) {
+    for (; place.point <= last; ++place.point) {
         const Damage damage = damageAt(place, local);
         const double ratio = damage.sum();
         const std::string IrText = detail_.rankedByFullDigits ? plainText(ratio) : formatNumber(ratio, "0.000");
@@ -353,7 +365,24 @@ void DetailCheck::check(int row, RowSet<4>& texts) const {
     texts(4) = placeText(governingPlace);
 }
 
+std::vector<DamagePoint> DetailCheck::sums() const {
+    std::vector<DamagePoint> sums;
+    for (int row = 1; row <= rowCount(); ++row) {
+        if (!checkedAt(row)) continue;
+        Place place = firstPlace(row);
+        const int last = lastPoint(place);
+        const LocalStress local = localStress(place);
+        for (; place.point <= last; ++place.point)
+            sums.push_back({row, place.span, place.point, damageAt(place, local).sum()});
+    }
+    return sums;
+}
+
 }  // namespace
+
+std::vector<DamagePoint> damageSums(const Detail& detail, const DetailInput& input, Cranes cranes) {
+    return DetailCheck(detail, input, cranes).sums();
+}
 
 void checkDetails(std::span<const Detail> details, const DetailInput& input, Cranes cranes, FatigueResults& results) {
     for (const Detail& detail : details) {

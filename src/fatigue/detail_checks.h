@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "fatigue/crane_factors.h"
 #include "fatigue/details.h"
@@ -28,5 +29,16 @@ struct DetailInput {
 /// equals stays. Nothing is compared with 1.00: " <  1.00 ( " is printed whatever the sum is.
 /// @throws RuntimeFault  naming detail and span, on an arithmetic fault
 void checkDetails(std::span<const Detail> details, const DetailInput& input, Cranes cranes, FatigueResults& results);
+
+/// The damage sum of a detail at one of the points where it is checked.
+struct DamagePoint {
+    int row = 0;  ///< as in FatRows: span, support or splice
+    int span = 0, point = 0;
+    double ratio = 0.0;
+};
+
+/// The damage sums of a detail at all its points, row after row, whether its flag is set or not; a splice that is not in
+/// use has none. The numbers that checkDetails ranks.
+[[nodiscard]] std::vector<DamagePoint> damageSums(const Detail& detail, const DetailInput& input, Cranes cranes);
 
 }  // namespace borvik

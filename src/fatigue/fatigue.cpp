@@ -72,7 +72,7 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
     const bool crane2Alone = twoCranes && !train;
 
     FatigueResults results;
-    FatigueFactors factors;
+    FatigueFactors& factors = results.Factors;
     ClearSpanLoad(run);
     const int wheels1 = train ? countTrainWheels(project) : countWheels(project, 1);
     factors.Cr1 = factorsOf(project.CraneClass1, wheels1, dynamicFactor(project.PsiV1));
@@ -93,21 +93,20 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
 
     // A sum over both cranes replaces every result of crane 1 alone. A train is one crane to the independent sum; the
     // sum of three takes it too, with nothing from crane 2 and from both.
-    Cranes cranes = Cranes::Alone;
-    if (crane2Alone && project.TwoCraneMode == 1) cranes = Cranes::Independent;
-    if (twoCranes && project.TwoCraneMode == 2) cranes = Cranes::Together;
+    if (crane2Alone && project.TwoCraneMode == 1) results.Summed = Cranes::Independent;
+    if (twoCranes && project.TwoCraneMode == 2) results.Summed = Cranes::Together;
     const StressSet none(project.NofSpans);
     checkDetails(kOverheadDetails,
                  {project, run.context.CurrentRail, factors, *results.Cr1, results.Cr2 ? *results.Cr2 : none,
                   results.Cr12 ? *results.Cr12 : none},
-                 cranes, results);
+                 results.Summed, results);
     return results;
 }
 
 FatigueResults RunFatigueMonorail(const FatigueRun& run) {
     Project& project = run.project;
     FatigueResults results;
-    FatigueFactors factors;
+    FatigueFactors& factors = results.Factors;
     ClearSpanLoad(run);
     factors.Cr1 = factorsOf(project.CraneClassR, countWheels(project, 1), dynamicFactor(project.PsiV1));
     loadCrane1(run, factors.Cr1.PhiFat, false);

@@ -5,6 +5,8 @@
 #include "base/array.h"
 #include "base/single.h"
 #include "checks/check_rows.h"
+#include "fatigue/crane_factors.h"
+#include "fatigue/details.h"
 
 namespace borvik {
 
@@ -30,6 +32,8 @@ struct StressSet {
 /// checked.
 struct FatigueResults {
     std::optional<StressSet> Cr1, Cr2, Cr12;
+    FatigueFactors Factors;          ///< with which the sets were made; all zero for a set that is absent
+    Cranes Summed = Cranes::Alone;  ///< which cranes the details sum up
     /// FatRows1..FatRows6. The rows of detail 4 of an overhead crane live in entry 6 (and are gone when detail 6 is checked
     /// too); entry 4 is filled by a monorail only. That sharing is meant.
     FixedArray<std::optional<Array<RowSet<4>>>, 1, 6> FatRows;

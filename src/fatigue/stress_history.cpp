@@ -55,16 +55,14 @@ void stressAtSupport(StressSet& set, const History& history, const Project& proj
                      int i) {
     const double LamSig = factors.LamSig;
     if (history.area == SupportArea::HangerPlate) {
-        const double area = hangerArea(project);
+        const double area = supportArea(history.area, project, i);
         set.SigSupMax(i) = LamSig * set.RzMax(i) / area;
         set.SigSupMin(i) = LamSig * set.RzMin(i) / area;
         set.SigSupRange(i) = std::abs(set.SigSupMax(i) - set.SigSupMin(i));
         return;
     }
     // An overhead crane's girder: the range alone is known, and stands in both tables; the smallest stress stays 0.
-    const SectionRecord& section = project.SpanSection(strongerSpanAtSupport(project, i));
-    const double area = stiffenedWebArea(project, section, history.area == SupportArea::StiffenedWebRolledWhole);
-    set.SigSupMax(i) = std::abs(set.RzMax(i) - set.RzMin(i)) * LamSig / area;
+    set.SigSupMax(i) = std::abs(set.RzMax(i) - set.RzMin(i)) * LamSig / supportArea(history.area, project, i);
     set.SigSupRange(i) = set.SigSupMax(i);
 }
 
@@ -109,6 +107,12 @@ int strongerSpanAtSupport(const Project& project, int support) {
     if (support == 1) return 1;
     if (support == n + 1) return n;
     return project.SpanSection(support - 1).Iy < project.SpanSection(support).Iy ? support : support - 1;
+}
+
+double supportArea(SupportArea area, const Project& project, int support) {
+    if (area == SupportArea::HangerPlate) return hangerArea(project);
+    const SectionRecord& section = project.SpanSection(strongerSpanAtSupport(project, support));
+    return stiffenedWebArea(project, section, area == SupportArea::StiffenedWebRolledWhole);
 }
 
 StressSet stressHistory(const History& history, const Project& project, const FlsResults& fls,

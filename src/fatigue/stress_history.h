@@ -35,6 +35,9 @@ inline constexpr History StressHistoryMonorail{"Stress history of the monorail",
 [[nodiscard]] StressSet stressHistory(const History& history, const Project& project, const FlsResults& fls,
                                       const CraneFactors& factors);
 
+/// The area that carries a reaction, mm2, at a support 1..NofSpans + 1.
+[[nodiscard]] double supportArea(SupportArea area, const Project& project, int support);
+
 /// The span whose section counts at a support of an overhead crane's girder: of its two neighbours the one with the
 /// larger Iy, the left one at a tie. @param support  1..NofSpans + 1
 [[nodiscard]] int strongerSpanAtSupport(const Project& project, int support);
