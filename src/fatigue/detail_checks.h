@@ -37,8 +37,8 @@ struct DamagePoint {
     double ratio = 0.0;
 };
 
-/// The damage sums of a detail at all its points, row after row, whether its flag is set or not; a splice that is not in
-/// use has none. The numbers that checkDetails ranks.
+/// The damage sums of a detail at all its points, row after row, whether its flag is set or not; a splice that is not
+/// in use has none. The numbers that checkDetails ranks.
 [[nodiscard]] std::vector<DamagePoint> damageSums(const Detail& detail, const DetailInput& input, Cranes cranes);
 
 }  // namespace borvik

@@ -208,7 +208,15 @@ const NoteCase kCases[]{
                }),
      "fatigue detail 6, support 1", 2.1154, 2.4619},
 
-    {"G19", oneCrane([](Project& p) { p.H(1) = 6; }), oneCrane([](Project& p) { p.H(1) = 5; }), "", 0, 0},
+    {"G19", oneCrane([](Project& p) {
+         p.Fat1 = true;
+         p.H(1) = 6;
+     }),
+     oneCrane([](Project& p) {
+         p.Fat1 = true;
+         p.H(1) = 5;
+     }),
+     "", 0, 0},
 
     // (22.45/20)^5, and in fillets of 3 mm (8.5/6)^5 of it.
     {"G20", monorail([](Project& p) {

@@ -38,9 +38,7 @@ Detail usual(Detail detail) {
 std::optional<NoteFinding> byOneScheme(const Session& session, int number) {
     const Detail* detail = checkedDetail(session, number);
     if (detail == nullptr || !twoFreeCranes(session) || session.project.TwoCraneMode != 2) return std::nullopt;
-    NoteFinding finding;
-    addGrowth(session, *detail, sumOfThree(FatigueRecheck(session), usual(*detail)), finding);
-    return grown(std::move(finding));
+    return growthOf(session, *detail, sumOfThree(FatigueRecheck(session), usual(*detail)));
 }
 
 /// The largest horizontal wheel load of a crane as a part of its largest vertical one.
@@ -60,9 +58,7 @@ std::optional<NoteFinding> trainCheckedAsThree(const Session& session) {
     FatigueRecheck train(session);
     train.cranes = Cranes::Alone;
     train.project.V(1) = std::max(largestWheel(session.project, 1), largestWheel(session.project, 2));
-    NoteFinding finding;
-    addGrowth(session, *detail, train.sums(*detail), finding);
-    return grown(std::move(finding));
+    return growthOf(session, *detail, train.sums(*detail));
 }
 
 std::optional<NoteFinding> classS9(const Session& session) {
@@ -138,9 +134,7 @@ std::optional<NoteFinding> heavierWheel(const Session& session) {
     const double F2 = other.factors.Cr2.PhiFat * largestWheel(other.project, 2);
     const int lighter = F1 > F2 ? 5 : 1;  // its wheels go, so that the other crane's are read
     for (int wheel = lighter; wheel <= lighter + 3; ++wheel) other.project.V(wheel) = 0.0;
-    NoteFinding finding;
-    addGrowth(session, *detail, other.sums(*detail), finding);
-    return grown(std::move(finding));
+    return growthOf(session, *detail, other.sums(*detail));
 }
 
 std::optional<NoteFinding> throatsOfRolledWeb(const Session& session) {
@@ -153,13 +147,11 @@ std::optional<NoteFinding> throatsOfRolledWeb(const Session& session) {
         other.Cr2.SigSupRange(support) *= by;
         other.Cr12.SigSupRange(support) *= by;
     }
-    NoteFinding finding;
-    addGrowth(session, *detail, other.sums(*detail), finding);
-    return grown(std::move(finding));
+    return growthOf(session, *detail, other.sums(*detail));
 }
 
 std::optional<NoteFinding> horizontalLoads(const Session& session) {
-    if (!overheadFatigue(session)) return std::nullopt;
+    if (!overheadFatigue(session) || !anyDetail(session)) return std::nullopt;
     const Project& project = session.project;
     for (int crane = 1; crane <= project.NofCranes; ++crane) {
         const int craneClass = crane == 1 ? project.CraneClass1 : project.CraneClass2;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "checks/loaded_length.h"
 #include "fatigue/wheel_stress.h"
 #include "notes/fatigue_findings.h"
 #include "notes/fatigue_recheck.h"
@@ -13,13 +14,7 @@ namespace borvik {
 
 namespace {
 
-/// The finding of one detail with other numbers.
-std::optional<NoteFinding> growthOf(const Session& session, const Detail& detail,
-                                    const std::vector<DamagePoint>& other) {
-    NoteFinding finding;
-    addGrowth(session, detail, other, finding);
-    return grown(std::move(finding));
-}
+constexpr int kRigidlyFixed = 1;
 
 /// Multiplies a table of stress ranges by a number for each span.
 template <class OfSpan>
@@ -29,14 +24,15 @@ void scaleSpans(Table<Single>& ranges, OfSpan factor) {
 }
 
 /// Bending of the web under an eccentric wheel, as a part of the direct stress under the same wheel centred. The top
-/// flange twists between the supports, its web restrained at the bottom flange; EN 1993-6 5.7.3, with It of the flange
-/// alone and no transverse stiffeners in the span.
+/// flange twists between the supports, its web restrained at the bottom flange; EN 1993-6 5.7.3, no transverse
+/// stiffeners in the span. It is that of the flange, and of a flat bar on it that is rigidly fixed.
 double webBendingPart(const Project& project, const RailRecord& rail, int span) {
     using std::numbers::pi;
     const SectionRecord& section = project.SpanSection(span);
     const double a = project.Span(span);
     const double e = rail.RailKr / 4.0;
-    const double It = section.b1 * std::pow(section.tf1, 3) / 3.0;
+    const double bar = project.RailFix == kRigidlyFixed ? (1.0 - kWearFatigue) * rail.RailHr : 0.0;
+    const double It = (section.b1 * std::pow(section.tf1, 3) + rail.RailBr * std::pow(bar, 3)) / 3.0;
     const double x = pi * section.Hw / a;
     const double shape = std::pow(std::sinh(x), 2) / (std::sinh(2.0 * x) - 2.0 * x);
     const double eta = std::sqrt(0.75 * a * std::pow(section.tw, 3) / It * shape);
@@ -95,7 +91,9 @@ std::optional<NoteFinding> eccentricWheel(const Session& session) {
     const Detail* detail = checkedDetail(session, 3);
     const bool classAboveS3 = project.CraneClass1 > 3 || (project.NofCranes == 2 && project.CraneClass2 > 3);
     if (detail == nullptr || !overheadFatigue(session) || !classAboveS3) return std::nullopt;
-    if (project.W1 == "FW") return matters(true);  // the pair of fillets bends otherwise than the web
+    if (project.W1 == "FW") return matters(true, "two fillets, which bend otherwise than the web");
+    if (project.RailFix == kRigidlyFixed && session.context.CurrentRail.Id == "A")
+        return matters(true, "a crane rail rigidly fixed, whose own torsional stiffness helps");
     std::vector<DamagePoint> worst;
     for (int span = 1; span <= project.NofSpans; ++span) {
         FatigueRecheck other(session);
@@ -174,10 +172,7 @@ std::optional<NoteFinding> kindOfOtherWeld(const Session& session) {
 }
 
 std::optional<NoteFinding> inspectionAssumed(const Session& session) {
-    const Project& project = session.project;
-    bool checked = false;
-    for (int number = 1; number <= 6; ++number) checked = checked || checkedDetail(session, number) != nullptr;
-    return matters(checked && project.GammaMf < 1.35);
+    return matters(anyDetail(session) && session.project.GammaMf < 1.35);
 }
 
 }  // namespace borvik

@@ -81,8 +81,7 @@ constexpr NoteRule kRules[]{
     {"G21", kFatigue, kUnsafe,
      "Above class S3 the web also bends under a wheel that stands a quarter of the rail's head beside its middle; the "
      "weld of top flange and web is checked without it.",
-     "with it, the flange's torsion constant without the rail", "EN 1993-6 5.7.3, 9.3.3, EN 1991-3 2.5.2.1",
-     eccentricWheel},
+     "with it and no stiffeners in the span", "EN 1993-6 5.7.3, 9.3.3, EN 1991-3 2.5.2.1", eccentricWheel},
     {"G22", kFatigue, kEither, "In the run of both cranes crane 1 rolls on the wheel distances of crane 2.",
      "with its own", "EN 1993-6 9.4.2", gapsOfCrane2},
     {"G23", kFatigue, kUnsafe,

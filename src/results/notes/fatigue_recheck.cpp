@@ -90,6 +90,12 @@ const Detail* checkedDetail(const Session& session, int number) {
     return session.project.*detail.checked ? &detail : nullptr;
 }
 
+bool anyDetail(const Session& session) {
+    for (int number = 1; number <= 6; ++number)
+        if (checkedDetail(session, number) != nullptr) return true;
+    return false;
+}
+
 std::optional<NoteChange> growth(const Detail& detail, const std::vector<DamagePoint>& shown,
                                  const std::vector<DamagePoint>& other) {
     const std::map<int, double> before = byRows(shown);
@@ -114,6 +120,13 @@ void addGrowth(const Session& session, const Detail& detail, const std::vector<D
 std::optional<NoteFinding> grown(NoteFinding finding) {
     if (finding.changes.empty()) return std::nullopt;
     return finding;
+}
+
+std::optional<NoteFinding> growthOf(const Session& session, const Detail& detail,
+                                    const std::vector<DamagePoint>& other) {
+    NoteFinding finding;
+    addGrowth(session, detail, other, finding);
+    return grown(std::move(finding));
 }
 
 std::optional<NoteFinding> growthOfAll(const Session& session, const FatigueRecheck& other) {

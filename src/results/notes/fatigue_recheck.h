@@ -31,19 +31,23 @@ struct FatigueRecheck {
 
 /// The detail of that number, 1..6, of the project's crane type; null where it is not checked.
 [[nodiscard]] const Detail* checkedDetail(const Session& session, int number);
+/// Whether any detail is checked.
+[[nodiscard]] bool anyDetail(const Session& session);
 
 /// The largest of the ratios that grow, "detail 3, span 2"; nullopt where none does. Rows are compared by their
 /// largest point.
 [[nodiscard]] std::optional<NoteChange> growth(const Detail& detail, const std::vector<DamagePoint>& shown,
                                                const std::vector<DamagePoint>& other);
 
-/// The detail as told against the same detail in a recheck: its growth is added to the finding.
+/// The detail in a recheck against the same detail as told: its growth is added to the finding.
 void addGrowth(const Session& session, const Detail& detail, const std::vector<DamagePoint>& other,
                NoteFinding& finding);
-
 /// The finding if any ratio grows, else silence.
 [[nodiscard]] std::optional<NoteFinding> grown(NoteFinding finding);
 
+/// One detail in a recheck against the same detail as told.
+[[nodiscard]] std::optional<NoteFinding> growthOf(const Session& session, const Detail& detail,
+                                                  const std::vector<DamagePoint>& other);
 /// Every checked detail in a recheck against the same detail as told.
 [[nodiscard]] std::optional<NoteFinding> growthOfAll(const Session& session, const FatigueRecheck& other);
 
