@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 #include "base/number_text.h"
 #include "checks/loaded_length.h"
