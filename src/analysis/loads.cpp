@@ -14,4 +14,13 @@ void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, 
     }
 }
 
+void SetUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
+    SetDeadLoad(project, rail, project.LfULS, loads);
+    for (int w = 1; w <= 8; ++w) {
+        loads.WheelV(w) = (w <= 4 ? project.PsiV1 : project.PsiV2) * project.LfULS * project.V(w);
+        loads.WheelH(w) = (w <= 4 ? project.PsiH1 : project.PsiH2) * project.LfULS * project.H(w);
+    }
+    loads.WheelGap = project.Avst;
+}
+
 }  // namespace borvik

@@ -21,4 +21,8 @@ struct RunLoads {
 /// @param factor  load factor of the run (LfULS or LfSLS)
 void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads);
 
+/// Loads of the ultimate limit state: dead load, and each wheel with the load factor and the dynamic factors of its
+/// crane, rounded once. NCranes is left alone.
+void SetUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads);
+
 }  // namespace borvik

@@ -51,16 +51,6 @@ void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& 
     if (!anyLeft) detail = false;
 }
 
-/// ULS: wheel loads with the load factor and the dynamic factors of their crane. Rounded once.
-void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
-    SetDeadLoad(project, rail, project.LfULS, loads);
-    for (int w = 1; w <= 8; ++w) {
-        loads.WheelV(w) = (w <= 4 ? project.PsiV1 : project.PsiV2) * project.LfULS * project.V(w);
-        loads.WheelH(w) = (w <= 4 ? project.PsiH1 : project.PsiH2) * project.LfULS * project.H(w);
-    }
-    loads.WheelGap = project.Avst;
-}
-
 /// SLS: no dynamic factors.
 void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
     SetDeadLoad(project, rail, project.LfSLS, loads);
@@ -97,7 +87,7 @@ void RunStatic(Run& run) {
     UpdateSections(session.tables, project, session.context);
     run.loads.NCranes = project.NofCranes;
 
-    setUlsLoads(project, rail, run.loads);
+    SetUlsLoads(project, rail, run.loads);
     UlsResults& uls = run.results.Uls;
     uls = RunUls(project, run.loads, run.method, run.messages, run.progress);
     run.results.Steps = uls.Steps;
