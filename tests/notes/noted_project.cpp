@@ -38,6 +38,17 @@ void standsAt(Session& session, double x) {
     session.project.Position = x;
 }
 
+void weldedSection(Session& session, const char* family, double h, double b1, double b2, double tw, double tf) {
+    SectionRecord section = session.project.SectionList(1);
+    section.Id = family;
+    section.h = h;
+    section.b1 = b1;
+    section.b2 = b2;
+    section.tw = tw;
+    section.tf1 = section.tf2 = tf;
+    session.project.SpanSection(1) = section;
+}
+
 std::optional<NoteFinding> findingOf(const Session& session, const std::string& key) {
     const Notes notes = ProjectNotes(session);
     for (const Note& note : notes.notes)

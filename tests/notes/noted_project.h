@@ -19,6 +19,9 @@ void oneWheel(Session& session, int spans, int length);
 /// Wheel 1 stands still at x, mm from the left end of the beam.
 void standsAt(Session& session, double x);
 
+/// Gives the first span a welded section, "Is" or "Iu".
+void weldedSection(Session& session, const char* family, double h, double b1, double b2, double tw, double tf);
+
 /// What the rule of that key finds in a calculated session, as the list of notes would tell it: nullopt when it is
 /// silent.
 [[nodiscard]] std::optional<NoteFinding> findingOf(const Session& session, const std::string& key);
@@ -28,7 +31,7 @@ struct NoteCase {
     const char* key;
     std::function<void(Session&)> matters;  ///< changes the default project
     std::function<void(Session&)> silent;
-    std::string what;  ///< of the largest change; empty: no number is expected
+    std::string what{};  ///< of the largest change; empty: no number is expected
     double shown = 0, other = 0;
     double tolerance = 0.0006;  ///< relative to the larger number
 };

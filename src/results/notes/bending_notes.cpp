@@ -1,9 +1,14 @@
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
+#include "analysis/loads.h"
 #include "base/number_text.h"
+#include "checks/loaded_length.h"
 #include "checks/section_checks.h"
 #include "notes/note_rules.h"
+#include "notes/recorded_worst.h"
+#include "section/geometry.h"
 
 namespace borvik {
 
@@ -21,22 +26,12 @@ std::optional<NoteFinding> interactionElsewhere(const Session& session) {
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
-        double largest = 0;
-        int point = 1;
-        for (const Cube<Single>* records : {&uls.MyMaxPoint, &uls.MyMinPoint, &uls.VzMaxPoint, &uls.VzMinPoint,
-                                            &uls.MzMaxPoint, &uls.MzMinPoint, &uls.VyMaxPoint, &uls.VyMinPoint})
-            for (int k = 1; k <= kPoints; ++k) {
-                const SectionForces forces((*records)(span, k, 1), (*records)(span, k, 2), (*records)(span, k, 3));
-                const double ratio =
-                    BendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
-                if (ratio > largest) {
-                    largest = ratio;
-                    point = k;
-                }
-            }
-        const double x = (point - 1) * project.Span(span) / 20.0;
-        changes.push_back({inSpan("bending", span) + ", x = " + formatNumber(x, "0") + " mm",
-                           bendingRatio(session.results->Checks, span), largest});
+        const RecordedWorst worst = worstRecorded(uls, span, [&](double My, double Vz, double Mz) -> double {
+            const SectionForces forces(My, Vz, Mz);
+            return BendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
+        });
+        changes.push_back({inSpan("bending", span) + atPoint(project, span, worst.point),
+                           bendingRatio(session.results->Checks, span), worst.ratio});
     }
     return worstOf(changes);
 }
@@ -59,6 +54,144 @@ std::optional<NoteFinding> formulaOfPositiveClass(const Session& session) {
     return worstOf(changes);
 }
 
+/// Design shear resistance of one flange across, elastic, kN: two thirds of its area.
+double flangeShearResistance(const Project& project, const SectionRecord& section) {
+    const double area = project.CraneType == 1 ? section.b1 * section.tf1 : section.b2 * section.tf2;
+    return 2.0 / 3 * area * project.fyk / std::numbers::sqrt3 / project.GammaM0 / 1000;
+}
+
+/// The largest horizontal shear in the loaded flange, where it is more than a tenth of what that holds.
+std::string horizontalShear(const Session& session) {
+    constexpr double kWorthTelling = 0.1;
+    const Project& project = session.project;
+    const UlsResults& uls = session.results->Uls;
+    double worst = 0;
+    int at = 1;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const double VyEd = std::max(std::abs(uls.VyMaxSpan(span, 4)), std::abs(uls.VyMinSpan(span, 4))) / 1000;
+        const double ratio = VyEd / flangeShearResistance(project, project.SpanSection(span));
+        if (ratio > worst) {
+            worst = ratio;
+            at = span;
+        }
+    }
+    if (!(worst > kWorthTelling)) return "";
+    return "the horizontal shear takes " + formatNumber(worst, "0.000") + " of the flange in span " +
+           std::to_string(at);
+}
+
+/// The local shear stress of the heaviest wheel on top of that of the beam, EN 1993-6 5.7.2.
+std::optional<NoteFinding> shearLeftOut(const Session& session) {
+    const Project& project = session.project;
+    std::string remark = horizontalShear(session);
+    if (project.CraneType != 1) return matters(!remark.empty(), remark);
+
+    constexpr double kLocalShare = 0.2;  // of the local vertical stress
+    const RailRecord& rail = session.context.CurrentRail;
+    const WornRail worn = wearRail(rail, kWearStatic);
+    RunLoads loads;
+    SetUlsLoads(project, rail, loads);
+    const double FzEd = *std::max_element(loads.WheelV.begin(), loads.WheelV.end()) * 1000;
+    const double tauRd = project.fyk / std::numbers::sqrt3 / project.GammaM0;
+    std::vector<NoteChange> changes;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const SectionRecord& section = project.SpanSection(span);
+        const double sigma = FzEd / (effectiveLoadedLength(rail, worn, project.RailFix, section) * section.tw);
+        const double shown = session.results->Checks.ShearSpan(span).Ratio;
+        changes.push_back({inSpan("shear", span), shown, shown + kLocalShare * sigma / tauRd});
+    }
+    return worstOf(changes, remark);
+}
+
+/// What the web's part of the modulus loses when the yield strength of the web falls by rho, mm3: the plates with a web
+/// as much thinner, about the axis that they have then.
+double exactWebLoss(const SectionRecord& section, double rho, bool elastic) {
+    const auto modulus = [elastic](const SectionRecord& s) {
+        const auto plates = PlateStrips(s);
+        if (!elastic) return PlasticAxisBySearch(plates).Wply;
+        const double ez = Centroid(s);
+        return SecondMomentY(plates, ez) / std::max(ez, s.h - ez);
+    };
+    SectionRecord thinner = section;
+    thinner.tw = (1 - rho) * section.tw;
+    return modulus(section) - modulus(thinner);
+}
+
+/// Unequal flanges beside a large shear.
+std::optional<NoteFinding> shearWithUnequalFlanges(const Session& session) {
+    const Project& project = session.project;
+    const UlsResults& uls = session.results->Uls;
+    std::vector<NoteChange> changes;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const SectionRecord& section = project.SpanSection(span);
+        if (section.Id != "Iu" || section.Reinforced) continue;
+        double largest = bendingRatio(session.results->Checks, span);
+        const double shown = largest;
+        for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan}) {
+            const SectionForces forces((*records)(span, 1), (*records)(span, 2), (*records)(span, 3));
+            const double rho = ShearReduction(section, forces.Vz);
+            const int sectionClass = forces.My >= 0 ? section.ClassPos : section.ClassNeg;
+            if (rho == 0 || sectionClass == 4) continue;
+            BendingResistance resistance(project, section, forces);
+            resistance.My = ReducedMoment(project, section, forces.My, 0) -
+                            exactWebLoss(section, rho, sectionClass == 3) * project.fyk / project.GammaM0 / 1e6;
+            largest = std::max<double>(largest, BendingRatio(forces, resistance, section.ClassPos));
+        }
+        changes.push_back({inSpan("bending", span), shown, largest});
+    }
+    return worstOf(changes);
+}
+
+/// A span whose web has more moment taken off than the section had.
+std::optional<NoteFinding> noMomentLeft(const Session& session) {
+    const Project& project = session.project;
+    const UlsResults& uls = session.results->Uls;
+    for (int span = 1; span <= project.NofSpans; ++span)
+        for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan}) {
+            const SectionForces forces((*records)(span, 1), (*records)(span, 2), (*records)(span, 3));
+            const BendingResistance resistance(project, project.SpanSection(span), forces);
+            if (resistance.My > 0) continue;
+            return matters(true, "no moment resistance is left beside a shear of " + formatNumber(forces.Vz, "0.0") +
+                                     " kN in span " + std::to_string(span));
+        }
+    return std::nullopt;
+}
+
+/// "wheel 1 in span 2 at 1200 mm", from rows 5 to 8 of a check.
+std::string wheelPlace(const RowSet<8>& rows, int wheel) {
+    const int row = wheel == 1 ? 5 : 7;
+    return "wheel " + std::to_string(wheel) + " in span " + rows(row) + " at " + rows(row + 1) + " mm";
+}
+
+bool sameRows(const RowSet<8>& a, const RowSet<8>& b, int first) {
+    for (int row = first; row <= 8; ++row)
+        if (a(row) != b(row)) return false;
+    return true;
+}
+
+/// The crane position of the governing ratios, where the rows show that of the other extreme.
+std::optional<NoteFinding> wrongPosition(const Session& session) {
+    const bool twoCranes = session.project.NofCranes == 2;
+    const CheckResults& checks = session.results->Checks;
+    const auto governingSpan = [&](const Array<RowSet<8>>& spans, const RowSet<8>& governing) {
+        int span = 1;
+        while (span < spans.last() && spans(span) != governing) ++span;
+        return span;
+    };
+    std::string remark;
+    const int bent = governingSpan(checks.BendSpan, checks.BendGov);
+    if (const RowSet<8>& min = checks.BendMin(bent);
+        !ranksAbove(checks.BendMax(bent)(3), min(3)) && !sameRows(checks.BendGov, min, 5)) {
+        remark = inSpan("bending", bent) + ": " + wheelPlace(min, 1);
+        if (twoCranes) remark += ", " + wheelPlace(min, 5);
+    }
+    const int sheared = governingSpan(checks.ShearSpan, checks.ShearGov);
+    if (const RowSet<8>& min = checks.ShearMin(sheared);
+        twoCranes && !(checks.ShearMax(sheared).Ratio > min.Ratio) && !sameRows(checks.ShearGov, min, 7))
+        remark += (remark.empty() ? "" : "; ") + inSpan("shear", sheared) + ": " + wheelPlace(min, 5);
+    return matters(!remark.empty(), remark);
+}
+
 constexpr NoteRule kRules[]{
     {"C1", NoteCheck::Section, NoteEffect::Unsafe,
      "The interaction of bending and shear is tested at the largest and at the smallest My of a span, with the forces "
@@ -68,6 +201,24 @@ constexpr NoteRule kRules[]{
      "The class under positive moment chooses the formula for the negative moment too, so that an elastic resistance "
      "enters the plastic interaction, where its share is squared.",
      "with the linear sum of class 3", "EN 1993-1-1 6.2.9", formulaOfPositiveClass},
+    {"C3", NoteCheck::Section, NoteEffect::Unsafe,
+     "The shear check holds Vz alone: the local shear stress of a wheel at the top of the web and the horizontal shear "
+     "of the loaded flange are not added.",
+     "with 0.2 of the local vertical stress", "EN 1993-6 5.7.2, EN 1993-1-1 6.2.6", shearLeftOut},
+    {"C5", NoteCheck::Section, NoteEffect::Either,
+     "Beside a large shear the moment resistance loses rho hw^2 tw/4 (elastic: /6), which holds for equal flanges "
+     "only.",
+     "with the modulus of the plates and a web of reduced strength", "EN 1993-1-1 6.2.8(3), (5)",
+     shearWithUnequalFlanges},
+    {"C6", NoteCheck::Section, NoteEffect::Unsafe,
+     "The moment resistance beside a large shear is not limited below, and a negative one gives a negative ratio, "
+     "which "
+     "never governs.",
+     "", "EN 1993-1-1 6.2.8", noMomentLeft},
+    {"C7", NoteCheck::Section, NoteEffect::Information,
+     "The rows of a span show the cranes at the largest moment, and crane 2 at the largest shear, also where the "
+     "smallest governs.",
+     "", "", wrongPosition},
 };
 
 }  // namespace
