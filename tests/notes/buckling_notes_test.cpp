@@ -35,6 +35,21 @@ void longPlateGirder(Session& session) {
     weldedSection(session, "Iu", 520, 300, 300, 10, 20);
 }
 
+/// 60 kN in the middle of the first and 220 kN in that of the fourth of four spans of 12 m, at the shear centre; the
+/// general case, and factors under which sagging doesn't govern.
+void oppositeEndMoments(Session& session) {
+    oneWheel(session, 4, 12000);
+    standsAt(session, 6000);
+    Project& project = session.project;
+    project.V(1) = 60;
+    project.V(2) = 220;
+    project.Avst(1) = 36000;
+    project.LoadLevel = 3;
+    project.LtbCurve = 2;
+    project.DefaultCfactor = false;
+    project.C1EndPos = project.C1MidPos = project.C1EndNeg = 10;
+}
+
 const NoteCase kCases[]{
     // C1 = 1.85: lam = 0.929, chi = 0.648/0.872 = 0.743. Of the diagram, m = 2x/L to the wheel, then 1 - 2.923 (x/L -
     // 1/2): 2/L int m^2 sin^2 = 0.2680 + 0.2050, C1 = 1.454; C2 = 1.454 x 12/pi^2 x 100/243.75 = 0.725; lam = 1.048,
@@ -47,6 +62,14 @@ const NoteCase kCases[]{
          session.project.C1EndPos = session.project.C1EndNeg = 1.85;
      },
      "lateral torsional buckling, span 1, C1 = 1.45, C2 = 0.73", 0.640, 0.752},
+    // q = 3PL/8: 270 and 990 kNm, M3 = (270 + 990)/14 = 90, M2 = -(270 + 90)/4 = -90, psi = -1, C1 = 3.08. Mcr = 862.8
+    // kNm, lam = 0.720, chi = 1/(0.814 + 0.379) = 0.838; C1 = 2.6: 728.4, 0.783, 1/(0.868 + 0.374) = 0.805.
+    {"F2", oppositeEndMoments,
+     [](Session& session) {
+         oppositeEndMoments(session);
+         session.project.V(1) = 180;
+     },
+     "lateral torsional buckling, span 2", 0.2402, 0.2500},
     // lam = 0.929 with the plateau 0.2 and beta = 1: phi = 1.055, chi = 0.643/0.872 = 0.737.
     {"F3",
      [](Session& session) {

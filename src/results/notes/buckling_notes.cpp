@@ -29,7 +29,7 @@ double negativeRatio(const Session& session, int span, Single ChiLT) {
 }
 
 std::string factorsText(const CFactors& factors) {
-    return "C1 = " + formatNumber(factors.C1, "0.00") + ", C2 = " + formatNumber(factors.C2, "0.00");
+    return ", C1 = " + formatNumber(factors.C1, "0.00") + ", C2 = " + formatNumber(factors.C2, "0.00");
 }
 
 /// The reduction factors by the moment diagrams of the two governing positions.
@@ -39,24 +39,44 @@ std::optional<NoteFinding> factorsOfDiagram(const Session& session) {
     const UlsResults& uls = session.results->Uls;
     const CheckResults& checks = session.results->Checks;
     const RecordedPositions positions(session);
+    struct Ratio {
+        double number;
+        std::string factors;  // ", C1 = 1.45, C2 = 0.73"; empty where the ratio is that of the check
+    };
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
-        const double L = project.Span(span);
-        double positive = checks.LtbPos(span).Ratio;
-        double negative = checks.LtbNeg(span).Ratio;
-        std::string factors;
-        const auto consider = [&](bool sagging, const std::optional<SpanAtPosition>& at, double MyEd, double& ratio) {
-            if (!at || MyEd == 0) return;
-            const CFactors byDiagram = DiagramFactors(at->My, MyEd, at->wheels, L);
-            const Single chi = LtbReduction(project, span, sagging, byDiagram);
-            const double other = sagging ? positiveRatio(session, span, chi) : negativeRatio(session, span, chi);
-            if (other > std::max(positive, negative)) factors = factorsText(byDiagram);
-            ratio = other;
+        const auto byDiagram = [&](bool sagging, const std::optional<SpanAtPosition>& at, double MyEd,
+                                   const RowSet<8>& shown) -> Ratio {
+            if (!at || MyEd == 0) return {shown.Ratio, ""};
+            const CFactors factors = DiagramFactors(at->My, MyEd, at->wheels, project.Span(span));
+            const Single chi = LtbReduction(project, span, sagging, factors);
+            return {sagging ? positiveRatio(session, span, chi) : negativeRatio(session, span, chi),
+                    factorsText(factors)};
         };
-        consider(true, positions.atLargest(span), uls.MyMaxSpan(span, 1), positive);
-        consider(false, positions.atSupportMoment(span), uls.MySupportSpan(span, 1), negative);
-        changes.push_back({inSpan("lateral torsional buckling", span) + ", " + factors, checks.LtbSpan(span).Ratio,
-                           std::max(positive, negative)});
+        const Ratio positive = byDiagram(true, positions.atLargest(span), uls.MyMaxSpan(span, 1), checks.LtbPos(span));
+        const Ratio negative =
+            byDiagram(false, positions.atSupportMoment(span), uls.MySupportSpan(span, 1), checks.LtbNeg(span));
+        const Ratio& worse = positive.number > negative.number ? positive : negative;
+        changes.push_back(
+            {inSpan("lateral torsional buckling", span) + worse.factors, checks.LtbSpan(span).Ratio, worse.number});
+    }
+    return worstOf(changes);
+}
+
+/// Spans between end moments of opposite sign, where the parabola of C1 leaves the exact values (2.55 at psi = -1).
+std::optional<NoteFinding> cappedC1(const Session& session) {
+    constexpr double kLargestC1 = 2.6;  // the usual limit of the parabola
+    const Project& project = session.project;
+    const Table<Single>& support = session.results->Uls.MySupportSpan;
+    const CheckResults& checks = session.results->Checks;
+    std::vector<NoteChange> changes;
+    for (int span = 2; span < project.NofSpans; ++span) {
+        std::optional<CFactors> factors = NegativeFactors(project, span, support);
+        if (!factors || support(span, 2) > 0 || !(factors->C1 > kLargestC1)) continue;
+        factors->C1 = kLargestC1;
+        const double capped = negativeRatio(session, span, LtbReduction(project, span, false, *factors));
+        changes.push_back({inSpan("lateral torsional buckling", span), checks.LtbSpan(span).Ratio,
+                           std::max(checks.LtbPos(span).Ratio, capped)});
     }
     return worstOf(changes);
 }
@@ -132,6 +152,9 @@ constexpr NoteRule kRules[]{
      "The program's own C1, C2 and C3 are the same for every moment diagram, although the critical moment depends on "
      "it.",
      "with the factors of the diagram at the governing position", "EN 1993-1-1 6.3.2.2(2)", factorsOfDiagram},
+    {"F2", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
+     "Between end moments of opposite sign C1 = 1.77 - 1.04 psi + 0.27 psi^2 is not limited and comes out up to 3.08.",
+     "with C1 = 2.60", "EN 1993-1-1 6.3.2.2(2)", cappedC1},
     {"F3", NoteCheck::LateralBuckling, NoteEffect::Either,
      "The curve for rolled or equivalent welded sections serves unequal flanges too, and its plateau and beta for "
      "welded sections serve rolled ones.",
