@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "analysis/post_process.h"
 #include "analysis/random_beam.h"
 #include "analysis/walk.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -70,16 +70,12 @@ std::size_t plainAgainstFast(Run run, const BeamCase& c) {
     return differing(plain, fast);
 }
 
-/// The number of random beams; BORVIK_WALK_CASES=30000 makes a long run of it.
-int numberOfCases() {
-    const char* wanted = std::getenv("BORVIK_WALK_CASES");
-    return wanted != nullptr ? std::atoi(wanted) : 400;
-}
+const int kCases = testing_support::wantedCount("BORVIK_WALK_CASES", 400);
 
 TEST(FastWalk, hasTheSameBitsAsThePlainWalk) {
     RandomBeams beams(20261122);
     double positions = 0;
-    for (int number = 1; number <= numberOfCases(); ++number) {
+    for (int number = 1; number <= kCases; ++number) {
         const BeamCase c = beams.next();
         positions += CountPositions(c.project, c.loads.NCranes);
         SCOPED_TRACE("case " + std::to_string(number));

@@ -7,6 +7,7 @@
 #include "analysis/random_beam.h"
 #include "analysis/walk.h"
 #include "support/walked_beam.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -21,7 +22,7 @@ constexpr double kTolerance = 1e-5;
 TEST(StiffnessSolution, agreesWithTheWalksOnRandomBeams) {
     RandomBeams beams(73);
     Progress progress;
-    for (int number = 1; number <= 500; ++number) {
+    for (int number = 1; number <= testing_support::wantedCount("BORVIK_RANDOM_CASES", 500); ++number) {
         const BeamCase c = beams.next(5, 3000);
         MessageList messages;
         WalkedBeam walked(c.project, c.loads);

@@ -7,6 +7,7 @@
 
 #include "analysis/random_beam.h"
 #include "analysis/walk.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -14,7 +15,7 @@ namespace {
 using testing::BeamCase;
 using testing::RandomBeams;
 
-constexpr int kCases = 300;
+const int kCases = testing_support::wantedCount("BORVIK_RANDOM_CASES", 300);
 
 struct Walked {
     explicit Walked(const BeamCase& c)

@@ -6,6 +6,7 @@
 #include "solved_projects.h"
 #include "support/temp_folder.h"
 #include "support/walked_beam.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -86,7 +87,7 @@ TEST(Projects, giveTheSameBitsAfterSavingAndLoading) {
 
 /// Twice, saved and loaded, on the plain walk, beside another session: always the same bits.
 TEST(RandomProjects, giveTheSameBitsInEveryWay) {
-    constexpr int kProjects = 60;
+    const int kProjects = testing_support::wantedCount("BORVIK_RANDOM_CASES", 60);
     const TempFolder folder;
     std::mt19937 random(4711);
     TestSession session;

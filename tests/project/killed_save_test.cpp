@@ -7,13 +7,13 @@
 
 #include <array>
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <string>
 
 #include "project/project_file.h"
 #include "support/temp_folder.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -35,10 +35,7 @@ Project projectCalled(const std::string& title) {
     return project;
 }
 
-int numberOfKills() {
-    const char* wanted = std::getenv("BORVIK_KILLS");
-    return wanted != nullptr ? std::atoi(wanted) : 60;
-}
+const int kKills = testing_support::wantedCount("BORVIK_KILLS", 60);
 
 /// Saves first one, then the other, until it is killed. Says by a byte in `pipe` that it has begun.
 [[noreturn]] void saveForEver(const std::string& path, const Project& first, const Project& second, int pipe) {
@@ -70,7 +67,7 @@ TEST(KilledSave, leavesTheOldFileOrTheNewOne) {
 
     std::mt19937 random(20260101);
     std::ptrdiff_t halfway = 0;
-    for (int kill = 1; kill <= numberOfKills(); ++kill) {
+    for (int kill = 1; kill <= kKills; ++kill) {
         std::array<int, 2> begun{};
         ASSERT_EQ(::pipe(begun.data()), 0);
         const pid_t child = ::fork();
@@ -91,7 +88,7 @@ TEST(KilledSave, leavesTheOldFileOrTheNewOne) {
         halfway += removeWhatIsBeside(folder, path);
     }
     EXPECT_GT(halfway, 0) << "no kill fell into a save, so nothing was tried";
-    RecordProperty("kills", std::to_string(numberOfKills()));
+    RecordProperty("kills", std::to_string(kKills));
     RecordProperty("killsInsideASave", std::to_string(halfway));
 }
 
