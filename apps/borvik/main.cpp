@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
+#include <QStandardPaths>
 #include <iostream>
 #include <string_view>
 
@@ -36,10 +37,12 @@ int main(int argc, char** argv) {
     QDir::setSearchPaths(kExamplesPath, {QString::fromStdString(data + "/examples")});
     try {
         Session session(LoadTables(data));
-        MainWindow window(session, {messages, questions, settings});
+        const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        MainWindow window(session, {messages, questions, settings, (own + "/recovery").toStdString()});
         window.show();
         const QStringList arguments = QApplication::arguments();
         if (arguments.size() > 1) window.openProject(arguments.at(1).toStdString());
+        window.offerRecovery();
         return QApplication::exec();
     } catch (const TableError& error) {
         messages.show(error.what());

@@ -33,7 +33,12 @@ bool isProjectFile(const QMimeData* data) {
 }  // namespace
 
 MainWindow::MainWindow(Session& session, const Services& services, QWidget* parent)
-    : QMainWindow(parent), session_(session), services_(services), recent_(services.settings, kApplicationTitle) {
+    : QMainWindow(parent),
+      session_(session),
+      services_(services),
+      recent_(services.settings, kApplicationTitle),
+      history_(session.project, session.context),
+      recovery_(QString::fromStdString(services.recoveryFolder)) {
     setObjectName("frmBorvik");
     setAcceptDrops(true);
     resize(kStartSize);
@@ -42,8 +47,6 @@ MainWindow::MainWindow(Session& session, const Services& services, QWidget* pare
     buildStatusBar();
     ShowRecentFiles();
     WritefrmInput();
-    saved_ = session_.project;
-    showState();
 }
 
 void MainWindow::buildCentre() {
@@ -158,8 +161,10 @@ void MainWindow::buildStatusBar() {
 }
 
 void MainWindow::WritefrmInput() {
+    const bool asRemembered = session_.project == history_.present().project;
     session_.project.BeamChecked = true;
     panel_->showProject();
+    if (asRemembered) history_.settled(session_.project);
     picBalk_->showSketch(session_.project);
     setWindowTitle("Borvik : " + QString::fromStdString(session_.context.FileName));
     ShowTreeView();
@@ -170,12 +175,9 @@ void MainWindow::projectChanged(const QString& what, bool resultsStand) {
     if (!resultsStand) session_.inputChanged();
     picBalk_->showSketch(session_.project);
     panel_->showProject();
+    remember(what);
     showState();
     statusBar()->showMessage(tr("Changed: %1").arg(what), 4000);
-}
-
-bool MainWindow::hasUnsavedChanges() const {
-    return !(session_.project == saved_);
 }
 
 void MainWindow::showState() {
@@ -190,6 +192,7 @@ void MainWindow::showState() {
                                              : tr("Not calculated"));
     stateGoverning_->setVisible(current);
     stateTime_->setVisible(current);
+    showHistory();
 }
 
 bool MainWindow::event(QEvent* event) {
@@ -203,6 +206,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     panel_->commit();
+    keepCopy();
     if (!isMinimized()) {
         const auto keep = [this](const char* key, int edge) {
             services_.settings.save(kApplicationTitle, "Settings", key, std::to_string(edge));

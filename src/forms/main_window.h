@@ -16,9 +16,11 @@
 #include "forms/frm_progress.h"
 #include "forms/printing.h"
 #include "forms/project_panel.h"
+#include "forms/recovery_copies.h"
 #include "forms/result_table_view.h"
 #include "forms/result_tree_view.h"
 #include "forms/services.h"
+#include "project/project_history.h"
 #include "project/recent_files.h"
 
 namespace borvik {
@@ -27,7 +29,8 @@ namespace borvik {
 inline constexpr const char* kExamplesPath = "examples";
 
 /// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files) and
-/// main_window_results.cpp (calculation and what it shows); menus are made in main_window_menus.cpp.
+/// main_window_results.cpp (calculation and what it shows), undo and recovery in main_window_history.cpp; menus are
+/// made in main_window_menus.cpp.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -52,6 +55,10 @@ public:
 
     /// True when the project differs from what was last saved, opened or made new.
     [[nodiscard]] bool hasUnsavedChanges() const;
+
+    /// Offers what a former run could not save, the latest first: to bring it back, to throw it away, or to be asked
+    /// again at the next start. To be called once, when the window stands.
+    void offerRecovery();
 
     /// The calculation that is shown, of this input or of a former one; null before the first.
     [[nodiscard]] const CalculationPtr& calculation() const { return calculation_; }
@@ -87,9 +94,19 @@ private:
     bool saveTo(const std::string& path);
     void save();
     void saveAs();
-    bool load(const std::string& path);
-    void projectReplaced();
+    bool load(const std::string& path, const std::string& step, const std::string& shownAs);
+    void projectReplaced(const std::string& step);
+    void projectShown();
     void ShowRecentFiles();
+
+    // History
+    void remember(const QString& what);
+    void keepCopy();
+    void undo();
+    void redo();
+    void standAt(const ProjectStep& step, const QString& told, bool another);
+    void bringBack(const LeftCopy& copy);
+    void showHistory();
 
     // Input forms
     void openForm(DialogKind kind, const QString& what);
@@ -110,7 +127,9 @@ private:
     Session& session_;
     Services services_;
     RescentFile recent_;
-    Project saved_;  ///< the project as last saved, opened or made new
+    ProjectHistory history_;
+    RecoveryCopies recovery_;
+    bool copyRefused_ = false;  ///< the user has been told that no copy can be kept
     CalculationPtr calculation_;
     bool running_ = false;
     std::unique_ptr<FrmProgress> progress_;
@@ -121,6 +140,8 @@ private:
     DiagramView* picRes_ = nullptr;
     ResultTablePane* results_ = nullptr;
     QPushButton* cmdCalc_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
     QLabel* stateCalculated_ = nullptr;

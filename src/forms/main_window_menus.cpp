@@ -108,6 +108,14 @@ void MainWindow::buildMenus() {
                 {"mnuArkivAvsluta", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q),
                  themeIcon("application-exit", QStyle::SP_DialogCloseButton), [this] { close(); }}});
 
+    QMenu* edit = menu(nullptr, "mnuEdit", "&Edit");
+    fill(edit, {{"mnuUndo", "&Undo", {}, themeIcon("edit-undo", QStyle::SP_ArrowBack), [this] { undo(); }},
+                {"mnuRedo", "&Redo", {}, themeIcon("edit-redo", QStyle::SP_ArrowForward), [this] { redo(); }}});
+    undo_ = edit->actions().at(0);
+    redo_ = edit->actions().at(1);
+    undo_->setShortcut(QKeySequence::Undo);
+    redo_->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+
     QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
     setup->setObjectName("mnuSetup");
 

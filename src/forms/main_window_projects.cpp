@@ -41,12 +41,13 @@ void MainWindow::newProject() {
             case Answer::Cancel:
                 return;
             case Answer::No:
+                recovery_.drop(history_.present().document);
                 break;
         }
     }
     session_.project = {};
     DefaultProject(session_.tables, session_.project, session_.context);
-    projectReplaced();
+    projectReplaced("New");
 }
 
 void MainWindow::chooseAndOpen() {
@@ -54,18 +55,15 @@ void MainWindow::chooseAndOpen() {
 }
 
 bool MainWindow::openProject(const std::string& path) {
-    if (!load(path)) return false;
+    if (!load(path, "Open", path)) return false;
     recent_.AddRecentOnOpen(fullPath(path));
     ShowRecentFiles();
     return true;
 }
 
 void MainWindow::openExample(const QFileInfo& file) {
-    if (!load(file.filePath().toStdString())) return;
     // Without its folder, so that saving makes a copy in the current folder and leaves the example as it is.
-    session_.context.FileName = session_.context.FileTitle = file.fileName().toStdString();
-    WritefrmInput();
-    showState();
+    load(file.filePath().toStdString(), "Open example", file.fileName().toStdString());
 }
 
 void MainWindow::openRecent(int entry) {
@@ -77,7 +75,10 @@ void MainWindow::openRecent(int entry) {
     openProject(path);
 }
 
-bool MainWindow::load(const std::string& path) {
+/// @param step     the command's name in the history
+/// @param shownAs  the file that the project belongs to from now on
+bool MainWindow::load(const std::string& path, const std::string& step, const std::string& shownAs) {
+    panel_->commit();
     Project loaded;
     try {
         LoadProject(path, loaded);
@@ -86,21 +87,24 @@ bool MainWindow::load(const std::string& path) {
         return false;
     }
     session_.project = std::move(loaded);
-    session_.context.FileName = path;
-    session_.context.FileTitle = path;
+    session_.context.FileName = session_.context.FileTitle = shownAs;
     FollowProject(session_.tables, session_.project, session_.context);
-    projectReplaced();
+    projectReplaced(step);
     return true;
 }
 
-void MainWindow::projectReplaced() {
+void MainWindow::projectReplaced(const std::string& step) {
+    history_.replaced(step, session_.project, session_.context);
+    projectShown();
+}
+
+/// Another project stands in the window, as it will be saved.
+void MainWindow::projectShown() {
     session_.inputChanged();
     calculation_.reset();
     picRes_->clear();
     results_->clear();
     WritefrmInput();
-    saved_ = session_.project;
-    showState();
 }
 
 bool MainWindow::saveTo(const std::string& path) {
@@ -111,7 +115,8 @@ bool MainWindow::saveTo(const std::string& path) {
         services_.messages.show(error.what());
         return false;
     }
-    saved_ = session_.project;
+    history_.saved(session_.project, path);
+    keepCopy();
     showState();
     statusBar()->showMessage(tr("Saved: %1").arg(QString::fromStdString(fullPath(path))), 6000);
     return true;

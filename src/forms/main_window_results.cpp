@@ -74,12 +74,12 @@ void MainWindow::openForm(DialogKind kind, const QString& what) {
     if (always) session_.inputChanged();
     form->exec();
     if (always) session_.inputChanged();
+    remember(what);
     WritefrmInput();
 }
 
 void MainWindow::calculate() {
     if (running_ || !panel_->commit()) return;
-    const bool wasUnsaved = hasUnsavedChanges();
     const int splices = splicesInUse(session_.project);
     const bool twoCranes = session_.project.NofCranes == 2;
     Progress silent;
@@ -101,7 +101,11 @@ void MainWindow::calculate() {
         services_.messages.show(std::string("Run-time error. ") + error.what());
     }
     running_ = false;
-    if (!wasUnsaved && splicesInUse(session_.project) == splices) saved_ = session_.project;
+    if (splicesInUse(session_.project) == splices) {
+        history_.settled(session_.project);
+    } else {
+        remember(tr("Calculate"));
+    }
     if (!done) {
         progress_.reset();
         WritefrmInput();

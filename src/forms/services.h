@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/messages.h"
 #include "platform/questions.h"
 #include "platform/settings_store.h"
@@ -11,6 +13,7 @@ struct Services {
     Messages& messages;
     Questions& questions;
     SettingsStore& settings;
+    std::string recoveryFolder = {};  ///< of copies of unsaved projects; empty: none are kept
 };
 
 /// The program's title: in boxes, and as the application name of the settings.

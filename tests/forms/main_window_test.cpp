@@ -98,7 +98,7 @@ TEST_F(MainWindowTest, controlsHaveTheirCaptions) {
 
     QStringList top;
     for (const QAction* action : window.menuBar()->actions()) top << action->objectName();
-    EXPECT_EQ(top, (QStringList{"mnuArkiv", "mnuSetup", "mnuIndata", "mnuCalc", "mnuPrint", "mnuHelp"}));
+    EXPECT_EQ(top, (QStringList{"mnuArkiv", "mnuEdit", "mnuSetup", "mnuIndata", "mnuCalc", "mnuPrint", "mnuHelp"}));
 }
 
 TEST_F(MainWindowTest, aGradeSetsItsStrength) {

@@ -49,9 +49,11 @@ struct WindowFixture {
     PreparedAnswers questions;
     SettingsInMemory settings;
     Session session{LoadTables(BORVIK_SOURCE_DIR "/data")};
-    MainWindow window{session, {messages, questions, settings}};
+    MainWindow window;
 
-    WindowFixture() {
+    /// @param recoveryFolder  of copies of unsaved projects; none are kept without
+    explicit WindowFixture(const std::string& recoveryFolder = {})
+        : window(session, {messages, questions, settings, recoveryFolder}) {
         window.show();
         window.activateWindow();
         QCoreApplication::processEvents();

@@ -1,0 +1,100 @@
+#include "forms/recovery_copies.h"
+
+#include <QDataStream>
+#include <QDir>
+#include <QSaveFile>
+#include <QUuid>
+
+#include "project/project_file.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr const char* kHead = "Borvik recovery copy 1";
+constexpr const char* kEnding = ".copy";
+constexpr auto kStream = QDataStream::Qt_6_0;
+
+/// Locked as long as the process lives that made it, however long that is.
+std::unique_ptr<QLockFile> lockNamed(const QString& path) {
+    auto lock = std::make_unique<QLockFile>(path);
+    lock->setStaleLockTime(0);
+    return lock;
+}
+
+/// The name of the run that has written a copy: what stands before the number of the copy.
+QString runOf(const QFileInfo& copy) {
+    return copy.completeBaseName().section('.', 0, 0);
+}
+
+void read(QFile& file, LeftCopy& copy) {
+    if (!file.open(QIODevice::ReadOnly)) return;
+    QDataStream stream(&file);
+    stream.setVersion(kStream);
+    QByteArray head, fileName, bytes;
+    stream >> head >> fileName >> bytes;
+    if (stream.status() != QDataStream::Ok || head != kHead) return;
+    copy.FileName = fileName.toStdString();
+    try {
+        Project project;
+        ReadProjectBytes(bytes.toStdString(), project);
+        copy.project = std::move(project);
+    } catch (const ProjectFileError&) {
+        copy.project.reset();
+    }
+}
+
+}  // namespace
+
+RecoveryCopies::RecoveryCopies(QString folder)
+    : folder_(std::move(folder)), name_(QUuid::createUuid().toString(QUuid::Id128)) {}
+
+QString RecoveryCopies::keep(const std::shared_ptr<ProjectDocument>& document, const Project& project) {
+    if (folder_.isEmpty()) return {};
+    if (lock_ == nullptr) {
+        QDir().mkpath(folder_);
+        lock_ = lockNamed(pathOf(name_ + ".lock"));
+    }
+    if (!lock_->isLocked() && !lock_->tryLock()) return QObject::tr("%1 can't be written").arg(folder_);
+    auto [entry, isNew] = copies_.try_emplace(document);
+    if (isNew) entry->second = pathOf(name_ + "." + QString::number(copies_.size()) + kEnding);
+    QSaveFile file(entry->second);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    QDataStream stream(&file);
+    stream.setVersion(kStream);
+    bool lost = false;
+    stream << QByteArray(kHead) << QByteArray::fromStdString(document->FileName)
+           << QByteArray::fromStdString(ProjectBytes(project, lost));
+    return file.commit() ? QString() : file.errorString();
+}
+
+void RecoveryCopies::drop(const std::shared_ptr<ProjectDocument>& document) {
+    const auto entry = copies_.find(document);
+    if (entry != copies_.end()) QFile::remove(entry->second);
+}
+
+std::vector<LeftCopy> RecoveryCopies::leftCopies() const {
+    std::vector<LeftCopy> left;
+    if (folder_.isEmpty()) return left;
+    const auto files = QDir(folder_).entryInfoList({QString("*") + kEnding}, QDir::Files, QDir::Time);
+    for (const QFileInfo& info : files) {
+        const auto lock = lockNamed(pathOf(runOf(info) + ".lock"));
+        if (!lock->tryLock()) continue;
+        LeftCopy copy{info.absoluteFilePath(), info.lastModified(), {}, {}};
+        QFile file(copy.path);
+        read(file, copy);
+        left.push_back(std::move(copy));
+    }
+    return left;
+}
+
+void RecoveryCopies::remove(const LeftCopy& copy) {
+    QFile::remove(copy.path);
+}
+
+QString RecoveryCopies::setAside(const LeftCopy& copy) {
+    const QString aside = copy.path + ".spoilt";
+    return QFile::rename(copy.path, aside) ? aside : copy.path;
+}
+
+}  // namespace borvik

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "project/project.h"
+
+namespace borvik {
+
+/// A project file being worked on, or one that has no file yet: what all its steps have in common.
+struct ProjectDocument {
+    std::string FileName, FileTitle;
+    Project saved;  ///< as last saved, opened or made new
+};
+
+/// A project as it stood after a change.
+struct ProjectStep {
+    std::string what;  ///< the change in the user's words, such as "Material"
+    Project project;
+    std::shared_ptr<ProjectDocument> document;  ///< never null
+};
+
+/// Every state of the project since the program started, whole records, so that no change needs a way back of its own.
+/// One step for one accepted entry or one command; opening another project is a step like any other.
+class ProjectHistory {
+public:
+    /// Steps kept; the oldest is forgotten first. A record takes some 50 kB.
+    static constexpr std::size_t kSteps = 200;
+
+    ProjectHistory(const Project& project, const ProjectContext& context);
+
+    /// Takes down a change of the present project; what was undone before it is forgotten.
+    /// @return false where the project is as it was: no step
+    bool changed(const std::string& what, const Project& project);
+    /// Another project takes the place of this one, just as its file holds it.
+    void replaced(const std::string& what, const Project& project, const ProjectContext& context);
+    /// Another project takes the place of this one, with changes that its file does not hold.
+    void replaced(const std::string& what, const Project& project, ProjectDocument document);
+    /// What the program derives from the input belongs to the step that stands, and is no change of the user's: a saved
+    /// project stays a saved one.
+    void settled(const Project& project);
+    /// The project has been written to that file.
+    void saved(const Project& project, const std::string& path);
+
+    [[nodiscard]] bool unsaved(const Project& project) const { return !(project == present().document->saved); }
+    [[nodiscard]] const ProjectStep& present() const { return steps_[present_]; }
+
+    /// The change that undo would take back and that redo would make again; null where there is none.
+    [[nodiscard]] const std::string* undoName() const;
+    [[nodiscard]] const std::string* redoName() const;
+    /// One step back or forward, where there is one. @return the step that stands then
+    const ProjectStep& undo();
+    const ProjectStep& redo();
+
+private:
+    void add(ProjectStep step);
+
+    std::vector<ProjectStep> steps_;
+    std::size_t present_ = 0;
+};
+
+}  // namespace borvik

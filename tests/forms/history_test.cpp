@@ -1,0 +1,215 @@
+// Undo, redo, and what is brought back after an end with unsaved changes.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTimer>
+#include <filesystem>
+
+#include "project/project_file.h"
+#include "window_support.h"
+
+namespace borvik {
+namespace {
+
+using testing_support::TempFolder;
+using testing_support::writeBytes;
+
+class UndoTest : public testing::Test, public WindowFixture {
+protected:
+    TempFolder folder;
+    [[nodiscard]] std::string caption(const char* action) {
+        auto& found = control<QAction>(action);
+        return found.isEnabled() ? found.text().toStdString() : "";
+    }
+    [[nodiscard]] bool marked() { return !control<QLabel>("stateUnsaved").text().isEmpty(); }
+};
+
+TEST_F(UndoTest, takesBackWhatEachControlDid) {
+    struct Change {
+        const char* name;
+        std::function<void()> make;
+    };
+    const Change changes[]{
+        {"&Undo: Material",
+         [this] {
+             auto& grades = control<QComboBox>("cbofyk");
+             grades.setFocus();
+             QTest::keyClick(&grades, Qt::Key_Home);
+         }},
+        {"&Undo: Names", [this] { enter("iproj", "Hall"); }},
+        {"&Undo: Loads",
+         [this] {
+             QTimer::singleShot(0, &window, [] {
+                 auto* form = QApplication::activeModalWidget();
+                 auto* box = form->findChild<QLineEdit*>("txtGangway");
+                 EXPECT_TRUE(QTest::qWaitFor([box] {
+                     box->setFocus(Qt::TabFocusReason);
+                     return box->hasFocus();
+                 }));
+                 QTest::keyClicks(box, "4.4");
+                 QTest::keyClick(box, Qt::Key_Return);
+                 form->close();
+             });
+             trigger("mnuLoad");
+         }},
+        {"&Undo: New",
+         [this] {
+             questions.answers = {Answer::No};
+             trigger("mnuArkivNytt");
+         }},
+    };
+    EXPECT_EQ(caption("mnuUndo"), "");
+    std::vector<Project> states{project()};
+    for (const Change& change : changes) {
+        change.make();
+        EXPECT_EQ(caption("mnuUndo"), change.name);
+        states.push_back(project());
+        EXPECT_FALSE(states.end()[-1] == states.end()[-2]) << change.name;
+    }
+    for (std::size_t i = states.size() - 1; i > 0; --i) {
+        EXPECT_TRUE(project() == states[i]);
+        trigger("mnuUndo");
+        EXPECT_TRUE(project() == states[i - 1]) << changes[i - 1].name;
+        EXPECT_EQ(marked(), i > 1);
+    }
+    EXPECT_EQ(caption("mnuUndo"), "");
+    for (std::size_t i = 1; i < states.size(); ++i) {
+        trigger("mnuRedo");
+        EXPECT_TRUE(project() == states[i]) << changes[i - 1].name;
+    }
+    EXPECT_EQ(caption("mnuRedo"), "");
+}
+
+TEST_F(UndoTest, leadsBackToTheProjectThatWasOpen) {
+    questions.toSave.push_back(folder.file("a.brvk"));
+    trigger("mnuArkivSparasom");
+    enter("iproj", "Unsaved");
+    trigger("mnuCalc");
+    ASSERT_TRUE(session.Calculated);
+    EXPECT_EQ(caption("mnuUndo"), "&Undo: Names") << "a calculation is no change";
+    Project other = project();
+    other.Proj = "Other";
+    SaveProject(folder.file("b.brvk"), other);
+    ASSERT_TRUE(window.openProject(folder.file("b.brvk")));
+    EXPECT_FALSE(marked());
+
+    trigger("mnuUndo");
+    EXPECT_EQ(window.windowTitle().toStdString(), "Borvik : " + folder.file("a.brvk"));
+    EXPECT_EQ(project().Proj, "Unsaved");
+    EXPECT_TRUE(marked());
+    EXPECT_FALSE(session.Calculated);
+    EXPECT_EQ(window.calculation(), nullptr) << "results of another project are not shown";
+    trigger("mnuArkivSpara");
+    trigger("mnuUndo");
+    EXPECT_TRUE(marked()) << "the file holds what came after";
+    trigger("mnuRedo");
+    EXPECT_FALSE(marked());
+}
+
+/// Programs that start and end one after the other, with one folder for their copies.
+class RecoveryTest : public testing::Test {
+protected:
+    struct Program : WindowFixture {
+        explicit Program(const TempFolder& folder) : WindowFixture(folder.file("copies")) {}
+        /// Starts with that answer to what it offers. @return what was asked
+        std::vector<std::string> start(std::deque<Answer> answers) {
+            questions.answers = std::move(answers);
+            window.offerRecovery();
+            return questions.asked;
+        }
+    };
+    TempFolder folder;
+
+    void endUnsaved(const char* title) {
+        Program program(folder);
+        program.questions.toSave.push_back(folder.file("a.brvk"));
+        program.trigger("mnuArkivSparasom");
+        program.enter("iproj", title);
+        program.window.close();
+    }
+    [[nodiscard]] QStringList copies(const char* pattern = "*.copy") const {
+        return QDir(QString::fromStdString(folder.file("copies"))).entryList({pattern}, QDir::Files);
+    }
+};
+
+TEST_F(RecoveryTest, bringsBackWhatWasNotSaved) {
+    endUnsaved("Ölhalle");
+    Program next(folder);
+    const auto asked = next.start({Answer::Yes});
+    ASSERT_EQ(asked.size(), 1U);
+    EXPECT_NE(asked[0].find(folder.file("a.brvk") + "\nÖlhalle"), std::string::npos) << asked[0];
+    EXPECT_EQ(next.project().Proj, "Ölhalle");
+    EXPECT_EQ(next.window.windowTitle().toStdString(), "Borvik : " + folder.file("a.brvk"));
+    EXPECT_TRUE(next.window.hasUnsavedChanges());
+    EXPECT_EQ(copies().size(), 1) << "brought back is not yet saved";
+    next.trigger("mnuArkivSpara");
+    EXPECT_FALSE(next.window.hasUnsavedChanges());
+    EXPECT_EQ(copies().size(), 0);
+}
+
+TEST_F(RecoveryTest, throwsAwayOrAsksAgain) {
+    endUnsaved("A");
+    EXPECT_EQ(Program(folder).start({Answer::Cancel}).size(), 1U);
+    EXPECT_EQ(Program(folder).start({Answer::No}).size(), 1U);
+    EXPECT_EQ(Program(folder).start({}).size(), 0U);
+}
+
+TEST_F(RecoveryTest, keepsACopyOfEachProjectUntilItIsSafe) {
+    Program program(folder);
+    program.enter("iproj", "First");
+    EXPECT_EQ(copies().size(), 1);
+    program.trigger("mnuUndo");
+    EXPECT_EQ(copies().size(), 0) << "back at the saved state";
+    program.trigger("mnuRedo");
+    Project other = program.project();
+    SaveProject(folder.file("b.brvk"), other);
+    program.window.openProject(folder.file("b.brvk"));
+    EXPECT_EQ(copies().size(), 1) << "of the first, which nobody has saved";
+    program.enter("iproj", "Second");
+    EXPECT_EQ(copies().size(), 2);
+    EXPECT_EQ(Program(folder).start({}).size(), 0U) << "a running program's copies are its own";
+    program.questions.answers = {Answer::No};
+    program.trigger("mnuArkivNytt");
+    EXPECT_EQ(copies().size(), 1) << "the user has said that the second is not to be saved";
+}
+
+TEST_F(RecoveryTest, tellsOfASpoiltCopyOnceAndKeepsIt) {
+    endUnsaved("A");
+    std::filesystem::resize_file(folder.file("copies") + "/" + copies().at(0).toStdString(), 500);
+    {
+        Program next(folder);
+        EXPECT_EQ(next.start({}).size(), 0U);
+        EXPECT_EQ(next.messages.texts.size(), 1U);
+    }
+    EXPECT_EQ(copies("*.spoilt").size(), 1);
+    Program last(folder);
+    EXPECT_EQ(last.start({}).size(), 0U);
+    EXPECT_EQ(last.messages.texts.size(), 0U);
+}
+
+TEST_F(RecoveryTest, worksOnWhereNoCopyCanBeKept) {
+    writeBytes(folder.file("copies"), "a file where the folder should be");
+    Program program(folder);
+    program.enter("iproj", "A");
+    EXPECT_EQ(program.messages.texts.size(), 0U);
+    EXPECT_EQ(program.project().Proj, "A");
+}
+
+TEST_F(RecoveryTest, aVanishedFolderLeavesTheProjectInMemory) {
+    const std::string gone = folder.file("gone");
+    std::filesystem::create_directory(gone);
+    Program program(folder);
+    program.questions.toSave.push_back(gone + "/a.brvk");
+    program.trigger("mnuArkivSparasom");
+    std::filesystem::remove_all(gone);
+    program.enter("iproj", "Kept");
+    program.trigger("mnuArkivSpara");
+    EXPECT_EQ(program.messages.texts.size(), 1U);
+    EXPECT_EQ(program.project().Proj, "Kept");
+    EXPECT_TRUE(program.window.hasUnsavedChanges());
+    EXPECT_EQ(copies().size(), 1);
+}
+
+}  // namespace
+}  // namespace borvik
