@@ -1,9 +1,145 @@
-#include "notes/note_rules.h"
+#include <algorithm>
+
+#include "checks/section_checks.h"
+#include "notes/all_ratios.h"
 
 namespace borvik {
 
+namespace {
+
+std::optional<NoteFinding> always(const Session&) {
+    return matters(true);
+}
+std::optional<NoteFinding> overhead(const Session& session) {
+    return matters(session.project.CraneType == 1);
+}
+std::optional<NoteFinding> monorail(const Session& session) {
+    return matters(session.project.CraneType != 1);
+}
+
+/// One crane alone; the second one's wheels take the place of the first one's.
+void keepCrane(Session& session, int crane) {
+    Project& p = session.project;
+    if (crane == 2) {
+        for (int wheel = 1; wheel <= 4; ++wheel) {
+            p.V(wheel) = p.V(wheel + 4);
+            p.H(wheel) = p.H(wheel + 4);
+        }
+        for (int gap = 1; gap <= 3; ++gap) p.Avst(gap) = p.Avst(gap + 3);
+        p.PsiV1 = p.PsiV2;
+        p.PsiH1 = p.PsiH2;
+        p.CraneClass1 = p.CraneClass2;
+    }
+    for (int wheel = 5; wheel <= 8; ++wheel) p.V(wheel) = p.H(wheel) = 0;
+    for (int gap = 4; gap <= 6; ++gap) p.Avst(gap) = 0;
+    p.NofCranes = 1;
+}
+
+/// Each crane by itself, in the checks of ULS and SLS; a fatigue check sums up its cranes by rules of its own.
+std::optional<NoteFinding> oneCraneAlone(const Session& session) {
+    if (session.project.NofCranes != 2) return std::nullopt;
+    std::vector<CheckedRatio> shown = allRatios(session), other = shown;
+    for (int crane = 1; crane <= 2; ++crane) {
+        const auto alone = recalculated(session, [crane](Session& copy) { keepCrane(copy, crane); });
+        if (!alone) continue;
+        const auto ratios = allRatios(*alone);
+        for (std::size_t i = 0; i < std::min(ratios.size(), other.size()); ++i)
+            other[i].largest = std::max(other[i].largest, ratios[i].largest);
+    }
+    std::erase_if(shown, [](const CheckedRatio& r) { return r.what.starts_with("fatigue"); });
+    other.resize(shown.size());
+    return grown(shown, other);
+}
+
+/// Walks that start a little later, so that the wheels stand between the told positions too.
+std::optional<NoteFinding> betweenTheSteps(const Session& session) {
+    constexpr double kShortSpan = 10000;  // mm
+    constexpr double kLongRun = 0.05;     // s: a longer calculation is not repeated
+    const Project& project = session.project;
+    const std::vector<CheckedRatio> shown = allRatios(session);
+    const bool shortSpan =
+        *std::min_element(project.Span.begin(), project.Span.begin() + project.NofSpans) < kShortSpan;
+    const bool high = std::any_of(shown.begin(), shown.end(), [](const auto& r) { return r.largest > 0.9; });
+    if (project.Fixerad || !(shortSpan || high) || session.results->Seconds > kLongRun) return std::nullopt;
+    std::vector<CheckedRatio> other = shown;
+    for (const double shift : {50.0, 100.0, 150.0}) {
+        const auto later = recalculated(session, [shift](Session& copy) { copy.project.Position += shift; });
+        if (!later) continue;
+        const auto ratios = allRatios(*later);
+        for (std::size_t i = 0; i < std::min(ratios.size(), other.size()); ++i)
+            other[i].largest = std::max(other[i].largest, ratios[i].largest);
+    }
+    return grown(shown, other);
+}
+
+/// H at the rail's top in place of the flange's middle: the lever to the other flange is longer.
+std::optional<NoteFinding> leverOfHorizontalLoad(const Session& session) {
+    const Project& project = session.project;
+    if (project.CraneType != 1 || !project.HasLoadsY) return std::nullopt;
+    const UlsResults& uls = session.results->Uls;
+    std::vector<NoteChange> changes;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const SectionRecord& section = project.SpanSection(span);
+        const double hs = section.h - (section.tf1 + section.tf2) / 2;
+        const double factor = 1 + (session.context.CurrentRail.RailHr + section.tf1 / 2) / hs;
+        double shown = 0, other = 0;
+        for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan})
+            for (const double times : {1.0, factor}) {
+                const SectionForces forces((*records)(span, 1), (*records)(span, 2), (*records)(span, 3) * times);
+                const double ratio =
+                    BendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
+                double& largest = times == 1.0 ? shown : other;
+                largest = std::max(largest, ratio);
+            }
+        changes.push_back({inSpan("bending", span), shown, other});
+    }
+    return worstOf(changes);
+}
+
+/// H on wheel 6 alone is in the checks and not in what is offered to look at.
+std::optional<NoteFinding> horizontalOnWheelSix(const Session& session) {
+    const Project& project = session.project;
+    return matters(!project.HasLoadsY && project.H(6) != 0);
+}
+
+constexpr NoteRule kRules[]{
+    {"A1", NoteCheck::General, NoteEffect::Unsafe,
+     "One group of loads is calculated, each crane with one dynamic factor for V and one for H; the other groups "
+     "(skewing, "
+     "buffers, test load) are projects of their own.",
+     "", "EN 1991-3 2.4, Table 2.2", overhead, true},
+    {"A2", NoteCheck::General, NoteEffect::Unsafe,
+     "With two cranes on the beam neither is walked alone, though the second one can relieve a span.",
+     "with the worse crane alone", "EN 1991-3 2.5.4", oneCraneAlone},
+    {"A3", NoteCheck::General, NoteEffect::Unsafe,
+     "The cranes move in steps of 200 mm and forces are taken at 21 points of a span, so that a wheel can stand beside "
+     "the "
+     "worst place.",
+     "with positions every 50 mm", "", betweenTheSteps},
+    {"A6", NoteCheck::Section, NoteEffect::Unsafe,
+     "A horizontal load bends the loaded flange as if it acted at its middle; at the rail's top its lever is longer.",
+     "with that lever", "EN 1993-6 5.6.1, EN 1991-3 2.5.2.1", leverOfHorizontalLoad},
+    {"A6a", NoteCheck::General, NoteEffect::Unsafe,
+     "Torsion by wheel loads that stand beside the web is left out of the beam's stresses.", "",
+     "EN 1991-3 2.5.2.1, EN 1993-6 5.6.1", overhead, true},
+    {"A7", NoteCheck::General, NoteEffect::Either,
+     "Supports are rigid and pinned in both planes and do not settle, the section of a span is constant, shear "
+     "deformation "
+     "is left out.",
+     "", "", always, true},
+    {"A8", NoteCheck::General, NoteEffect::Information,
+     "A horizontal load on wheel 6 alone is in the checks, but its diagrams and tables are not offered.", "", "",
+     horizontalOnWheelSix},
+    {"A9", NoteCheck::WheelLoad, NoteEffect::Unsafe,
+     "V of a hoist is the load of a pair of wheels, one on each side of the web; the checks of the flange take half of "
+     "it.",
+     "", "EN 1993-6 5.8, 6.7", monorail, true},
+};
+
+}  // namespace
+
 std::span<const NoteRule> loadNotes() {
-    return {};
+    return kRules;
 }
 
 }  // namespace borvik

@@ -1,9 +1,62 @@
-#include "notes/note_rules.h"
+#include "notes/all_ratios.h"
 
 namespace borvik {
 
+namespace {
+
+/// The largest of the rows where the governing row is another: the change with the largest growth.
+template <class Wanted>
+std::optional<NoteFinding> hiddenRatios(const Session& session, Wanted wanted) {
+    std::vector<NoteChange> hidden;
+    for (const CheckedRatio& ratio : allRatios(session))
+        if (ratio.largest > ratio.shown && wanted(ratio))
+            hidden.push_back(
+                {ratio.at > 0 ? inSpan(ratio.what.c_str(), ratio.at) : ratio.what, ratio.shown, ratio.largest});
+    return worstOf(hidden);
+}
+
+bool isWheelCheck(const CheckedRatio& ratio) {
+    return ratio.what == "patch load" || ratio.what == "flange bending" || ratio.what == "von Mises stress";
+}
+
+std::optional<NoteFinding> rankedAsText(const Session& session) {
+    return hiddenRatios(session, [](const CheckedRatio& r) { return r.largest >= 10 && !isWheelCheck(r); });
+}
+
+std::optional<NoteFinding> lastTwoSpans(const Session& session) {
+    return hiddenRatios(session, isWheelCheck);
+}
+
+/// Above the limit by less than what three decimals show.
+std::optional<NoteFinding> justAboveOne(const Session& session) {
+    for (const CheckedRatio& ratio : allRatios(session))
+        if (ratio.largest > 1 && ratio.largest < 1.0005) return matters(true, ratio.what);
+    return std::nullopt;
+}
+
+std::optional<NoteFinding> sharedRows(const Session& session) {
+    const Project& project = session.project;
+    return matters(project.CraneType == 1 && project.Fat4 && project.Fat6);
+}
+
+constexpr NoteRule kRules[]{
+    {"H1", NoteCheck::General, NoteEffect::Unsafe,
+     "The governing row of a check is the one whose ratio ranks highest as text, so that 10.000 ranks below 2.000.",
+     "by number", "", rankedAsText},
+    {"H2", NoteCheck::WheelLoad, NoteEffect::Unsafe,
+     "The governing row of the wheel load checks is the larger of the last two spans; an earlier span has more.",
+     "of all spans", "", lastTwoSpans},
+    {"H3", NoteCheck::General, NoteEffect::Information,
+     "Ratios are written with three decimals, and one that is just above 1 shows as 1.000.", "", "", justAboveOne},
+    {"H6", NoteCheck::Fatigue, NoteEffect::Information,
+     "The rows of detail 4 are not listed point by point when detail 6 is checked too; its governing row stands.", "",
+     "", sharedRows},
+};
+
+}  // namespace
+
 std::span<const NoteRule> rowNotes() {
-    return {};
+    return kRules;
 }
 
 }  // namespace borvik

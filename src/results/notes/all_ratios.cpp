@@ -1,0 +1,52 @@
+#include "notes/all_ratios.h"
+
+namespace borvik {
+
+namespace {
+
+template <int Rows, int Gov>
+void add(std::vector<CheckedRatio>& ratios, std::string what, const Array<RowSet<Rows>>& rows,
+         const RowSet<Gov>& governing, bool spans = true) {
+    CheckedRatio found{std::move(what), governing.Ratio, governing.Ratio, 0};
+    for (int i = rows.first(); i <= rows.last(); ++i)
+        if (rows(i).Ratio > found.largest || (rows(i).Ratio == found.largest && found.at == 0)) {
+            found.largest = rows(i).Ratio;
+            found.at = spans ? i : 0;
+        }
+    ratios.push_back(std::move(found));
+}
+
+}  // namespace
+
+std::vector<CheckedRatio> allRatios(const Session& session) {
+    const CheckResults& c = session.results->Checks;
+    const FatigueResults& f = session.results->Fatigue;
+    std::vector<CheckedRatio> ratios;
+    add(ratios, "shear", c.ShearSpan, c.ShearGov);
+    add(ratios, "bending", c.BendSpan, c.BendGov);
+    add(ratios, "lateral torsional buckling", c.LtbSpan, c.LtbGov);
+    add(ratios, session.project.CraneType == 1 ? "patch load" : "flange bending", c.LocalSpan, c.LocalGov);
+    add(ratios, "von Mises stress", c.VonMisesSpan, c.VonMisesGov);
+    add(ratios, "vertical deflection", c.DefZSpan, c.DefZGov);
+    add(ratios, "horizontal deflection", c.DefYSpan, c.DefYGov);
+    for (int detail = 1; detail <= 6; ++detail)
+        if (f.FatResult(detail) && f.FatRows(detail))
+            add(ratios, "fatigue detail " + std::to_string(detail), *f.FatRows(detail), *f.FatResult(detail), false);
+    return ratios;
+}
+
+std::optional<NoteFinding> grown(const std::vector<CheckedRatio>& shown, const std::vector<CheckedRatio>& other) {
+    constexpr double kLeast = 0.0005;  // smaller growth doesn't show in three decimals
+    NoteFinding finding;
+    for (std::size_t i = 0; i < std::min(shown.size(), other.size()); ++i) {
+        if (shown[i].what != other[i].what) continue;
+        NoteChange change{shown[i].what, shown[i].largest, other[i].largest};
+        if (change.growth() >= kLeast) finding.changes.push_back(std::move(change));
+    }
+    if (finding.changes.empty()) return std::nullopt;
+    std::stable_sort(finding.changes.begin(), finding.changes.end(),
+                     [](const NoteChange& a, const NoteChange& b) { return a.growth() > b.growth(); });
+    return finding;
+}
+
+}  // namespace borvik

@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "notes/noted_project.h"
+
+using namespace borvik;
+using namespace borvik::testing_support;
+
+namespace {
+
+void oneWheelOnSixMetres(Session& session) {
+    oneWheel(session, 1, 6000);
+}
+
+/// 500 kN and H 30 kN in the middle of the first of two spans, a reinforced section: class 1 sagging, 3 hogging.
+void reinforcedTwoSpans(Session& session) {
+    oneWheel(session, 2, 6000);
+    standsAt(session, 3000);
+    session.project.V(1) = 500;
+    session.project.H(1) = 30;
+    for (int span = 1; span <= 2; ++span) session.project.SpanSection(span).Reinforced = true;
+}
+
+void welded(Session& session, double tf) {
+    oneWheel(session, 1, 6000);
+    session.project.V(1) = 1000;
+    weldedSection(session, "Is", 600, 300, 300, 12, tf);
+}
+
+void monorailOf(Session& session, const char* section) {
+    session.project.CraneType = 2;
+    for (int span = 1; span <= 3; ++span) session.project.SpanSection(span).TableName = section;
+}
+
+const NoteCase kCases[]{
+    {"A1", {}, [](Session& session) { session.project.CraneType = 2; }},
+    // Wheel in the middle: My = 150, Mz = 20 x 6/4 = 30 kNm; 150/447.1 + 30/74.55. The rail is 30 high, the flanges 276
+    // apart: 30 (1 + 37/276) = 34.02.
+    {"A6",
+     [](Session& session) {
+         oneWheelOnSixMetres(session);
+         session.project.H(1) = 20;
+     },
+     oneWheelOnSixMetres, "bending, span 1", 0.7379, 0.7919},
+    {"A8",
+     [](Session& session) {
+         oneWheelOnSixMetres(session);
+         session.project.NofCranes = 2;
+         session.project.V(5) = session.project.V(6) = 10;
+         session.project.Avst(4) = 1000;
+         session.project.H(6) = 5;
+         session.project.HasLoadsY = false;  // as the form of the loads leaves it
+     },
+     {}},
+    {"A9", [](Session& session) { session.project.CraneType = 2; }, {}},
+    // Axis in the top flange at equal areas, 26.875 below the top: Wpl = 10750 x 13.44 + 5250 x 6.56 + 3500 x 188.1 +
+    // 2000 x 368.1 = 1573.6e3, My,Rd = 558.6 kNm; 375 kNm.
+    {"B5",
+     [](Session& session) {
+         reinforcedTwoSpans(session);
+         for (int span = 1; span <= 2; ++span) session.project.SpanSection(span).ReinfT = 5;
+     },
+     reinforcedTwoSpans},
+    // Over the support My = 0.6352 My,Rd, Mz = 0.0761 Mz,Rd of the plastic flange: 0.6352^2 + 1.5 x 0.0761.
+    {"B9", reinforcedTwoSpans, oneWheelOnSixMetres, "bending, span 2", 0.4795, 0.5176},
+    {"B13", [](Session& session) { monorailOf(session, "IPN 300"); },
+     [](Session& session) { monorailOf(session, "HEA 300"); }},
+    // Wpl: 6000 x 580 + 12 x 560^2/4 = 4420.8e3; the short formula has 12 x 560/2 x 290 for the web: 4454.4e3. My =
+    // 1500 kNm.
+    {"B15", [](Session& session) { welded(session, 20); }, oneWheelOnSixMetres, "bending, span 1", 0.9486, 0.9558},
+};
+
+TEST(LoadAndSectionNotes, SpeakWhereTheyMatter) {
+    for (const NoteCase& noteCase : kCases) expectNote(noteCase);
+}
+
+/// The change of that name, or zeros.
+NoteChange changeOf(const std::optional<NoteFinding>& finding, const std::string& what) {
+    if (finding)
+        for (const NoteChange& change : finding->changes)
+            if (change.what == what) return change;
+    return {};
+}
+
+TEST(LoadNotes, AWheelBetweenTheStepsIsFound) {
+    // 5 m: the worst a step of 200 mm finds is a wheel at 2200 seen from 2250, 100 x 2.2 x 2.75/5 = 121 kNm; in the
+    // middle it is 125.
+    const auto finding = findingOf(calculated([](Session& session) { oneWheel(session, 1, 5000); }), "A3");
+    const NoteChange bending = changeOf(finding, "bending");
+    EXPECT_NEAR(bending.shown, 121 / 447.1, 0.0003);
+    EXPECT_NEAR(bending.other, 125 / 447.1, 0.0003);
+    EXPECT_FALSE(findingOf(calculated([](Session& session) {
+                               oneWheel(session, 1, 5000);
+                               standsAt(session, 2400);
+                           }),
+                           "A3"))
+        << "a crane that stands still";
+}
+
+TEST(LoadNotes, ACraneAloneCanBeWorse) {
+    const auto cranes = [](int first, int last) {
+        return [=](Session& session) {
+            oneWheel(session, 2, 6000);
+            Project& project = session.project;
+            project.NofCranes = static_cast<std::int16_t>(last - first + 1);
+            project.MinAvst = 4000;
+            if (first == 2) {
+                project.V(1) = project.V(2) = 60;
+                project.Avst(1) = 3000;
+            } else if (last == 2) {
+                project.V(5) = project.V(6) = 60;
+                project.Avst(4) = 3000;
+            }
+        };
+    };
+    const Session both = calculated(cranes(1, 2));
+    const auto bending = [](const Session& session) {
+        const auto& rows = session.results->Checks.BendSpan;
+        return std::max(rows(1).Ratio, rows(2).Ratio);
+    };
+    const double alone = std::max(bending(calculated(cranes(1, 1))), bending(calculated(cranes(2, 2))));
+    ASSERT_GT(alone, bending(both));
+    const NoteChange change = changeOf(findingOf(both, "A2"), "bending");
+    EXPECT_NEAR(change.shown, bending(both), 1e-6);
+    EXPECT_NEAR(change.other, alone, 1e-6);
+    EXPECT_FALSE(findingOf(calculated(), "A2"));
+}
+
+TEST(SectionNotes, AThickFlangeIsWeaker) {
+    const auto finding = findingOf(calculated([](Session& session) { welded(session, 45); }), "B1");
+    ASSERT_TRUE(finding && finding->changes.size() == 1);
+    EXPECT_GE(finding->changes[0].other / finding->changes[0].shown, 1.02);
+    EXPECT_LE(finding->changes[0].other / finding->changes[0].shown, 355.0 / 335 + 1e-4);
+    EXPECT_FALSE(findingOf(calculated([](Session& session) { welded(session, 20); }), "B1"));
+}
+
+TEST(SectionNotes, TheAxisInAThickTopFlange) {
+    // Equal areas 26.875 below the top: Wpl = 10750 x 13.44 + 5250 x 6.56 + 3500 x 188.1 + 2000 x 368.1 = 1573.6e3 mm3,
+    // 558.6 kNm; My = 150.
+    const auto finding = findingOf(calculated([](Session& session) {
+                                       oneWheel(session, 1, 6000);
+                                       weldedSection(session, "Iu", 400, 400, 200, 10, 10);
+                                       session.project.SpanSection(1).tf1 = 40;
+                                   }),
+                                   "B3");
+    EXPECT_NEAR(changeOf(finding, "bending, span 1").other, 150 / 558.6, 0.0002);
+    EXPECT_FALSE(findingOf(calculated(), "B3"));
+}
+
+}  // namespace

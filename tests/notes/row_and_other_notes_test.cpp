@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "notes/noted_project.h"
+
+using namespace borvik;
+using namespace borvik::testing_support;
+
+namespace {
+
+void spanOf(Session& session, int length) {
+    oneWheel(session, 1, length);
+}
+
+const NoteCase kCases[]{
+    // 10 kN in the middle of 6 m: 10000 x 6000^3/(48 E 63.1e6) = 3.396 mm of 10; the top flange alone has 14 x
+    // 300^3/12 = 31.5e6.
+    {"E1",
+     [](Session& session) {
+         spanOf(session, 6000);
+         session.project.H(1) = 10;
+     },
+     [](Session& session) { spanOf(session, 6000); }, "horizontal deflection, span 1", 0.3396, 0.6803},
+    // 100 kN in the middle of 18 m: 100000 x 18000^3/(48 E 182.6e6) = 316.9 mm, of 30 and of 25.
+    {"E2", [](Session& session) { spanOf(session, 18000); }, [](Session& session) { spanOf(session, 6000); },
+     "vertical deflection, span 1", 10.562, 12.674},
+    {"E3a", {}, [](Session& session) { session.project.CraneType = 2; }},
+    {"E3b", [](Session& session) { session.project.CraneType = 2; }, {}},
+    // 11.735 mm of 10, times 1.1.
+    {"E4",
+     [](Session& session) {
+         spanOf(session, 6000);
+         session.project.PsiV1 = 1.1;
+     },
+     {},
+     "vertical deflection, span 1",
+     1.1735,
+     1.2909},
+    {"E6",
+     [](Session& session) {
+         oneWheel(session, 2, 6000);
+         session.project.Span(1) = 4000;
+     },
+     [](Session& session) { spanOf(session, 6000); }},
+    // A deflection of 1.0002 times L/600: V = 1.0002 x 10 x 48 E 182.6e6/6000^3.
+    {"H3",
+     [](Session& session) {
+         spanOf(session, 6000);
+         session.project.V(1) = 1.0002 * 10 * 48 * 210000 * 182.6e6 / 6000 / 6000 / 6000 / 1000;
+     },
+     [](Session& session) { spanOf(session, 6000); }},
+    {"H6", [](Session& session) { session.project.Fat4 = session.project.Fat6 = true; },
+     [](Session& session) { session.project.Fat6 = false; }},
+    // Flange 300 wide: i = 86.6 mm; 24000/86.6 = 277.
+    {"I3", [](Session& session) { spanOf(session, 24000); }, [](Session& session) { spanOf(session, 6000); }},
+    // hw/tw = 490 over 0.55 E/355 sqrt(1960 x 4/4000) = 455.
+    {"I4",
+     [](Session& session) {
+         spanOf(session, 6000);
+         weldedSection(session, "Is", 2000, 200, 200, 4, 20);
+     },
+     {}},
+    {"I6", {}, [](Session& session) { session.project.CraneType = 2; }},
+    {"I8",
+     [](Session& session) {
+         spanOf(session, 6000);
+         weldedSection(session, "Is", 600, 300, 300, 12, 40);
+     },
+     {}},
+};
+
+TEST(RowAndOtherNotes, SpeakWhereTheyMatter) {
+    for (const NoteCase& noteCase : kCases) expectNote(noteCase);
+}
+
+TEST(RowNotes, ALargerRatioThatRanksLowerIsNamed) {
+    const Session session = calculated([](Session& made) {
+        oneWheel(made, 2, 18000);
+        made.project.Span(2) = 9000;
+        made.project.V(1) = 150;
+    });
+    const auto& checks = session.results->Checks;
+    ASSERT_GT(checks.DefZSpan(1).Ratio, 10);
+    ASSERT_LT(checks.DefZGov.Ratio, 10) << "by text";
+    const auto finding = findingOf(session, "H1");
+    ASSERT_TRUE(finding);
+    EXPECT_EQ(finding->changes[0].what, "vertical deflection, span 1");
+    EXPECT_EQ(finding->changes[0].shown, checks.DefZGov.Ratio);
+    EXPECT_EQ(finding->changes[0].other, checks.DefZSpan(1).Ratio);
+    EXPECT_FALSE(findingOf(calculated(), "H1"));
+}
+
+TEST(RowNotes, AnEarlierSpanWithMoreUnderAWheelIsNamed) {
+    const Session session = calculated([](Session& made) { made.project.SpanSection(1).TableName = "IPE 300"; });
+    const auto& checks = session.results->Checks;
+    const auto finding = findingOf(session, "H2");
+    ASSERT_TRUE(finding);
+    EXPECT_EQ(finding->changes[0].what, "patch load, span 1");
+    EXPECT_EQ(finding->changes[0].shown, checks.LocalSpan(3).Ratio);
+    EXPECT_EQ(finding->changes[0].other, checks.LocalSpan(1).Ratio);
+    EXPECT_FALSE(findingOf(calculated(), "H2"));
+}
+
+}  // namespace
