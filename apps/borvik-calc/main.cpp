@@ -7,10 +7,10 @@
 
 int main(int argc, char** argv) {
     using namespace borvik;
-    const auto parsed = parseOptions(argc, argv);
-    if (const int* exitCode = std::get_if<int>(&parsed)) return *exitCode;
-    const Options& options = std::get<Options>(parsed);
     try {
+        const auto parsed = parseOptions(argc, argv);
+        if (const int* exitCode = std::get_if<int>(&parsed)) return *exitCode;
+        const Options& options = std::get<Options>(parsed);
         return runBatch(options,
                         LoadTables(options.tables.empty() ? FindDataFolder(ProgramFolder(argv[0])) : options.tables));
     } catch (const TableError& error) {

@@ -15,8 +15,8 @@ LoadedBeam::LoadedBeam(const Project& project, const RunLoads& loads, bool horiz
       placer(project, beam, loads),
       deadTerms(deadLoadTerms(beam, loads)),
       horizontal(horizontalWanted && anyNonZero(loads.WheelH)) {
-    pointsZ.resize(static_cast<std::size_t>(beam.n + 1));
-    pointsY.resize(static_cast<std::size_t>(beam.n + 1));
+    pointsZ.resize(static_cast<std::size_t>(beam.n) + 1);
+    pointsY.resize(static_cast<std::size_t>(beam.n) + 1);
     for (int i = 1; i <= beam.n; ++i) {
         pointsZ[static_cast<std::size_t>(i)] = SpanPoints(beam.L[i], beam.Iy[i], loads.SpanLoad(i));
         if (horizontal) pointsY[static_cast<std::size_t>(i)] = SpanPoints(beam.L[i], beam.Iz[i], 0);

@@ -125,7 +125,8 @@ std::vector<LabelPlacer::Candidate> LabelPlacer::candidates(const DrawingSurface
     }
     for (const bool below : {label.below, !label.below}) {
         if (label.keepSide && below != label.below) continue;
-        for (double away = 0.0; away < kFarthest; away += 0.5) {
+        for (int halves = 0; 0.5 * halves < kFarthest; ++halves) {
+            const double away = 0.5 * halves;
             const double gap = (kGap + away) * em.y;
             const double top = below ? label.anchor.y + gap : label.anchor.y - gap - size.height;
             if (top < frame_.top || top + size.height > frame_.bottom) break;

@@ -97,6 +97,7 @@ void drawSectionSketch(DrawingSurface& surface, const SectionRecord& section, Pl
 
     std::vector<Place> outline;
     const std::vector<Place> half = halfOutline(section);
+    outline.reserve(2 * half.size());
     for (const Place place : half) outline.push_back(onPaper(place));
     for (auto place = half.rbegin(); place != half.rend(); ++place) outline.push_back(onPaper({-place->x, place->y}));
     constexpr double kOutlineMm = 0.25;
@@ -105,6 +106,7 @@ void drawSectionSketch(DrawingSurface& surface, const SectionRecord& section, Pl
     surface.polyline(outline);
     for (const std::vector<Place>& corners : plates(section)) {
         std::vector<Place> placed;
+        placed.reserve(corners.size() + 1);
         for (const Place place : corners) placed.push_back(onPaper(place));
         placed.push_back(placed.front());
         surface.polygon(placed, kPlate);
