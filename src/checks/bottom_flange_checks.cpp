@@ -15,25 +15,6 @@ double largestWheel(const Project& project) {
     return *std::max_element(project.V.begin(), project.V.begin() + 4);
 }
 
-/// Ff,Rd of EN 1993-6 6.7(1), kN.
-/// @param xw         wheel spacing, mm
-/// @param MyMax,MyMin  extreme moments of the span, Nmm
-double flangeResistance(const Project& project, const SectionRecord& section, double xw, double MyMax, double MyMin) {
-    const double root = section.Fab == "R" ? 0.8 * section.R : 0.8 * std::numbers::sqrt2 * section.R;
-    const double m = (section.b2 - section.tw) / 2 - root - project.Inn;  // lever from wheel to root, eq. (6.2), (6.3)
-    const double mn = m + project.Inn;
-    const double separate = 4 * std::numbers::sqrt2 * mn;  // Table 6.2: wheels further apart than this act alone
-    const double leff = xw >= separate ? separate : 2 * std::numbers::sqrt2 * mn + 0.5 * xw;
-
-    // Stress at the underside from My alone: the flange's own share of Mz is left out.
-    const double Sf =
-        std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
-    const double fyk = project.fyk, GammaM0 = project.GammaM0;
-    const double Fbase = std::pow(section.tf2, 2) * leff * fyk / GammaM0 / (4 * m);
-    // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0. That is meant.
-    return Fbase * (1 - std::pow(Sf / fyk / GammaM0, 2)) / 1000;
-}
-
 /// Coefficients of the local stresses at the web (1), under the wheel (2), at the flange tip (3), parallel flanges:
 /// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu. That is
 /// meant.
@@ -42,10 +23,11 @@ struct LocalCoefficients {
 };
 
 /// @param mu  2n/(b - tw), with n the distance of the wheel from the flange tip
-LocalCoefficients localCoefficients(double mu) {
+/// @param tableAtTip  the tip with the table's first terms
+LocalCoefficients localCoefficients(double mu, bool tableAtTip) {
     return {
         {0.05 - 0.58 * mu + 0.148 * std::exp(3.015 * mu), 2.23 - 1.49 * mu + 1.39 * std::exp(-18.33 * mu),
-         -1.1534 * mu + 2.91 * std::exp(-6 * mu)},
+         (tableAtTip ? 0.730 - 1.580 * mu : -1.1534 * mu) + 2.91 * std::exp(-6 * mu)},
         {1.977 * mu - 2.11 + 0.0076 * std::exp(6.53 * mu), 10.108 - 7.408 * mu - 10.108 * std::exp(-1.364 * mu), 0}};
 }
 
@@ -58,32 +40,63 @@ double smallestSpacing(const Project& project) {
     return s;
 }
 
-/// The largest von Mises stress of the three points, N/mm2.
-/// @param F      wheel load on one side of the web, N
-/// @param s      wheel spacing, mm
-/// @param My,Mz  at the position of the largest My, Nmm, with load and dynamic factor
-double vonMisesStress(const Project& project, const SectionRecord& section, double F, double s, double My, double Mz) {
-    const double b2 = section.b2, tw = section.tw, tf2 = section.tf2;
-    const LocalCoefficients c = localCoefficients(2 * project.Inn / (b2 - tw));
-    const double together = 1.5 * b2 > s ? 2 : 1;  // EN 1993-6 5.8: close wheels add up
+double vonMises(double x, double y) {
+    return std::sqrt(std::pow(x, 2) + std::pow(y, 2) - x * y);
+}
 
+}  // namespace
+
+FlangeLever::FlangeLever(const Project& project, const SectionRecord& section) {
+    const double root = section.Fab == "R" ? 0.8 * section.R : 0.8 * std::numbers::sqrt2 * section.R;
+    m = (section.b2 - section.tw) / 2 - root - project.Inn;
+    mn = m + project.Inn;
+}
+
+double FlangeLever::lengthInside(double xw) const {
+    const double separate = 4 * std::numbers::sqrt2 * mn;  // wheels further apart than this act alone
+    return xw >= separate ? separate : 2 * std::numbers::sqrt2 * mn + 0.5 * xw;
+}
+
+double FlangeResistance(const Project& project, const SectionRecord& section, double leff, double part) {
+    const double m = FlangeLever(project, section).m;
+    const double fyk = project.fyk, GammaM0 = project.GammaM0;
+    const double Fbase = std::pow(section.tf2, 2) * leff * fyk / GammaM0 / (4 * m);
+    return Fbase * (1 - std::pow(part, 2)) / 1000;
+}
+
+VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int span) {
     const double g = project.PsiV1 * project.LfULS;
-    const double sb = My / g / section.Iy * (section.EzEl - tf2 / 2);
-    const double szPerMm = std::abs(Mz / g / section.IzBottom);
+    return {.F = largestWheel(project) * 1000 / 2,
+            .s = smallestSpacing(project),
+            .My = uls.MyMaxSpan(span, 1),
+            .Mz = uls.MyMaxSpan(span, 3),
+            .perMy = g,
+            .perMz = g};
+}
+
+double VonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis) {
+    const double b2 = section.b2, tw = section.tw, tf2 = section.tf2;
+    const LocalCoefficients c = localCoefficients(2 * project.Inn / (b2 - tw), basis.tableAtTip);
+    const double together = 1.5 * b2 > basis.s ? 2 : 1;  // EN 1993-6 5.8: close wheels add up
+
+    const double sb = basis.My / basis.perMy / section.Iy * (section.EzEl - tf2 / 2);
+    const double szPerMm = std::abs(basis.Mz / basis.perMz / section.IzBottom);
     // The stress from Mz at the tip is taken with the whole width of the flange, on the safe side.
     const double sz[3] = {szPerMm * (tw / 2 + section.R), szPerMm * (b2 / 2 - project.Inn), szPerMm * b2};
 
     double largest = 0;
     for (int k = 0; k < 3; ++k) {
-        const double sx = together * std::abs(c.cx[k] * F / std::pow(tf2, 2));
-        const double sy = together * std::abs(c.cy[k] * F / std::pow(tf2, 2));
-        const double x = sb + sz[k] + sx;
-        largest = std::fmax(largest, std::sqrt(std::pow(x, 2) + std::pow(sy, 2) - x * sy));
+        const double sx = together * (c.cx[k] * basis.F / std::pow(tf2, 2));
+        const double sy = together * (c.cy[k] * basis.F / std::pow(tf2, 2));
+        if (basis.signs) {
+            const double x = sb + sz[k];
+            largest = std::fmax(largest, std::fmax(vonMises(x + sx, sy), vonMises(x - sx, -sy)));
+        } else {
+            largest = std::fmax(largest, vonMises(sb + sz[k] + std::abs(sx), std::abs(sy)));
+        }
     }
     return largest;
 }
-
-}  // namespace
 
 void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
     const double Fz = largestWheel(project) * project.LfULS * project.PsiV1;
@@ -92,8 +105,14 @@ void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResu
     checks.LocalSpan = Array<RowSet<4>>(1, project.NofSpans);
     for (int span = 1; span <= project.NofSpans; ++span)
         watched("Flange bending", span, [&] {
-            const double FfRd = flangeResistance(project, project.SpanSection(span), xw, uls.MyMaxSpan(span, 1),
-                                                 uls.MyMinSpan(span, 1));
+            const SectionRecord& section = project.SpanSection(span);
+            // Stress at the underside from My alone: the flange's own share of Mz is left out.
+            const double MyMax = uls.MyMaxSpan(span, 1), MyMin = uls.MyMinSpan(span, 1);
+            const double Sf =
+                std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
+            // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0. That is meant.
+            const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
+                                                 Sf / project.fyk / project.GammaM0);
 
             RowSet<4>& rows = checks.LocalSpan(span);
             rows(1) = "IR = Fz,Ed/Ff,Rd = ";
@@ -105,14 +124,10 @@ void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResu
 }
 
 void VonMisesCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
-    const double F = largestWheel(project) * 1000 / 2;
-    const double s = smallestSpacing(project);
-
     checks.VonMisesSpan = Array<RowSet<4>>(1, project.NofSpans);
     for (int span = 1; span <= project.NofSpans; ++span)
         watched("Von Mises stress", span, [&] {
-            const double SvM = vonMisesStress(project, project.SpanSection(span), F, s, uls.MyMaxSpan(span, 1),
-                                              uls.MyMaxSpan(span, 3));
+            const double SvM = VonMisesStress(project, project.SpanSection(span), vonMisesBasis(project, uls, span));
 
             RowSet<4>& rows = checks.VonMisesSpan(span);
             rows(1) = "IR = SigvM/fyk = ";

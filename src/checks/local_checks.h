@@ -24,6 +24,43 @@ void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResu
 /// @throws RuntimeFault  naming the span, on an arithmetic fault
 void VonMisesCheck(const Project& project, const UlsResults& uls, CheckResults& checks);
 
+/// FRd of EN 1993-1-5 6.2(1), kN.
+/// @param leff        effective loaded length, mm
+/// @param a           distance of the stiffeners, mm
+/// @param stockyRule  drop m2 where the slenderness is 0.5 at most, as EN 1993-1-5 6.5(1) has it; the check keeps it
+[[nodiscard]] double PatchResistance(const Project& project, const SectionRecord& section, double leff, double a,
+                                     bool stockyRule = false);
+
+/// Where a wheel stands on the bottom flange, mm: EN 1993-6 eq. (6.2), (6.3) and Table 6.2.
+struct FlangeLever {
+    double m = 0;   ///< lever from wheel to root
+    double mn = 0;  ///< m + n
+
+    FlangeLever(const Project& project, const SectionRecord& section);
+    /// Yield line length of a wheel away from the beam's ends. @param xw wheel spacing
+    [[nodiscard]] double lengthInside(double xw) const;
+    /// Yield line length at an end that is not stiffened.
+    [[nodiscard]] double lengthAtEnd() const { return 2 * mn; }
+};
+
+/// Ff,Rd of EN 1993-6 6.7(1), kN. @param leff yield line length, mm. @param part  stress of the beam over its limit
+[[nodiscard]] double FlangeResistance(const Project& project, const SectionRecord& section, double leff, double part);
+
+/// What the von Mises stress of the bottom flange is made of.
+struct VonMisesBasis {
+    double F = 0;                 ///< wheel load on one side of the web, N
+    double s = 0;                 ///< wheel spacing, mm
+    double My = 0, Mz = 0;        ///< Nmm, with load and dynamic factor
+    double perMy = 1, perMz = 1;  ///< what they are divided by
+    bool signs = false;           ///< local stresses with their signs, on both faces; the check takes magnitudes
+    bool tableAtTip = false;      ///< cx of the flange tip as EN 1993-6 Table 5.2 has it
+};
+
+/// What VonMisesCheck takes for a span at the position of the largest My.
+[[nodiscard]] VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int span);
+/// The largest von Mises stress of the three points, N/mm2.
+[[nodiscard]] double VonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis);
+
 /// Governing rows of a local check: the larger of the last two spans, the last one at a tie. A larger ratio of an
 /// earlier span stands in its own rows only. That is meant.
 [[nodiscard]] RowSet<6> governingLocal(const Array<RowSet<4>>& perSpan);

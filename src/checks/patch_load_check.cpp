@@ -12,21 +12,30 @@ namespace {
 
 constexpr double kE = 210000;  // N/mm2
 
-/// FRd of EN 1993-1-5 6.2(1), kN. @param leff effective loaded length, mm. @param a distance of the stiffeners, mm
-double patchResistance(const Project& project, const SectionRecord& section, double leff, double a) {
+struct PatchLoad {
+    double lamF, FRd;  ///< slenderness; resistance, kN
+};
+
+/// @param withM2  false: m2 is 0
+PatchLoad patchLoad(const Project& project, const SectionRecord& section, double leff, double a, bool withM2) {
     const double tf = section.tf1, tw = section.tw, Hw = section.Hw;
     const double kF = 6 + 2 * std::pow(Hw / a, 2);   // Figure 6.1, type (a)
     const double ss = std::fmax(leff - 2 * tf, tf);  // stiff bearing length, EN 1993-6 5.7.1
     const double m1 = section.b1 / tw;
-    const double m2 = 0.02 * std::pow(Hw / tf, 2);  // kept for every slenderness, also where lamF <= 0.5
+    const double m2 = withM2 ? 0.02 * std::pow(Hw / tf, 2) : 0;
     const double ly = std::fmin(2 * tf * (1 + std::sqrt(m1 + m2)) + ss, a);
     const double Fcr = 0.9 * kF * kE * std::pow(tw, 3) / Hw;
     const double lamF = std::sqrt(ly * tw * project.fyk / Fcr);
     const double chiF = std::fmin(0.5 / lamF, 1.0);
-    return project.fyk * chiF * ly * tw / project.GammaM1 / 1000;
+    return {lamF, project.fyk * chiF * ly * tw / project.GammaM1 / 1000};
 }
 
 }  // namespace
+
+double PatchResistance(const Project& project, const SectionRecord& section, double leff, double a, bool stockyRule) {
+    const PatchLoad told = patchLoad(project, section, leff, a, true);
+    return stockyRule && told.lamF <= 0.5 ? patchLoad(project, section, leff, a, false).FRd : told.FRd;
+}
 
 void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResults& checks) {
     RailRecord& rail = context.CurrentRail;
@@ -42,7 +51,7 @@ void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResult
         watched("Patch load", span, [&] {
             const SectionRecord& section = project.SpanSection(span);
             const double leff = effectiveLoadedLength(rail, worn, project.RailFix, section);
-            const double FzRd = patchResistance(project, section, leff, project.Span(span));
+            const double FzRd = PatchResistance(project, section, leff, project.Span(span));
 
             RowSet<4>& rows = checks.LocalSpan(span);
             rows(1) = "IR = Fz,Ed/Fz,Rd = ";

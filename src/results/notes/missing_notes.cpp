@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "checks/loaded_length.h"
 #include "notes/note_rules.h"
 
 namespace borvik {
@@ -30,6 +31,31 @@ std::optional<NoteFinding> beyond(const Session& session, const char* what, doub
     }
     if (at == 0) return std::nullopt;
     return matters(true, std::string(what) + " " + formatNumber(worst, "0.0") + " in span " + std::to_string(at));
+}
+
+/// sigma_x, sigma_oz and tau at the web's top where My is largest, as part of the yield strength; told from 0.8 on.
+std::optional<NoteFinding> stressUnderWheel(const Session& session) {
+    constexpr double kWorthTelling = 0.8;
+    const Project& project = session.project;
+    if (project.CraneType != 1) return std::nullopt;
+    const RailRecord& rail = session.context.CurrentRail;
+    const WornRail worn = wearRail(rail, kWearStatic);
+    double FzEd = 0;
+    for (int wheel = 1; wheel <= 8; ++wheel)
+        FzEd = std::max<double>(FzEd,
+                                project.V(wheel) * (wheel <= 4 ? project.PsiV1 : project.PsiV2) * project.LfULS * 1000);
+    NoteFinding finding;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const SectionRecord& section = project.SpanSection(span);
+        const Table<Single>& records = session.results->Uls.MyMaxSpan;
+        const double x = records(span, 1) / section.Iy * (section.h - section.EzEl - section.tf1);
+        const double z = FzEd / (effectiveLoadedLength(rail, worn, project.RailFix, section) * section.tw);
+        const double tau = records(span, 2) / (section.Hw * section.tw);
+        const double sum = std::sqrt(x * x + z * z - x * z + 3 * tau * tau) / (project.fyk / project.GammaM0);
+        const double shown = session.results->Checks.BendSpan(span).Ratio;
+        if (sum > kWorthTelling && sum > shown) finding.changes.push_back({inSpan("bending", span), shown, sum});
+    }
+    return worstOf(finding.changes);
 }
 
 /// L/iz of the bottom flange between the supports.
@@ -61,6 +87,9 @@ constexpr NoteRule kRules[]{
     {"I1", NoteCheck::General, NoteEffect::Unsafe,
      "Stiffeners at supports and ends, the web under the reaction, and bolts and welds of splices are not checked.", "",
      "EN 1993-1-5 6 and 9, EN 1993-1-8", always, true},
+    {"I2", NoteCheck::Section, NoteEffect::Unsafe,
+     "The stresses in the web under a wheel (bending, wheel load and shear together) are not checked.",
+     "as part of the yield strength", "EN 1993-1-1 6.2.1(5), EN 1993-6 5.7.1", stressUnderWheel},
     {"I3", NoteCheck::Deflection, NoteEffect::Unsafe,
      "The slenderness of the bottom flange between its restraints is not limited to 250 to avoid vibration.", "",
      "EN 1993-6 7.6", slenderBottomFlange},
