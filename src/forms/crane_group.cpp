@@ -23,7 +23,7 @@ std::string numbered(const std::string& stem, int number) {
 }  // namespace
 
 CraneGroup::CraneGroup(FormBinder& binder, Project& project, int crane, const CraneGroupText& text,
-                       std::int16_t& craneClass, const char* gapMask, std::function<void()> changed)
+                       std::int16_t& craneClass, const char* gapMask, const std::function<void()>& changed)
     : group_(makeGroup(text.name, text.title)), craneClass_(craneClass) {
     QGridLayout* grid = group_.grid;
     grid->addWidget(new QLabel(tr("Dynamik factor:")), 0, 0, 1, 3);
@@ -122,7 +122,7 @@ QGroupBox* CraneGroup::wheels(FormBinder& binder, Project& project, int crane, c
 }
 
 PositionGroup::PositionGroup(FormBinder& binder, Project& project, const QString& title, const QString& label,
-                             std::function<void()> changed)
+                             const std::function<void()>& changed)
     : group_(makeGroup("frPosition", title)), project_(project), binder_(binder) {
     optRorlig_ = makeChoice<QRadioButton>("optRorlig", tr("Moveable"), tr("The crane walks along the whole beam"),
                                           [this, changed] {

@@ -26,7 +26,7 @@ public:
     /// @param craneClass  field of the record that takes the class, 0..9
     /// @param gapMask     mask of the distances when the form is filled
     CraneGroup(FormBinder& binder, Project& project, int crane, const CraneGroupText& text, std::int16_t& craneClass,
-               const char* gapMask, std::function<void()> changed);
+               const char* gapMask, const std::function<void()>& changed);
 
     [[nodiscard]] QGroupBox* box() const { return group_.box; }
     [[nodiscard]] QGridLayout* grid() const { return group_.grid; }
@@ -45,7 +45,7 @@ private:
 class PositionGroup {
 public:
     PositionGroup(FormBinder& binder, Project& project, const QString& title, const QString& label,
-                  std::function<void()> changed);
+                  const std::function<void()>& changed);
     [[nodiscard]] QGroupBox* box() const { return group_.box; }
     void show();
 

@@ -113,7 +113,7 @@ private:
     /// An index or a power, within which no room is left around signs.
     QString tight() {
         const bool before = std::exchange(tight_, true);
-        const QString html = argument();
+        QString html = argument();
         tight_ = before;
         return html;
     }

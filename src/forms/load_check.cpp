@@ -91,7 +91,7 @@ bool anyOf(const Project& project, std::initializer_list<int> wheels) {
 }  // namespace
 
 std::string LoadRefusal(const Project& project, LoadForm form) {
-    const std::string fit = fitRefusal(project, form);
+    std::string fit = fitRefusal(project, form);
     if (!fit.empty()) return fit;
     if (project.Fixerad && double(project.Position) == 0) return " Fixed position > 0 ";
     const bool overhead = form == LoadForm::Overhead;

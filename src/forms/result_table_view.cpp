@@ -121,6 +121,7 @@ void ResultTableView::fitColumns() {
     const int columns = model_.columnCount();
     if (columns == 0) return;
     std::vector<int> widths;
+    widths.reserve(static_cast<std::size_t>(columns));
     for (int column = 0; column < columns; ++column) widths.push_back(contentWidth(column));
     const int room = viewport()->width();
     const int spare = room - std::accumulate(widths.begin(), widths.end(), 0);
