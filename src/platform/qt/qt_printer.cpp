@@ -46,7 +46,7 @@ Extent QtPrinter::printableArea() const {
 
 QString documentAuthor() {
     for (const char* variable : {"USER", "USERNAME", "LOGNAME"})
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+        if (QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
     return QStringLiteral("Borvik");
 }
 
