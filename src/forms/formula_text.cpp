@@ -1,186 +1,96 @@
 #include "forms/formula_text.h"
 
-#include <QHash>
 #include <QRegularExpression>
-#include <utility>
+
+#include "forms/formula.h"
 
 namespace borvik {
 
 namespace {
 
-const QHash<QString, QString>& signs() {
-    static const QHash<QString, QString> table{
-        {"alpha", "α"},
-        {"beta", "β"},
-        {"gamma", "γ"},
-        {"Delta", "Δ"},
-        {"delta", "δ"},
-        {"varepsilon", "ε"},
-        {"eta", "η"},
-        {"lambda", "λ"},
-        {"mu", "μ"},
-        {"nu", "ν"},
-        {"pi", "π"},
-        {"rho", "ρ"},
-        {"sigma", "σ"},
-        {"tau", "τ"},
-        {"varphi", "φ"},
-        {"Phi", "Φ"},
-        {"chi", "χ"},
-        {"psi", "ψ"},
-        {"cdot", " · "},
-        {"times", " × "},
-        {"le", " ≤ "},
-        {"ge", " ≥ "},
-        {"ne", " ≠ "},
-        {"approx", " ≈ "},
-        {"pm", " ± "},
-        {"lvert", "|"},
-        {"rvert", "|"},
-        {"infty", "∞"},
-        {"dots", "…"},
-        {"sum", "Σ"},
-        {"to", " → "},
-        {"quad", "&nbsp;&nbsp; "},
-        {"qquad", "&nbsp;&nbsp;&nbsp;&nbsp; "},
-        {",", " "},
-        {";", " "},
-        {"%", "%"},
-        {"max", " max "},
-        {"min", " min "},
-        {"exp", "exp"},
-        {"{", "{"},
-        {"}", "}"},
-    };
-    return table;
+using Kind = FormulaPart::Kind;
+
+QString htmlOf(const FormulaPart& part, bool tight);
+
+/// A part of a fraction in brackets, unless it is one symbol or number with its indexes.
+QString bracketed(const FormulaPart& part, bool tight) {
+    static const QRegularExpression scripts("<su[bp]>.*?</su[bp]>");
+    static const QRegularExpression tags("<[^>]*>");
+    static const QRegularExpression single("^.?$|^[0-9.]+$|^[A-Za-zα-ωΔ]\u0304$");
+    QString html = htmlOf(part, tight);
+    QString plain = html;
+    plain.remove(scripts).remove(tags);
+    return single.match(plain).hasMatch() ? html : "(" + html + ")";
 }
 
-/// Reads one formula from left to right.
-class Reader {
-public:
-    explicit Reader(const QString& tex) : tex_(tex) {}
-
-    QString all() {
-        QString html;
-        while (at_ < tex_.size()) html += item();
-        return html;
+/// Whether a factor begins with the part. A fraction on one line must be kept apart from it: "a/b · c".
+bool isFactor(const FormulaPart& part) {
+    switch (part.kind) {
+        case Kind::Sign:
+        case Kind::Gap:
+            return false;
+        case Kind::Text:
+            return !part.text.isEmpty() && (part.text[0].isLetterOrNumber() || part.text[0] == '(');
+        case Kind::Row:
+        case Kind::Scripts:
+            return !part.parts.empty() && isFactor(part.parts.front());
+        default:
+            return true;
     }
+}
 
-private:
-    [[nodiscard]] QChar next() const { return at_ < tex_.size() ? tex_[at_] : QChar(); }
-
-    void skipBlanks() {
-        while (next().isSpace()) ++at_;
+QString rowHtml(const std::vector<FormulaPart>& parts, bool tight) {
+    QString html;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        html += htmlOf(parts[i], tight);
+        const bool factorFollows = i + 1 < parts.size() && isFactor(parts[i + 1]);
+        if (parts[i].kind == Kind::Fraction && factorFollows) html += " · ";
     }
+    return html;
+}
 
-    /// What stands between braces, or the one sign that stands there without them.
-    QString argument() {
-        skipBlanks();
-        if (next() != '{') return item();
-        ++at_;
-        QString html;
-        while (at_ < tex_.size() && next() != '}') html += item();
-        ++at_;
-        return html;
-    }
+QString gapHtml(double width) {
+    return width < 1.0 ? QString(" ") : QString("&nbsp;&nbsp;").repeated(qRound(width)) + ' ';
+}
 
-    /// What stands between braces, as it is.
-    QString words() {
-        skipBlanks();
-        const qsizetype end = tex_.indexOf('}', at_);
-        const QString text = tex_.mid(at_ + 1, end - at_ - 1);
-        at_ = end + 1;
-        return text.toHtmlEscaped();
-    }
-
-    QString item() {
-        const QChar sign = tex_[at_++];
-        if (sign == '\\') return command();
-        if (sign == '^') return "<sup>" + tight() + "</sup>";
-        if (sign == '_') return "<sub>" + tight() + "</sub>";
-        if (sign == '{') {
-            --at_;
-            return argument();
+/// @param tight  within an index or a power, where no room is left around signs
+QString htmlOf(const FormulaPart& part, bool tight) {
+    const auto inside = [&](std::size_t i) { return htmlOf(part.parts[i], tight); };
+    switch (part.kind) {
+        case Kind::Row:
+            return rowHtml(part.parts, tight);
+        case Kind::Letter:
+            return "<i>" + part.text + "</i>";
+        case Kind::Text:
+            return part.text == "," && !tight ? QString(", ") : part.text.toHtmlEscaped();
+        case Kind::Sign:
+            return tight ? part.text.toHtmlEscaped() : " " + part.text.toHtmlEscaped() + " ";
+        case Kind::Gap:
+            return gapHtml(part.width);
+        case Kind::Fraction:
+            return bracketed(part.parts[0], tight) + "/" + bracketed(part.parts[1], tight);
+        case Kind::Root: {
+            const QString degree = part.parts[1].empty() ? QString() : "<sup>" + htmlOf(part.parts[1], true) + "</sup>";
+            return degree + "√(" + inside(0) + ")";
         }
-        if (sign.isSpace() || sign == '}') return {};
-        if (sign.isLetter()) return "<i>" + QString(sign) + "</i>";
-        if (sign == '-') return afterOperand() ? spaced("−") : "−";
-        if (QStringLiteral("+=<>").contains(sign)) return spaced(QString(sign).toHtmlEscaped());
-        if (sign == ',') return tight_ ? "," : ", ";
-        return sign == '~' ? QString(" ") : QString(sign).toHtmlEscaped();
-    }
-
-    /// An index or a power, within which no room is left around signs.
-    QString tight() {
-        const bool before = std::exchange(tight_, true);
-        QString html = argument();
-        tight_ = before;
-        return html;
-    }
-    [[nodiscard]] QString spaced(const QString& sign) const { return tight_ ? sign : " " + sign + " "; }
-
-    /// Whether a factor follows. A fraction on one line must be kept apart from it: "a/b · c".
-    [[nodiscard]] bool beforeFactor() const {
-        static const QRegularExpression factor(
-            "^\\s*(\\\\(?!right|cdot|times|le\\b|ge\\b|text|to\\b|q?quad|approx|,)|[A-Za-z0-9(])");
-        return factor.match(tex_.mid(at_)).hasMatch();
-    }
-
-    /// Whether the sign just read stands behind something that it can be taken from.
-    [[nodiscard]] bool afterOperand() const {
-        qsizetype before = at_ - 2;
-        while (before >= 0 && tex_[before].isSpace()) --before;
-        return before >= 0 && (tex_[before].isLetterOrNumber() || tex_[before] == '}' || tex_[before] == ')');
-    }
-
-    QString command() {
-        QString name;
-        while (next().isLetter()) name += tex_[at_++];
-        if (name.isEmpty()) name = tex_[at_++];
-        if (name == "frac") {
-            const QString upper = bracketed(argument());
-            const QString fraction = upper + "/" + bracketed(argument());
-            return beforeFactor() ? fraction + " · " : fraction;
+        case Kind::Bar:
+            return part.parts[0].kind == Kind::Text ? inside(0) + "\u0304" : inside(0).replace("</i>", "\u0304</i>");
+        case Kind::Fenced:
+            return part.text.toHtmlEscaped() + inside(0) + part.closing.toHtmlEscaped();
+        case Kind::Scripts: {
+            QString html = inside(0);
+            if (!part.parts[1].empty()) html += "<sub>" + htmlOf(part.parts[1], true) + "</sub>";
+            if (!part.parts[2].empty()) html += "<sup>" + htmlOf(part.parts[2], true) + "</sup>";
+            return html;
         }
-        if (name == "sqrt") return root();
-        if (name == "text" || name == "mathrm") return words();
-        if (name == "bar") return argument().replace("</i>", "\u0304</i>").replace("λ", "λ\u0304");
-        if (name == "left" || name == "right") {
-            if (next() == '.') ++at_;
-            return {};
-        }
-        return signs().value(name, name);
     }
-
-    QString root() {
-        QString degree;
-        if (next() == '[') {
-            const qsizetype end = tex_.indexOf(']', at_);
-            degree = "<sup>" + tex_.mid(at_ + 1, end - at_ - 1) + "</sup>";
-            at_ = end + 1;
-        }
-        return degree + "√(" + argument() + ")";
-    }
-
-    /// A part of a fraction in brackets, unless it is one symbol or number with its indexes.
-    static QString bracketed(const QString& html) {
-        QString plain = html;
-        plain.replace(QRegularExpression("<su[bp]>.*?</su[bp]>"), QString());
-        plain.replace(QRegularExpression("<[^>]*>"), QString());
-        const bool single =
-            plain.size() <= 1 || QRegularExpression("^[0-9.]+$|^[A-Za-zα-ωΔ]\u0304$").match(plain).hasMatch();
-        return single ? html : "(" + html + ")";
-    }
-
-    const QString& tex_;
-    qsizetype at_ = 0;
-    bool tight_ = false;
-};
+    return {};
+}
 
 }  // namespace
 
 QString formulaHtml(const QString& tex) {
-    return Reader(tex).all().replace("  ", " ").trimmed();
+    return htmlOf(readFormula(tex), false).replace("  ", " ").trimmed();
 }
 
 }  // namespace borvik

@@ -6,8 +6,7 @@ namespace borvik {
 
 /// A formula of the manuals as rich text: indexes and powers are set low and high, variables slanted, numbers and words
 /// upright; a fraction stands on one line, in brackets where they are needed.
-/// @param tex  formula in the part of TeX that the manuals use: ^ _ {} \frac \sqrt \text \mathrm \bar \left \right,
-///             Greek letters and signs. An unknown command shows as its name.
+/// @param tex  as readFormula takes it
 /// @return     HTML that QTextDocument can show
 [[nodiscard]] QString formulaHtml(const QString& tex);
 
