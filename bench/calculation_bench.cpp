@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "calculation/calculation.h"
+#include "notes/notes.h"
 #include "runways.h"
 
 namespace borvik {
@@ -36,26 +37,38 @@ void plainAgainstFast(benchmark::State& state, Session session) {
 
 void growth(benchmark::State& state, WalkMethod method) {
     const auto spans = static_cast<int>(state.range(0));
-    calculate(state, runway(spans, 30000, Cranes::Independent), method);
+    calculate(state, runway(spans, 30000, RunwayCranes::Independent), method);
     state.SetComplexityN(spans);
+}
+
+void notes(benchmark::State& state, Session session) {
+    secondsOf(session, WalkMethod::Fast);
+    for (auto _ : state) benchmark::DoNotOptimize(ProjectNotes(session));
 }
 
 constexpr auto kMs = benchmark::kMillisecond;
 
 BENCHMARK_CAPTURE(calculate, DefaultProject, defaultSession(), WalkMethod::Fast)->Unit(kMs);
-BENCHMARK_CAPTURE(calculate, Train_30x30m, runway(30, 30000, Cranes::Train), WalkMethod::Fast)->Unit(kMs);
-BENCHMARK_CAPTURE(calculate, Independent_3x10m, runway(3, 10000, Cranes::Independent), WalkMethod::Fast)->Unit(kMs);
-BENCHMARK_CAPTURE(calculate, Independent_30x30m, runway(30, 30000, Cranes::Independent), WalkMethod::Fast)->Unit(kMs);
-BENCHMARK_CAPTURE(calculate, Slow_Independent_30x30m_plain, runway(30, 30000, Cranes::Independent), WalkMethod::Plain)
+BENCHMARK_CAPTURE(calculate, Train_30x30m, runway(30, 30000, RunwayCranes::Train), WalkMethod::Fast)->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent), WalkMethod::Fast)
+    ->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent), WalkMethod::Fast)
+    ->Unit(kMs);
+BENCHMARK_CAPTURE(calculate, Slow_Independent_30x30m_plain, runway(30, 30000, RunwayCranes::Independent),
+                  WalkMethod::Plain)
     ->Unit(benchmark::kSecond)
     ->Iterations(1);
 
-BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, Cranes::Train))->UseManualTime()->Unit(kMs);
-BENCHMARK_CAPTURE(plainAgainstFast, Independent_3x10m, runway(3, 10000, Cranes::Independent))
+BENCHMARK_CAPTURE(notes, DefaultProject, defaultSession())->Unit(kMs);
+BENCHMARK_CAPTURE(notes, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))->Unit(kMs);
+BENCHMARK_CAPTURE(notes, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
+
+BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, RunwayCranes::Train))->UseManualTime()->Unit(kMs);
+BENCHMARK_CAPTURE(plainAgainstFast, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))
     ->UseManualTime()
     ->Unit(kMs)
     ->Iterations(3);
-BENCHMARK_CAPTURE(plainAgainstFast, Independent_10x12m, runway(10, 12000, Cranes::Independent))
+BENCHMARK_CAPTURE(plainAgainstFast, Independent_10x12m, runway(10, 12000, RunwayCranes::Independent))
     ->UseManualTime()
     ->Unit(kMs)
     ->Iterations(1);

@@ -13,13 +13,13 @@ std::string temporaryFile() {
 }
 
 void saveProject(benchmark::State& state) {
-    const Session session = runway(30, 30000, Cranes::Independent);
+    const Session session = runway(30, 30000, RunwayCranes::Independent);
     for (auto _ : state) SaveProject(temporaryFile(), session.project);
     std::filesystem::remove(temporaryFile());
 }
 
 void loadProject(benchmark::State& state) {
-    SaveProject(temporaryFile(), runway(30, 30000, Cranes::Independent).project);
+    SaveProject(temporaryFile(), runway(30, 30000, RunwayCranes::Independent).project);
     Project project;
     for (auto _ : state) LoadProject(temporaryFile(), project);
     std::filesystem::remove(temporaryFile());

@@ -7,7 +7,7 @@ Session defaultSession() {
     return Session(tables);
 }
 
-Session runway(int spans, int length, Cranes cranes) {
+Session runway(int spans, int length, RunwayCranes cranes) {
     Session session = defaultSession();
     Project& project = session.project;
     for (int i = 1; i <= kMaxSpans; ++i) {
@@ -21,7 +21,7 @@ Session runway(int spans, int length, Cranes cranes) {
     project.Avst = FixedArray<Single, 1, 6>::of(900, 1900, 900, 700, 1300, 700);
     project.NofCranes = 2;
     project.MinAvst = 1000;
-    project.MinDistConst = cranes == Cranes::Train ? 1 : 0;
+    project.MinDistConst = cranes == RunwayCranes::Train ? 1 : 0;
     project.Fat5 = false;
     return session;
 }

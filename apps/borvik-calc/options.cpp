@@ -44,6 +44,9 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--summary", options.summary,
                  "Print the summary: control, ratio, reference, ratios over 1 marked (the default when no other "
                  "output is asked)");
+    app.add_flag("--notes", options.notes,
+                 "Print what the checks assume and leave out where it matters in the project, with the ratio it would "
+                 "lead to");
     app.add_option("--json", options.json,
                    "Write all results as JSON; \"-\" is standard output; with several projects a folder")
         ->type_name("FILE");

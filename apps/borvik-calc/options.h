@@ -17,6 +17,7 @@ struct Options {
     std::string tables;              ///< folder of the reference tables; empty: where programs look for them
     WalkMethod walk = WalkMethod::Fast;
     bool summary = false;
+    bool notes = false;                    ///< print the notes for the checking engineer
     std::string json;                      ///< file, "-" for standard output, or folder; empty: none
     std::string table;                     ///< name of a result table to print; empty: none
     std::string diagram;                   ///< name of a picture to save as `picture`; empty: none
@@ -32,7 +33,7 @@ struct Options {
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
         return summary ||
-               (json.empty() && save.empty() && table.empty() && diagram.empty() && report.empty() && !quiet);
+               (json.empty() && save.empty() && table.empty() && diagram.empty() && report.empty() && !notes && !quiet);
     }
 };
 

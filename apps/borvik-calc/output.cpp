@@ -11,6 +11,7 @@
 #include "project/project_file.h"
 #include "report_file.h"
 #include "results/json.h"
+#include "results/notes_text.h"
 #include "results/spreadsheet.h"
 #include "results/summary.h"
 #include "results/tables.h"
@@ -61,6 +62,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
         });
     if (!options_.diagram.empty()) attempt([&] { savePictureOf(run.session, options_.diagram, options_.picture); });
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
+    if (options_.notes) attempt([&] { writeNotes(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
 }
@@ -105,10 +107,16 @@ void Outputs::writeSpreadsheet(const FinishedRun& run) {
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {
-    std::string text = summaryPrinted_ ? "\n" : "";
-    if (run.file) text += *run.file + "\n";
-    print(text + SummaryText(run.session));
-    summaryPrinted_ = true;
+    printText(run, SummaryText(run.session));
+}
+
+void Outputs::writeNotes(const FinishedRun& run) {
+    printText(run, NotesText(run.session));
+}
+
+void Outputs::printText(const FinishedRun& run, const std::string& text) {
+    print((textPrinted_ ? "\n" : "") + (run.file ? *run.file + "\n" : "") + text);
+    textPrinted_ = true;
 }
 
 }  // namespace borvik

@@ -39,10 +39,13 @@ private:
     void writeTable(const FinishedRun& run);
     void writeSpreadsheet(const FinishedRun& run);
     void writeSummary(const FinishedRun& run);
+    void writeNotes(const FinishedRun& run);
+    /// Texts of several projects stand apart, each under its name.
+    void printText(const FinishedRun& run, const std::string& text);
 
     const Options& options_;
     std::set<std::string> taken_;  ///< names of result files in the folder, so that none is written twice
-    bool summaryPrinted_ = false;
+    bool textPrinted_ = false;
 };
 
 }  // namespace borvik

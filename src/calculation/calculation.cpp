@@ -61,7 +61,6 @@ void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads
     loads.WheelGap = project.Avst;
 }
 
-/// Gives the reaction at the far end, which the walk keeps as a shear, the sign of an upward support force.
 void turnRound(Array<Single>& largest, Array<Single>& smallest) {
     const int support = largest.last();
     const double a = largest(support);
@@ -91,8 +90,7 @@ void RunStatic(Run& run) {
     UlsResults& uls = run.results.Uls;
     uls = RunUls(project, run.loads, run.method, run.messages, run.progress);
     run.results.Steps = uls.Steps;
-    turnRound(uls.RzMax, uls.RzMin);
-    turnRound(uls.RyMax, uls.RyMin);
+    TurnReactionsUpward(uls);
 
     setSlsLoads(project, rail, run.loads);
     run.results.Sls = RunSls(project, run.loads, run.method, run.messages, run.progress);
@@ -161,6 +159,11 @@ bool CheckInput(Project& project, Messages& messages) {
     dropSplices(project, project.FatR5, project.ChkFatR5Sp, project.FatR5Span, project.FatR5d1);
     dropSplices(project, project.Fat5, project.ChkFat5Sp, project.Fat5Span, project.Fat5d1);
     return ok;
+}
+
+void TurnReactionsUpward(UlsResults& uls) {
+    turnRound(uls.RzMax, uls.RzMin);
+    turnRound(uls.RyMax, uls.RyMin);
 }
 
 bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method) {

@@ -9,6 +9,10 @@ namespace borvik {
 /// @return false when a message was shown
 [[nodiscard]] bool CheckInput(Project& project, Messages& messages);
 
+/// Gives the reactions at the far end, which the walk of the ultimate limit state keeps as shears, the sign of upward
+/// support forces.
+void TurnReactionsUpward(UlsResults& uls);
+
 /// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. On success `Calculated`
 /// is true and `results` are new. On a refusal the user has been told and nothing has changed except InputOK, NofSpans,
 /// the splice flags and the lengths. A run-time fault is shown too, as `Fault`, and leaves everything entered as it

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "notes/notes.h"
+
 namespace borvik {
 
 namespace {
@@ -183,6 +185,28 @@ Json projectHead(const Project& p) {
                   "CraneLength1", p.CraneLength1, "CraneLength2", p.CraneLength2, "CranesLength", p.CranesLength);
 }
 
+Json note(const NoteRule& rule, const NoteFinding& finding) {
+    Json changes = Json::array();
+    for (const NoteChange& change : finding.changes)
+        changes.push_back(fields("What", change.what, "Shown", Single(change.shown), "Other", Single(change.other),
+                                 "Ratio", change.ratio));
+    Json object =
+        fields("Key", std::string(rule.key), "Check", std::string(nameOf(rule.check)), "Effect",
+               std::string(nameOf(rule.effect)), "Assumption", rule.assumption, "Says", std::string(rule.says), "With",
+               std::string(rule.with), "Clause", std::string(rule.clause), "Here", finding.remark);
+    object["Changes"] = std::move(changes);
+    return object;
+}
+
+/// The notes in their order, then the assumptions.
+Json notesOf(const Session& session) {
+    const Notes notes = ProjectNotes(session);
+    Json array = Json::array();
+    for (const Note& each : notes.notes) array.push_back(note(*each.rule, each.finding));
+    for (const NoteRule* rule : notes.assumptions) array.push_back(note(*rule, {}));
+    return array;
+}
+
 Json sections(const Project& project) {
     Json array = Json::array();
     for (int span = 1; span <= project.NofSpans; ++span) array.push_back(json(project.SpanSection(span)));
@@ -197,7 +221,8 @@ std::string ResultsJson(const Session& session, const std::vector<std::string>& 
                            session.Calculated, "Messages", messages);
     document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
     document["Project"] = projectHead(session.project);
-    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"}) document[key] = nullptr;
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"})
+        document[key] = nullptr;
     if (session.Calculated && session.results) {
         const Results& results = *session.results;
         document["Sections"] = sections(session.project);
@@ -207,6 +232,7 @@ std::string ResultsJson(const Session& session, const std::vector<std::string>& 
         document["Fls"] = stressSets(results.Fatigue);
         document["Steps"] = json(results.Steps);
         document["Fatigue"] = fatigueRows(results.Fatigue);
+        document["Notes"] = notesOf(session);
     }
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";

@@ -196,6 +196,17 @@ TEST_F(CommandLine, severalOutputsComeTogether) {
     EXPECT_TRUE(fs::exists(folder / "saved.brvk"));
 }
 
+TEST_F(CommandLine, printsTheNotes) {
+    take("default", "a.brvk");
+    const std::string out = run("--notes a.brvk").out;
+    EXPECT_THAT(out, StartsWith("a.brvk\nNotes for the checking engineer: "));
+    EXPECT_THAT(out, HasSubstr("\nWheel loads, unsafe [D1]\n"));
+    EXPECT_THAT(out, HasSubstr("\nAssumptions\n  - "));
+    EXPECT_THAT(out, testing::Not(HasSubstr("Largest ratio"))) << "no summary unless asked for";
+    std::istringstream lines(out);
+    for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 100u) << line;
+}
+
 TEST_F(CommandLine, printsATableByName) {
     const Outcome reactions = run("--default --table reactions");
     EXPECT_EQ(reactions.exitCode, 0);

@@ -35,6 +35,21 @@ void monorailOf(Session& session, const char* section) {
 
 const NoteCase kCases[]{
     {"A1", {}, [](Session& session) { session.project.CraneType = 2; }},
+    // P = 135 in the middle of the first of two spans: -3/32 P at the far end; dead load 0.866 kN/m: 3/8 q L = 1.95, or
+    // 2.63 with 1.35.
+    {"A4",
+     [](Session& session) {
+         oneWheel(session, 2, 6000);
+         standsAt(session, 3000);
+         session.project.SelfWeight = true;
+         session.project.LfULS = 1.35;
+     },
+     [](Session& session) {
+         oneWheel(session, 2, 6000);
+         standsAt(session, 3000);
+         session.project.SelfWeight = true;
+     },
+     "smallest reaction, support 3, kN", -10.03, -10.71},
     // Wheel in the middle: My = 150, Mz = 20 x 6/4 = 30 kNm; 150/447.1 + 30/74.55. The rail is 30 high, the flanges 276
     // apart: 30 (1 + 37/276) = 34.02.
     {"A6",
@@ -125,6 +140,36 @@ TEST(LoadNotes, ACraneAloneCanBeWorse) {
     EXPECT_NEAR(change.shown, bending(both), 1e-6);
     EXPECT_NEAR(change.other, alone, 1e-6);
     EXPECT_FALSE(findingOf(calculated(), "A2"));
+}
+
+TEST(LoadNotes, TheGangwayLoadsTheWorstSpans) {
+    const auto gangway = [](int spans) {
+        return [spans](Session& session) {
+            oneWheel(session, spans, 6000);
+            standsAt(session, 0);
+            session.project.Gangway = 10;
+        };
+    };
+    // Three spans: 0.1 q L^2 = 36 kNm at a support; 0.1167 q L^2 = 42 with two neighbours loaded.
+    const NoteChange bending = changeOf(findingOf(calculated(gangway(3)), "A5"), "bending");
+    EXPECT_NEAR(bending.shown, 36 / 447.1, 1e-4);
+    EXPECT_NEAR(bending.other, 42 / 447.1, 1e-4);
+    EXPECT_FALSE(findingOf(calculated(gangway(1)), "A5"));
+}
+
+TEST(SectionNotes, ANarrowBottomFlangeTwistsMore) {
+    const auto ratio = [](double b2) {
+        const auto finding = findingOf(calculated([b2](Session& session) {
+                                           oneWheel(session, 1, 12000);
+                                           weldedSection(session, "Iu", 600, 300, b2, 12, 20);
+                                       }),
+                                       "B2");
+        return finding && !finding->changes.empty() ? finding->changes[0].growth() : 0.0;
+    };
+    EXPECT_GT(ratio(150), ratio(250));
+    EXPECT_GT(ratio(250), 0);
+    EXPECT_EQ(ratio(300), 0) << "equal flanges";
+    EXPECT_EQ(ratio(350), 0) << "a wide one is safe";
 }
 
 TEST(SectionNotes, AThickFlangeIsWeaker) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "calculation/calculation.h"
@@ -47,7 +48,7 @@ TEST(ResultsJson, keysAndShapesOfTheDefaultProject) {
     const Document d = run.document();
     EXPECT_EQ(keysOf(d),
               (std::vector<std::string>{"Schema", "Program", "File", "Calculated", "Messages", "Fault", "Project",
-                                        "Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"}));
+                                        "Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"}));
     EXPECT_EQ(d["Schema"], 1);
     EXPECT_EQ(d["Program"], "Borvik 1.2.3");
     EXPECT_TRUE(d["File"].is_null());
@@ -93,6 +94,27 @@ TEST(ResultsJson, storedNumbersAreShort) {
     EXPECT_EQ(run.text.find('\n'), run.text.size() - 1) << "one line a project";
 }
 
+TEST(ResultsJson, notesTellTheChangeAndLeaveTheResultsAlone) {
+    DefaultRun run;
+    Document first = run.document();  // whose notes are made after the results have been written
+    Document second = Document::parse(ResultsJson(run.session, {}, std::nullopt, "Borvik 1.2.3"));
+    const Document notes = first["Notes"];
+    first.erase("Notes");
+    second.erase("Notes");
+    EXPECT_EQ(first, second);
+
+    const auto note =
+        std::find_if(notes.begin(), notes.end(), [](const Document& each) { return each["Key"] == "D1"; });
+    ASSERT_NE(note, notes.end());
+    EXPECT_EQ((*note)["Effect"], "unsafe");
+    EXPECT_EQ((*note)["Assumption"], false);
+    EXPECT_EQ((*note)["Clause"], "EN 1993-6 6.5, EN 1991-3 2.4");
+    EXPECT_EQ((*note)["Changes"][0]["What"], "patch load, span 3");
+    EXPECT_NEAR((*note)["Changes"][0]["Shown"], 0.057, 0.0005);
+    EXPECT_NEAR((*note)["Changes"][0]["Other"], 0.084, 0.0005);
+    EXPECT_EQ(notes.back()["Assumption"], true);
+}
+
 TEST(ResultsJson, aRefusedProjectHasMessagesAndNoResults) {
     DefaultRun run;
     run.session.project.Span(1) = 0;
@@ -100,7 +122,7 @@ TEST(ResultsJson, aRefusedProjectHasMessagesAndNoResults) {
     EXPECT_EQ(d["Calculated"], false);
     EXPECT_EQ(d["Messages"].front(), " First Beam must have a length ");
     EXPECT_EQ(d["File"], "beam.brvk");
-    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue"})
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"})
         EXPECT_TRUE(d[key].is_null()) << key;
 }
 

@@ -181,7 +181,7 @@ std::optional<NoteFinding> wrongPosition(const Session& session) {
     std::string remark;
     const int bent = governingSpan(checks.BendSpan, checks.BendGov);
     if (const RowSet<8>& min = checks.BendMin(bent);
-        !ranksAbove(checks.BendMax(bent)(3), min(3)) && !sameRows(checks.BendGov, min, 5)) {
+        min.Ratio > 0 && !ranksAbove(checks.BendMax(bent)(3), min(3)) && !sameRows(checks.BendGov, min, 5)) {
         remark = inSpan("bending", bent) + ": " + wheelPlace(min, 1);
         if (twoCranes) remark += ", " + wheelPlace(min, 5);
     }

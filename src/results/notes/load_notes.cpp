@@ -1,5 +1,7 @@
 #include <algorithm>
 
+#include "analysis/loads.h"
+#include "checks/code_checks.h"
 #include "checks/section_checks.h"
 #include "notes/all_ratios.h"
 
@@ -35,6 +37,12 @@ void keepCrane(Session& session, int crane) {
     p.NofCranes = 1;
 }
 
+/// Keeps of each ratio the larger one.
+void takeLarger(std::vector<CheckedRatio>& ratios, const std::vector<CheckedRatio>& others) {
+    for (std::size_t i = 0; i < std::min(ratios.size(), others.size()); ++i)
+        ratios[i].largest = std::max(ratios[i].largest, others[i].largest);
+}
+
 /// Each crane by itself, in the checks of ULS and SLS; a fatigue check sums up its cranes by rules of its own.
 std::optional<NoteFinding> oneCraneAlone(const Session& session) {
     if (session.project.NofCranes != 2) return std::nullopt;
@@ -42,9 +50,7 @@ std::optional<NoteFinding> oneCraneAlone(const Session& session) {
     for (int crane = 1; crane <= 2; ++crane) {
         const auto alone = recalculated(session, [crane](Session& copy) { keepCrane(copy, crane); });
         if (!alone) continue;
-        const auto ratios = allRatios(*alone);
-        for (std::size_t i = 0; i < std::min(ratios.size(), other.size()); ++i)
-            other[i].largest = std::max(other[i].largest, ratios[i].largest);
+        takeLarger(other, allRatios(*alone));
     }
     std::erase_if(shown, [](const CheckedRatio& r) { return r.what.starts_with("fatigue"); });
     other.resize(shown.size());
@@ -54,22 +60,81 @@ std::optional<NoteFinding> oneCraneAlone(const Session& session) {
 /// Walks that start a little later, so that the wheels stand between the told positions too.
 std::optional<NoteFinding> betweenTheSteps(const Session& session) {
     constexpr double kShortSpan = 10000;  // mm
-    constexpr double kLongRun = 0.05;     // s: a longer calculation is not repeated
     const Project& project = session.project;
     const std::vector<CheckedRatio> shown = allRatios(session);
     const bool shortSpan =
         *std::min_element(project.Span.begin(), project.Span.begin() + project.NofSpans) < kShortSpan;
     const bool high = std::any_of(shown.begin(), shown.end(), [](const auto& r) { return r.largest > 0.9; });
-    if (project.Fixerad || !(shortSpan || high) || session.results->Seconds > kLongRun) return std::nullopt;
+    if (project.Fixerad || !(shortSpan || high)) return std::nullopt;
     std::vector<CheckedRatio> other = shown;
     for (const double shift : {50.0, 100.0, 150.0}) {
         const auto later = recalculated(session, [shift](Session& copy) { copy.project.Position += shift; });
         if (!later) continue;
-        const auto ratios = allRatios(*later);
-        for (std::size_t i = 0; i < std::min(ratios.size(), other.size()); ++i)
-            other[i].largest = std::max(other[i].largest, ratios[i].largest);
+        takeLarger(other, allRatios(*later));
     }
     return grown(shown, other);
+}
+
+/// The ultimate limit state again after `change(RunLoads&)`; the rest of the results is that of the session. nullopt
+/// where the cranes have too many positions.
+template <class Change>
+std::optional<Session> underOtherLoads(const Session& session, Change change) {
+    if (!quicklyWalked(session)) return std::nullopt;
+    struct : Messages {
+        void show(const std::string&) override {}
+    } silent;
+    Progress progress;
+    Session copy = session;
+    RunLoads loads;
+    loads.NCranes = copy.project.NofCranes;
+    SetUlsLoads(copy.project, copy.context.CurrentRail, loads);
+    change(loads);
+    Results& results = *copy.results;
+    results.Uls = RunUls(copy.project, loads, WalkMethod::Fast, silent, progress);
+    TurnReactionsUpward(results.Uls);
+    results.Checks = RunCodeChecks(copy.project, copy.context, results.Uls, results.Sls);
+    return copy;
+}
+
+/// Dead load that relieves, with a factor of 1: at the supports of a continuous beam.
+std::optional<NoteFinding> relievingDeadLoad(const Session& session) {
+    const Project& project = session.project;
+    if (project.NofSpans == 1 || project.LfULS == 1) return std::nullopt;
+    const auto other = underOtherLoads(
+        session, [&](RunLoads& loads) { SetDeadLoad(project, session.context.CurrentRail, 1.0, loads); });
+    if (!other) return std::nullopt;
+    NoteFinding finding = grown(allRatios(session), allRatios(*other)).value_or(NoteFinding{});
+    const Array<Single>&shown = session.results->Uls.RzMin, &smallest = other->results->Uls.RzMin;
+    int worst = shown.first();
+    for (int support = shown.first(); support <= shown.last(); ++support)
+        if (smallest(support) < smallest(worst)) worst = support;
+    if (smallest(worst) < 0)
+        finding.changes.push_back({"smallest reaction, support " + std::to_string(worst) + ", kN", shown(worst) / 1000,
+                                   smallest(worst) / 1000, false, "0.0"});
+    if (finding.changes.empty()) return std::nullopt;
+    return finding;
+}
+
+/// The gangway's load on every other span, and on two neighbours of three.
+std::optional<NoteFinding> gangwayOnWorstSpans(const Session& session) {
+    const Project& project = session.project;
+    if (project.CraneType != 1 || project.NofSpans == 1 || !(project.Gangway > 0)) return std::nullopt;
+    Project without = project;
+    without.Gangway = 0;
+    const std::vector<CheckedRatio> shown = allRatios(session);
+    std::vector<CheckedRatio> worst = shown;
+    const auto loadedOn = [&](auto loaded) {
+        const auto other = underOtherLoads(session, [&](RunLoads& loads) {
+            const RunLoads onAll = loads;
+            SetDeadLoad(without, session.context.CurrentRail, project.LfULS, loads);
+            for (int span = 1; span <= project.NofSpans; ++span)
+                if (loaded(span)) loads.SpanLoad(span) = onAll.SpanLoad(span);
+        });
+        if (other) takeLarger(worst, allRatios(*other));
+    };
+    for (const int first : {0, 1}) loadedOn([first](int span) { return span % 2 == first; });
+    for (const int empty : {0, 1, 2}) loadedOn([empty](int span) { return span % 3 != empty; });
+    return grown(shown, worst);
 }
 
 /// H at the rail's top in place of the flange's middle: the lever to the other flange is longer.
@@ -116,6 +181,11 @@ constexpr NoteRule kRules[]{
      "the "
      "worst place.",
      "with positions every 50 mm", "", betweenTheSteps},
+    {"A4", NoteCheck::General, NoteEffect::Unsafe,
+     "Dead load has its unfavourable factor also where it relieves the beam.", "with a factor of 1.0 on dead load",
+     "EN 1990 Table A1.2(B)", relievingDeadLoad},
+    {"A5", NoteCheck::General, NoteEffect::Unsafe, "The gangway load lies on all spans at once, not on the worst ones.",
+     "with the gangway load on some spans only", "EN 1991-1-1 6.2.1", gangwayOnWorstSpans},
     {"A6", NoteCheck::Section, NoteEffect::Unsafe,
      "A horizontal load bends the loaded flange as if it acted at its middle; at the rail's top its lever is longer.",
      "with that lever", "EN 1993-6 5.6.1, EN 1991-3 2.5.2.1", leverOfHorizontalLoad},

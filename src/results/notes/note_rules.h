@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "analysis/walk.h"
 #include "calculation/calculation.h"
 #include "notes/notes.h"
 
@@ -51,10 +52,17 @@ namespace borvik {
     return std::string(what) + ", span " + std::to_string(span);
 }
 
+/// Whether the cranes have so few positions that a reader of notes doesn't wait for another walk.
+[[nodiscard]] inline bool quicklyWalked(const Session& session) {
+    constexpr double kMostPositions = 2e7;  // two cranes on 30 spans of 30 m have half of it and take 0.1 s
+    return CountPositions(session.project, session.project.NofCranes) <= kMostPositions;
+}
+
 /// The same project calculated with something changed: a copy of the session after `change(Session&)` has run on it.
-/// nullopt where the changed project is refused or ends in a fault.
+/// nullopt where the changed project is refused or ends in a fault, and where it would take long.
 template <class Change>
 [[nodiscard]] std::optional<Session> recalculated(const Session& session, Change change) {
+    if (!quicklyWalked(session)) return std::nullopt;
     struct : Messages {
         void show(const std::string&) override {}
     } silent;

@@ -1,6 +1,7 @@
 #include "notes/notes.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <string_view>
 
@@ -126,8 +127,10 @@ std::string noteText(const Note& note) {
     std::string text = rule.says;
     if (!note.finding.remark.empty()) text += " Here: " + note.finding.remark + ".";
     if (!note.finding.changes.empty()) {
-        const std::string with = rule.with;
-        text += " " + (with.empty() ? "" : with + ", ") + changeText(note.finding.changes.front()) + ".";
+        std::string sentence = rule.with + std::string(*rule.with != '\0' ? ", " : "");
+        sentence += changeText(note.finding.changes.front()) + ".";
+        sentence[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(sentence[0])));
+        text += " " + sentence;
     }
     if (*rule.clause != '\0') text += std::string(" (") + rule.clause + ")";
     return text;

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "checks/ltb_checks.h"
 #include "checks/section_checks.h"
 #include "notes/all_ratios.h"
 #include "section/geometry.h"
@@ -93,6 +94,25 @@ std::optional<NoteFinding> exactPlasticModulus(const Session& session, Concerned
                           });
 }
 
+/// The torsion constant of the three plates, each with its own width.
+std::optional<NoteFinding> torsionOfUnequalFlanges(const Session& session) {
+    Session other = session;
+    bool unequal = false;
+    for (int span = 1; span <= session.project.NofSpans; ++span) {
+        SectionRecord& section = other.project.SpanSection(span);
+        if (section.Id != "Iu" || section.b1 == section.b2) continue;
+        unequal = true;
+        section.It += std::pow(section.tf2, 3) * (section.b2 - section.b1) / 3;
+    }
+    if (!unequal) return std::nullopt;
+    LtbChecks(other.project, other.context, other.results->Uls, other.results->Checks);
+    std::vector<NoteChange> changes;
+    for (int span = 1; span <= session.project.NofSpans; ++span)
+        changes.push_back({inSpan("lateral torsional buckling", span), session.results->Checks.LtbSpan(span).Ratio,
+                           other.results->Checks.LtbSpan(span).Ratio});
+    return worstOf(changes);
+}
+
 std::optional<NoteFinding> axisInTopFlange(const Session& session) {
     return exactPlasticModulus(session, [](const SectionRecord& section) { return section.tf1 != section.tf2; });
 }
@@ -124,6 +144,9 @@ constexpr NoteRule kRules[]{
     {"B1", NoteCheck::Section, NoteEffect::Unsafe,
      "The yield strength of a grade is that of products up to 40 mm, also for a thicker flange.",
      "with the strength above 40 mm", "EN 1993-1-1 Table 3.1", thickFlanges},
+    {"B2", NoteCheck::LateralBuckling, NoteEffect::Either,
+     "The torsion constant of a welded section gives the bottom flange the width of the top one.", "with its own width",
+     "EN 1993-1-1 6.3.2.2", torsionOfUnequalFlanges},
     {"B3", NoteCheck::Section, NoteEffect::Either,
      "The plastic modulus of a welded section with unequal flanges rests on an approximate position of the axis.",
      "with the exact modulus", "EN 1993-1-1 6.2.5", axisInTopFlange},

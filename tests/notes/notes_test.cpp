@@ -1,0 +1,67 @@
+// The catalogue and the list of notes as a whole.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+#include "notes/noted_project.h"
+#include "project/project_file.h"
+
+using namespace borvik;
+using namespace borvik::testing_support;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A thick hoist beam 20 m long under a light load: nothing grows, and only what always holds is told.
+void lightHoist(Session& session) {
+    oneWheel(session, 1, 20000);
+    session.project.V(1) = 0.001;
+    session.project.CraneType = 2;
+}
+
+TEST(Notes, KeysAreUniqueAndFound) {
+    std::set<std::string> keys;
+    for (const NoteRule& rule : noteRules()) {
+        EXPECT_TRUE(keys.insert(rule.key).second) << rule.key;
+        EXPECT_EQ(findNoteRule(rule.key), &rule);
+        EXPECT_THAT(rule.says, testing::EndsWith(".")) << rule.key;
+    }
+    EXPECT_EQ(findNoteRule("Z9"), nullptr);
+}
+
+TEST(Notes, TheLargestGrowthComesFirst) {
+    const Notes notes = ProjectNotes(calculated());
+    ASSERT_GT(notes.notes.size(), 3u);
+    double last = notes.notes[0].finding.changes.at(0).growth();
+    for (const Note& note : notes.notes) {
+        const double growth = note.finding.changes.empty() ? 0.0 : note.finding.changes[0].growth();
+        EXPECT_LE(growth, last) << note.rule->key;
+        last = growth;
+    }
+}
+
+TEST(Notes, AreOneSentenceEachWithNumbersAndClause) {
+    const Note note{findNoteRule("D1"), {{{"patch load, span 3", 0.0571, 0.0842}}, "a remark"}};
+    EXPECT_EQ(noteText(note),
+              "The patch load check takes the wheel load as entered, without load factor and without dynamic factor. "
+              "Here: a remark. With both, patch load, span 3: 0.084 instead of 0.057. (EN 1993-6 6.5, EN 1991-3 2.4)");
+}
+
+TEST(Notes, AProjectWithNothingToTellHasAssumptionsAlone) {
+    const Notes notes = ProjectNotes(calculated(lightHoist));
+    for (const Note& note : notes.notes) ADD_FAILURE() << noteText(note);
+    EXPECT_FALSE(notes.assumptions.empty());
+}
+
+TEST(Notes, WithoutResultsThereAreNone) {
+    Session session = calculated();
+    session.inputChanged();
+    const Notes notes = ProjectNotes(session);
+    EXPECT_TRUE(notes.notes.empty() && notes.assumptions.empty());
+}
+
+}  // namespace
