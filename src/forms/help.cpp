@@ -35,6 +35,28 @@ constexpr PageOfWindow kPages[] = {
     {"frmabout", "index.md"},
 };
 
+struct PageOfNode {
+    const char* node;  ///< its text
+    const char* page;
+};
+
+constexpr PageOfNode kNodes[] = {
+    {"Setup", "setup.md"},
+    {"Beam", "beam.md"},
+    {"Profile", "profile.md"},
+    {"Rail", "rail.md"},
+    {"Lateral Tors Buckl", "lateral-torsional-buckling.md"},
+    {"ULS", "summaries.md"},
+    {"ULS + SLS", "summaries.md"},
+    {"ULS + SLS + FLS", "summaries.md"},
+    {"Summary", "summaries.md"},
+    {"My + Vz", "diagram-forces.md"},
+    {"Mz + Vy", "diagram-forces.md"},
+    {"Uz + Uy", "diagram-deflections.md"},
+    {"Reactions", "diagram-reactions.md"},
+    {"Detailed Results", "detailed-results.md"},
+};
+
 /// @param over  owner of the help window; an owner's open help window is used again
 HelpWindow* openHelp(QWidget* over, Messages& messages) {
     const QFileInfo contents(QString(kHelpPath) + ":index.md");
@@ -64,6 +86,19 @@ QString helpPageOf(const QWidget* window) {
         for (const PageOfWindow& known : kPages)
             if (window->objectName() == known.window) return known.page;
     return "index.md";
+}
+
+QString helpPageOf(const TreeNode& node, bool monorail) {
+    if (node.text == "Loads") return monorail ? "loads-monorail.md" : "loads-overhead-crane.md";
+    if (node.text == "Fatigue") return monorail ? "fatigue-monorail.md" : "fatigue-overhead-crane.md";
+    if (node.text.starts_with("Cr1-") || node.text.starts_with("Cr2-")) return "diagram-fatigue.md";
+    for (const PageOfNode& known : kNodes)
+        if (node.text == known.node) return known.page;
+    return "main-window.md";
+}
+
+void showHelpPage(const QString& page, Messages& messages) {
+    if (HelpWindow* window = openHelp(QApplication::activeWindow(), messages)) window->showPage(page);
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "forms/frm_detailed_result.h"
+#include "forms/help.h"
 #include "forms/icons.h"
 
 namespace borvik {
@@ -92,6 +93,9 @@ QWidget* MainWindow::inputColumn() {
 
     tree_ = new ResultTreeView("TreeView1");
     connect(tree_, &ResultTreeView::nodeChosen, this, &MainWindow::showNode);
+    connect(tree_, &ResultTreeView::helpWanted, this, [this](const TreeNode& node) {
+        showHelpPage(helpPageOf(node, session_.project.CraneType != 1), services_.messages);
+    });
 
     auto* buttons = new QGridLayout;
     buttons->addWidget(cmdProfile, 0, 0, 1, 2);

@@ -77,7 +77,20 @@ void ResultTreeView::choose(QTreeWidgetItem* item, bool byWalking) {
     Q_EMIT nodeChosen(chosen, byWalking);
 }
 
+/// F1 belongs to a node that opens something, before the menu that has the same key.
+bool ResultTreeView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
+        const TreeNode* node = nodes_.value(currentItem());
+        if (node != nullptr && node->opens != NodeOpens::Nothing) event->accept();
+    }
+    return QTreeWidget::event(event);
+}
+
 void ResultTreeView::keyPressEvent(QKeyEvent* event) {
+    if (const TreeNode* node = nodes_.value(currentItem()); node != nullptr && event->key() == Qt::Key_F1) {
+        Q_EMIT helpWanted(*node);
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space) {
         choose(currentItem());
         return;

@@ -26,8 +26,11 @@ public:
 Q_SIGNALS:
     /// @param byWalking  by the arrow keys, in passing
     void nodeChosen(const borvik::TreeNode& node, bool byWalking);
+    /// F1 on a node that opens something.
+    void helpWanted(const borvik::TreeNode& node);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -3,15 +3,19 @@
 #include <gmock/gmock.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QTest>
+#include <functional>
 
 #include "forms/dialogs.h"
 #include "forms/formula_text.h"
 #include "forms/frm_about.h"
 #include "forms/frm_detailed_result.h"
 #include "forms/help_window.h"
+#include "forms/result_tree_view.h"
 #include "platform/messages.h"
 
 namespace borvik {
@@ -179,6 +183,35 @@ TEST_F(HelpInTheProgram, aWindowWithoutAPageTakesThatOfItsOwner) {
     const QDialog box(&owner);
     EXPECT_EQ(helpPageOf(&box), "rail.md");
     EXPECT_EQ(helpPageOf(nullptr), "index.md");
+}
+
+TEST_F(HelpInTheProgram, everyNodeOfTheMainTreeHasAPage) {
+    session.project.NofCranes = 2;
+    const std::function<void(const TreeNode&)> check = [&](const TreeNode& node) {
+        for (const bool monorail : {false, true})
+            EXPECT_TRUE(QFileInfo::exists(QString(kFolder) + "/" + helpPageOf(node, monorail))) << node.text;
+        EXPECT_EQ(helpPageOf(node, false) == "main-window.md", node.opens == NodeOpens::Nothing) << node.text;
+        for (const TreeNode& child : node.children) check(child);
+    };
+    check(mainTree(session.project, true));
+}
+
+TEST_F(HelpInTheProgram, f1OnANodeOpensItsPage) {
+    ResultTreeView tree("tree");
+    QShortcut contents(QKeySequence::HelpContents, &tree);
+    int shortcuts = 0;
+    std::string wanted;
+    QObject::connect(&contents, &QShortcut::activated, &tree, [&] { ++shortcuts; });
+    QObject::connect(&tree, &ResultTreeView::helpWanted, &tree, [&](const TreeNode& node) { wanted = node.text; });
+    tree.showTree(mainTree(session.project, true));
+    tree.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tree));
+    QTest::keyClick(&tree, Qt::Key_F1);
+    EXPECT_EQ(shortcuts, 1) << "the root opens nothing";
+    tree.setCurrentItem(tree.itemOf("Uz + Uy"));
+    QTest::keyClick(&tree, Qt::Key_F1);
+    EXPECT_EQ(shortcuts, 1);
+    EXPECT_EQ(wanted, "Uz + Uy");
 }
 
 TEST_F(HelpInTheProgram, aMissingHelpIsSaid) {
