@@ -11,11 +11,11 @@ using Kind = FormulaPart::Kind;
 
 const QHash<QString, QString>& uprightSymbols() {
     static const QHash<QString, QString> table{
-        {"alpha", "α"}, {"beta", "β"},   {"gamma", "γ"},  {"Delta", "Δ"}, {"delta", "δ"}, {"varepsilon", "ε"},
-        {"eta", "η"},   {"lambda", "λ"}, {"mu", "μ"},     {"nu", "ν"},    {"pi", "π"},    {"rho", "ρ"},
-        {"sigma", "σ"}, {"tau", "τ"},    {"varphi", "φ"}, {"Phi", "Φ"},   {"chi", "χ"},   {"psi", "ψ"},
-        {"lvert", "|"}, {"rvert", "|"},  {"infty", "∞"},  {"dots", "…"},  {"sum", "Σ"},   {"%", "%"},
-        {"{", "{"},     {"}", "}"},
+        {"alpha", "α"},      {"beta", "β"}, {"gamma", "γ"},  {"Delta", "Δ"}, {"delta", "δ"},
+        {"varepsilon", "ε"}, {"eta", "η"},  {"lambda", "λ"}, {"mu", "μ"},    {"nu", "ν"},
+        {"pi", "π"},         {"rho", "ρ"},  {"sigma", "σ"},  {"tau", "τ"},   {"varphi", "φ"},
+        {"Phi", "Φ"},        {"chi", "χ"},  {"psi", "ψ"},    {"lvert", "|"}, {"rvert", "|"},
+        {"infty", "∞"},      {"dots", "…"}, {"%", "%"},      {"{", "{"},     {"}", "}"},
     };
     return table;
 }
@@ -81,8 +81,8 @@ private:
             const qsizetype start = at_;
             add(all.parts, item(all.parts));
             const FormulaPart& last = all.parts.back();
-            if (last.text == "(") ++brackets;
-            if (last.text == ")") --brackets;
+            if (last.kind == Kind::Text && last.text == "(") ++brackets;
+            if (last.kind == Kind::Text && last.text == ")") --brackets;
             const bool between = last.kind == Kind::Sign || (last.kind == Kind::Gap && last.width >= kWideGap);
             if (depth_ == 1 && brackets == 0 && between && all.parts.size() > 1) cuts_.append(start);
         }
@@ -156,6 +156,7 @@ private:
         if (name == "sqrt") return root();
         if (name == "text" || name == "mathrm") return words();
         if (name == "bar") return branch(Kind::Bar, {argument()});
+        if (name == "sum") return leaf(Kind::Sum, "Σ");
         if (name == "left") return fenced();
         if (name == "right") return leaf(Kind::Text, bracket());
         if (name == "max" || name == "min")

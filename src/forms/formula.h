@@ -14,6 +14,7 @@ struct FormulaPart {
         Text,      ///< upright: numbers, Greek letters, words, brackets of fixed size
         Sign,      ///< a sign with room on both sides: + = ≤ ·
         Gap,       ///< room, `width` wide
+        Sum,       ///< the sign of a sum; its limits are index and power
         Fraction,  ///< parts: what stands above and below the bar
         Root,      ///< parts: what stands below the root, and its degree (an empty row for a square root)
         Bar,       ///< parts: what stands below the bar

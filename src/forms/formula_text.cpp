@@ -63,6 +63,8 @@ QString htmlOf(const FormulaPart& part, bool tight) {
             return "<i>" + part.text + "</i>";
         case Kind::Text:
             return part.text == "," && !tight ? QString(", ") : part.text.toHtmlEscaped();
+        case Kind::Sum:
+            return part.text;
         case Kind::Sign:
             return tight ? part.text.toHtmlEscaped() : " " + part.text.toHtmlEscaped() + " ";
         case Kind::Gap:

@@ -8,15 +8,14 @@
 #include <QTextTable>
 #include <algorithm>
 
-#include "forms/formula_text.h"
+#include "forms/formula_object.h"
 
 namespace borvik {
 
 namespace {
 
-constexpr int kPictureWidth = 640;       // pixels; wider pictures are shown at this width
-constexpr double kFormulaIndent = 30.0;  // pixels
-constexpr int kTitleWeight = 100;        // a word in the title outweighs as many in the text
+constexpr int kPictureWidth = 640;  // pixels; wider pictures are shown at this width
+constexpr int kTitleWeight = 100;   // a word in the title outweighs as many in the text
 
 // Formulas wait between two private characters while the rest is read as Markdown.
 constexpr char16_t kFormulaStart = 0xE000;
@@ -52,11 +51,10 @@ void putFormulasBack(QTextDocument& document, const QStringList& formulas) {
     for (QTextCursor at = document.find(waiting); !at.isNull(); at = document.find(waiting, at)) {
         const QString marked = at.selectedText();
         const bool alone = at.block().text().trimmed() == marked && at.currentTable() == nullptr;
-        const QString tex = formulas.at(marked.mid(1, marked.size() - 2).toInt());
-        at.insertHtml("<span>" + formulaHtml(tex) + "</span>");
+        insertFormula(at, formulas.at(marked.mid(1, marked.size() - 2).toInt()), alone);
         if (!alone) continue;
         QTextBlockFormat indented = at.blockFormat();
-        indented.setLeftMargin(indented.leftMargin() + kFormulaIndent);
+        indented.setIndent(indented.indent() + 1);
         at.setBlockFormat(indented);
     }
 }
@@ -105,10 +103,16 @@ qsizetype occurrences(const QString& text, const QString& word) {
 
 void setManualText(QTextDocument& document, const QString& markdown, const QDir& folder) {
     QStringList formulas;
+    if (document.findChild<FormulaObject*>() == nullptr) new FormulaObject(document);
+    QTextCursor whole(&document);
+    whole.beginEditBlock();  // the page is laid out when a block ends
     document.setMarkdown(takeFormulas(markdown, formulas), QTextDocument::MarkdownDialectGitHub);
+    whole.endEditBlock();
+    whole.beginEditBlock();  // now tables are known
     putFormulasBack(document, formulas);
     fitPictures(document, folder);
     frameTables(document);
+    whole.endEditBlock();
 }
 
 HelpLibrary::HelpLibrary(const QString& folder) : folder_(folder) {
@@ -132,6 +136,7 @@ QList<HelpText> HelpLibrary::search(const QString& words) const {
         for (const HelpText& page : pages_) {
             QTextDocument document;
             show(page.file, document);
+            putFormulasOnOneLine(document);
             plainTexts_.append(document.toPlainText());
         }
     }

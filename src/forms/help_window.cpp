@@ -1,14 +1,18 @@
 #include "forms/help_window.h"
 
 #include <QDesktopServices>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QStyle>
 #include <QTextBlock>
+#include <QTextDocumentFragment>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include "forms/formula_object.h"
 
 namespace borvik {
 
@@ -22,6 +26,20 @@ QTreeWidgetItem* itemOf(const QTreeWidget* tree, const QString& file) {
         if ((*at)->data(0, kFileRole).toString() == file) return *at;
     return nullptr;
 }
+
+/// The page. What is copied from it has its formulas as text.
+class PageView : public QTextBrowser {
+protected:
+    QMimeData* createMimeDataFromSelection() const override {
+        QTextDocument copied;
+        QTextCursor(&copied).insertFragment(textCursor().selection());
+        putFormulasOnOneLine(copied);
+        auto* copy = new QMimeData;
+        copy->setText(copied.toPlainText());
+        copy->setHtml(copied.toHtml());
+        return copy;
+    }
+};
 
 }  // namespace
 
@@ -66,7 +84,7 @@ void HelpWindow::buildLayout() {
         const QString file = item->data(0, kFileRole).toString();
         if (!file.isEmpty()) showPage(file);
     });
-    page_ = new QTextBrowser;
+    page_ = new PageView;
     page_->setObjectName("helpPage");
     page_->setOpenLinks(false);
     page_->document()->setDocumentMargin(16);

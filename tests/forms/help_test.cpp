@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "forms/dialogs.h"
+#include "forms/formula_object.h"
 #include "forms/formula_text.h"
 #include "forms/frm_about.h"
 #include "forms/frm_detailed_result.h"
@@ -34,7 +35,9 @@ std::vector<std::string> found(const char* words) {
 }
 
 std::string plain(const QTextDocument& document) {
-    return document.toPlainText().toStdString();
+    const std::unique_ptr<QTextDocument> text(document.clone());
+    putFormulasOnOneLine(*text);
+    return text->toPlainText().toStdString();
 }
 
 TEST(HelpLibrary, everyPageIsInTheContentsAndEveryEntryIsAPage) {
