@@ -24,6 +24,7 @@ constexpr double kSmallestSize = 0.5;  // of the font
 constexpr double kSignRoom = 0.22;
 constexpr double kTightSignRoom = 0.05;
 constexpr double kCommaRoom = 0.17;
+constexpr double kBracketRoom = 0.06;  // of stretched ones
 constexpr double kFractionSide = 0.08;
 constexpr double kBarOverlap = 0.08;
 constexpr double kBarGap = 0.14;
@@ -254,7 +255,7 @@ private:
         box.width = asItIs.width;
         box.ascent = half + size.axis;
         box.descent = half - size.axis;
-        return box;
+        return widened(box, kBracketRoom * size.em, kBracketRoom * size.em);
     }
 
     [[nodiscard]] FormulaBox scripts(const FormulaPart& part, double scale, bool tight) const {

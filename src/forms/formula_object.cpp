@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextDocumentFragment>
 #include <algorithm>
 #include <utility>
 
@@ -14,6 +15,8 @@ namespace borvik {
 namespace {
 
 constexpr double kLineRoom = 0.1;  // above and below a formula in a paragraph of its own; height of the font
+
+constexpr int kLongestTogether = 16;  // characters of a formula within text that no line break divides
 
 constexpr int kFormula = QTextFormat::UserObject + 1;
 
@@ -74,14 +77,17 @@ void FormulaObject::drawObject(QPainter* painter, const QRectF& room, QTextDocum
 }
 
 void insertFormula(QTextCursor& at, const QString& tex, bool alone) {
+    QString html = formulaHtml(tex);
+    const bool together = !alone && QTextDocumentFragment::fromHtml(html).toPlainText().size() <= kLongestTogether;
     if (!alone && isPlain(readFormula(tex))) {
-        at.insertHtml("<span>" + formulaHtml(tex) + "</span>");
+        if (together) html.replace(' ', QChar::Nbsp);
+        at.insertHtml("<span>" + html + "</span>");
         return;
     }
     QTextCharFormat format = at.charFormat();
     format.setObjectType(kFormula);
     format.setProperty(kAlone, alone);
-    QStringList pieces = formulaPieces(tex);
+    QStringList pieces = together ? QStringList{tex} : formulaPieces(tex);
     pieces.back() += takenSign(at);
     bool continues = false;
     for (const QString& piece : std::as_const(pieces)) {

@@ -2,9 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImageReader>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QShortcut>
 #include <QTest>
@@ -243,6 +246,19 @@ TEST_F(HelpInTheProgram, theMenuOpensContentsSearchAndTheory) {
     EXPECT_EQ(contents->topLevelItem(0)->text(0), "Reinforcement");
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_EQ(help->currentPage(), "reinforcement.md");
+}
+
+TEST_F(HelpInTheProgram, whatIsCopiedHasItsFormulasAsText) {
+    HelpWindow help(kFolder, nullptr);
+    help.setAttribute(Qt::WA_DeleteOnClose, false);
+    help.showPage("../theory.md");
+    auto* page = help.findChild<QTextBrowser*>("helpPage");
+    page->selectAll();
+    page->copy();
+    const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+    EXPECT_TRUE(copied->text().contains("IR = Fz/Fz,Rd"));
+    EXPECT_FALSE(copied->text().contains(QChar::ObjectReplacementCharacter));
+    EXPECT_TRUE(copied->html().contains("vertical-align:sub"));
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ bool writeTheory(const QString& path) {
     QPdfWriter writer(path);
     writer.setTitle("Borvik: theory manual");
     writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
+    writer.setPageMargins(QMarginsF());  // the document keeps 20 mm itself
     QFont font("DejaVu Sans");
     font.setPointSizeF(9.0);
     document.setDefaultFont(font);
