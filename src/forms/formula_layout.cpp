@@ -31,7 +31,7 @@ constexpr double kBarGap = 0.14;
 constexpr double kOverlineGap = 0.09;
 constexpr double kRootGap = 0.12;
 constexpr double kLimitGap = 0.1;
-constexpr double kScriptGap = 0.13;
+constexpr double kScriptGap = 0.15;
 
 // Shifts of baselines, in em.
 constexpr double kPowerRise = 0.42;
@@ -134,11 +134,12 @@ private:
         const QFontMetricsF metrics(font, device_);
         const QRectF ink = metrics.tightBoundingRect(text);
         FormulaBox box;
-        box.width = metrics.horizontalAdvance(text);
+        const double left = std::max(0.0, -ink.left());  // nothing reaches into what stands before it
+        box.width = left + metrics.horizontalAdvance(text);
         box.ascent = std::max(0.0, -ink.top());
         box.descent = std::max(0.0, ink.bottom());
-        box.overhang = std::max(0.0, ink.right() - box.width);
-        box.symbols.push_back({QPointF(), text, font});
+        box.overhang = std::max(0.0, left + ink.right() - box.width);
+        box.symbols.push_back({QPointF(left, 0.0), text, font});
         return box;
     }
 
@@ -276,7 +277,10 @@ private:
         FormulaBox box;
         place(box, base, 0.0, 0.0);
         place(box, index, base.width, drop);
-        place(box, power, base.width + base.overhang + 0.03 * size.em, -rise);
+        const double powerAt = base.width + base.overhang + 0.03 * size.em;
+        place(box, power, powerAt, -rise);
+        box.width = std::max(base.width + index.width + index.overhang,
+                             part.parts[2].empty() ? 0.0 : powerAt + power.width + power.overhang);
         return box;
     }
 
