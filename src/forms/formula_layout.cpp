@@ -92,8 +92,8 @@ void append(FormulaBox& box, const FormulaBox& part) {
 
 class Setter {
 public:
-    Setter(QFont font, const QPaintDevice* device, FormulaStyle style)
-        : font_(std::move(font)), device_(device), style_(style) {}
+    Setter(const QFont& font, const QPaintDevice* device, FormulaStyle style)
+        : font_(font), device_(device), style_(style) {}
 
     /// @param scale  of the font
     /// @param tight  within an index or a power, where little room is left around signs
@@ -238,7 +238,7 @@ private:
     /// A bracket about the axis, stretched if it isn't high enough.
     /// @param half  height to cover above the axis and below
     [[nodiscard]] FormulaBox bracket(const QString& text, const Size& size, double half) const {
-        const FormulaBox asItIs = symbols(text, size.upright);
+        FormulaBox asItIs = symbols(text, size.upright);
         if (text.isEmpty() || half <= std::max(asItIs.ascent - size.axis, asItIs.descent + size.axis)) return asItIs;
         constexpr int kPixels = 100;
         QFont font = size.upright;
