@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "calculation/session.h"
+#include "notes/notes.h"
 
 namespace borvik {
 
@@ -11,6 +12,7 @@ namespace borvik {
 struct CalculationRecord {
     Project project;
     Results results;
+    Notes notes{};
 };
 using CalculationPtr = std::shared_ptr<const CalculationRecord>;
 

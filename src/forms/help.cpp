@@ -55,6 +55,7 @@ constexpr PageOfNode kNodes[] = {
     {"Uz + Uy", "diagram-deflections.md"},
     {"Reactions", "diagram-reactions.md"},
     {"Detailed Results", "detailed-results.md"},
+    {"Notes", "notes.md"},
 };
 
 /// @param over  owner of the help window; an owner's open help window is used again

@@ -142,6 +142,7 @@ QWidget* MainWindow::pictureFrame() {
 
 QWidget* MainWindow::resultFrame() {
     results_ = new ResultTablePane("lstViewDetailed");
+    connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::goToCheckOf);
     auto* frame = new QGroupBox("Results");
     frame->setObjectName("frmResults");
     auto* layout = new QVBoxLayout(frame);
@@ -158,10 +159,15 @@ void MainWindow::buildStatusBar() {
     stateTime_->setObjectName("stateTime");
     stateUnsaved_ = new QLabel;
     stateUnsaved_->setObjectName("stateUnsaved");
-    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_}) {
-        label->setMargin(4);
-        statusBar()->addPermanentWidget(label);
-    }
+    stateNotes_ = new QToolButton;
+    stateNotes_->setObjectName("stateNotes");
+    stateNotes_->setAutoRaise(true);
+    stateNotes_->setToolTip(tr("What the checks assume or leave out, where it matters in this project"));
+    connect(stateNotes_, &QToolButton::clicked, this, &MainWindow::showNotes);
+    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_}) label->setMargin(4);
+    for (QWidget* state :
+         std::initializer_list<QWidget*>{stateUnsaved_, stateGoverning_, stateNotes_, stateTime_, stateCalculated_})
+        statusBar()->addPermanentWidget(state);
 }
 
 void MainWindow::WritefrmInput() {
@@ -196,6 +202,7 @@ void MainWindow::showState() {
                                              : tr("Not calculated"));
     stateGoverning_->setVisible(current);
     stateTime_->setVisible(current);
+    stateNotes_->setVisible(current);
     showHistory();
 }
 

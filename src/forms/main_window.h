@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QToolButton>
 #include <functional>
 #include <initializer_list>
 #include <memory>
@@ -117,6 +118,8 @@ private:
     void calculate();
     void showNode(const TreeNode& node, bool byWalking);
     void showTable(const std::string& name);
+    void showNotes();
+    void goToCheckOf(int note);
     void ShowTreeView();
     void ShowTreeViewResults();
     void print(int scope, PrintCommand command);
@@ -131,6 +134,7 @@ private:
     RecoveryCopies recovery_;
     bool copyRefused_ = false;  ///< the user has been told that no copy can be kept
     CalculationPtr calculation_;
+    bool shownNotes_ = false;  ///< the table shown is that of the notes
     bool running_ = false;
     std::unique_ptr<FrmProgress> progress_;
 
@@ -147,6 +151,7 @@ private:
     QLabel* stateCalculated_ = nullptr;
     QLabel* stateGoverning_ = nullptr;
     QLabel* stateTime_ = nullptr;
+    QToolButton* stateNotes_ = nullptr;
     QLabel* stateUnsaved_ = nullptr;
 };
 

@@ -8,6 +8,7 @@
 #include "forms/icons.h"
 #include "forms/main_window.h"
 #include "forms/printing.h"
+#include "results/notes_table.h"
 #include "results/ratios.h"
 #include "results/tables.h"
 
@@ -111,7 +112,11 @@ void MainWindow::calculate() {
         WritefrmInput();
         return;
     }
-    calculation_ = std::make_shared<const CalculationRecord>(CalculationRecord{session_.project, *session_.results});
+    {
+        const BusyPointer busy;
+        calculation_ = std::make_shared<const CalculationRecord>(
+            CalculationRecord{session_.project, *session_.results, ProjectNotes(session_)});
+    }
     ShowTreeViewResults();
     showState();
     picBalk_->showSketch(session_.project);
@@ -156,6 +161,9 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
         case NodeOpens::Picture:
             picRes_->showResults(pictureDiagrams(node.name, calculation_->project), calculation_);
             break;
+        case NodeOpens::Notes:
+            showNotes();
+            break;
         case NodeOpens::DetailedResults:
             FrmDetailedResult(calculation_, this).exec();
             break;
@@ -168,10 +176,30 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
 void MainWindow::showTable(const std::string& name) {
     const TableEntry* entry = findTable(name);
     if (entry == nullptr) return;
+    shownNotes_ = false;
     results_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
 }
 
+void MainWindow::showNotes() {
+    if (!session_.Calculated) return;
+    shownNotes_ = true;
+    tree_->setCurrentItem(tree_->itemOf("Notes"));
+    results_->showTable(tr("Notes for the checking engineer"), TableNotes(calculation_->notes));
+}
+
+/// From a note to the check that it speaks of, in the summary of all checks.
+void MainWindow::goToCheckOf(int note) {
+    const auto& notes = calculation_->notes.notes;
+    if (!shownNotes_ || !session_.Calculated || note < 0 || static_cast<std::size_t>(note) >= notes.size()) return;
+    const int row = SummaryRowOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
+    tree_->setCurrentItem(tree_->itemOf("ULS + SLS + FLS"));
+    showTable("SummaryAll");
+    if (row >= 0) results_->list()->selectRow(row);
+}
+
 void MainWindow::showGoverning() {
+    const auto notes = static_cast<int>(calculation_->notes.notes.size());
+    stateNotes_->setText(notes == 1 ? tr("1 note") : tr("%1 notes").arg(notes));
     const double largest = LargestRatio(calculation_->results);
     const QString ratio = QString::fromStdString(formatNumber(largest, "0.000"));
     // A sign beside the number, so that the state doesn't rest on colour.

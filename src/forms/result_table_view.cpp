@@ -44,6 +44,18 @@ ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(t
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionsMovable(false);
     buildFirstColumn();
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) { Q_EMIT rowChosen(cell.row()); });
+}
+
+void ResultTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row()) Q_EMIT currentRowChanged(current.row());
+}
+
+void ResultTableView::selectRow(int row) {
+    const QModelIndex cell = model_.index(row, 0);
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(cell);
 }
 
 void ResultTableView::buildFirstColumn() {
@@ -117,14 +129,20 @@ int ResultTableView::contentWidth(int column) const {
 /// Gives each column what its texts need. Where that is too much for the window and the widest one can give way without
 /// becoming unreadable, it does; else the list scrolls. Where there is room to spare all get some of it.
 void ResultTableView::fitColumns() {
-    constexpr int kMostSpare = 60;
+    constexpr int kMostSpare = 60, kLeastOfLongTexts = 100;
     const int columns = model_.columnCount();
     if (columns == 0) return;
     std::vector<int> widths;
     widths.reserve(static_cast<std::size_t>(columns));
     for (int column = 0; column < columns; ++column) widths.push_back(contentWidth(column));
     const int room = viewport()->width();
-    const int spare = room - std::accumulate(widths.begin(), widths.end(), 0);
+    int spare = room - std::accumulate(widths.begin(), widths.end(), 0);
+    for (int column = 0; column < columns; ++column)
+        if (model_.table().columns[static_cast<std::size_t>(column)].yields) {
+            int& width = widths[static_cast<std::size_t>(column)];
+            width = std::max(width + spare, kLeastOfLongTexts);
+            spare = 0;
+        }
     auto widest = std::max_element(widths.begin(), widths.end());
     if (spare < 0 && *widest + spare >= room / 3) *widest += spare;
     fitting_ = true;
@@ -196,6 +214,10 @@ void ResultTableView::keyPressEvent(QKeyEvent* event) {
         copy(selectionText(false));
         return;
     }
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
+        Q_EMIT rowChosen(currentIndex().row());
+        return;
+    }
     QTableView::keyPressEvent(event);
 }
 
@@ -238,6 +260,21 @@ ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWi
     list_ = new ResultTableView;
     list_->setObjectName(listName);
     list_->setAccessibleName(tr("Result table"));
+    details_ = new QTextBrowser;
+    details_->setObjectName(listName + "Details");
+    details_->setAccessibleName(tr("Details of the row"));
+    details_->hide();
+    connect(list_, &ResultTableView::currentRowChanged, this, [this](int row) {
+        const auto& details = list_->table().details;
+        if (row >= 0 && static_cast<std::size_t>(row) < details.size())
+            details_->setPlainText(QString::fromStdString(details[static_cast<std::size_t>(row)]));
+    });
+    auto* split = new QSplitter(Qt::Vertical);
+    split->addWidget(list_);
+    split->addWidget(details_);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+    split->setChildrenCollapsible(false);
     auto* head = new QHBoxLayout;
     head->addWidget(title_);
     head->addStretch();
@@ -245,7 +282,7 @@ ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWi
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(head);
-    layout->addWidget(list_, 1);
+    layout->addWidget(split, 1);
     layout->addWidget(note_);
 }
 
@@ -254,7 +291,10 @@ void ResultTablePane::showTable(const QString& title, ResultTable table) {
     note_->setText(QString::fromStdString(table.note));
     note_->setVisible(!table.note.empty());
     setOutOfDate(false);
+    details_->setVisible(!table.details.empty());
+    details_->clear();
     list_->showTable(std::move(table));
+    if (details_->isVisibleTo(this)) list_->selectRow(0);
 }
 
 void ResultTablePane::clear() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QLabel>
+#include <QSplitter>
 #include <QTableView>
+#include <QTextBrowser>
 #include <QWidget>
 
 #include "forms/result_table_model.h"
@@ -24,10 +26,18 @@ public:
     /// The selected cells, as they stand side by side.
     [[nodiscard]] QString selectionText(bool withHeaders) const;
     [[nodiscard]] QString wholeText() const;
+    /// Makes a row the current one, in view.
+    void selectRow(int row);
+
+Q_SIGNALS:
+    /// A double click on a row, or Enter on it. Counts from 0.
+    void rowChosen(int row);
+    void currentRowChanged(int row);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
@@ -45,7 +55,8 @@ private:
     bool columnsSetByUser_ = false;
 };
 
-/// A table with its name above, and its signs and units below.
+/// A table with its name above, and its signs and units below. Where its rows have details, those of the current row
+/// stand beneath it.
 class ResultTablePane : public QWidget {
     Q_OBJECT
 
@@ -63,6 +74,7 @@ private:
     QLabel* outOfDate_;
     QLabel* note_;
     ResultTableView* list_;
+    QTextBrowser* details_;
 };
 
 }  // namespace borvik

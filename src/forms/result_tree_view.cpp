@@ -17,7 +17,12 @@ bool sameTree(const TreeNode& a, const TreeNode& b) {
 
 bool showsResults(const TreeNode& node) {
     return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture ||
-           node.opens == NodeOpens::DetailedResults;
+           node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes;
+}
+
+/// What the arrow keys show in passing, because it opens no window.
+bool showsInPlace(const TreeNode& node) {
+    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::Notes;
 }
 
 }  // namespace
@@ -39,7 +44,7 @@ void ResultTreeView::add(QTreeWidgetItem* parent, const TreeNode& node) {
         parent->addChild(item);
     }
     if (node.opens == NodeOpens::InputForm) item->setIcon(0, pictureIcon(Picture::Form));
-    if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults)
+    if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes)
         item->setIcon(0, pictureIcon(Picture::Table));
     if (node.opens == NodeOpens::Picture) item->setIcon(0, pictureIcon(Picture::Diagram));
     nodes_.insert(item, &node);
@@ -99,8 +104,7 @@ void ResultTreeView::keyPressEvent(QKeyEvent* event) {
     QTreeWidget::keyPressEvent(event);
     QTreeWidgetItem* now = currentItem();
     const TreeNode* node = nodes_.value(now);
-    if (now != before && node != nullptr && (node->opens == NodeOpens::Table || node->opens == NodeOpens::Picture))
-        choose(now, true);
+    if (now != before && node != nullptr && showsInPlace(*node)) choose(now, true);
 }
 
 }  // namespace borvik

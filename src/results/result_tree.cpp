@@ -50,6 +50,7 @@ TreeNode mainTree(const Project& project, bool withResults) {
                    {picture("MyVz", "My + Vz"), picture("MzVy", "Mz + Vy", true), picture("Uz", "Uz + Uy")}),
               flsDiagrams(project), picture("CrRz", "Reactions")}));
     root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
+    root.children.push_back({"Notes", "Notes", NodeOpens::Notes, "", false, {}});
     return root;
 }
 

@@ -29,9 +29,10 @@ struct TableCell {
 };
 
 struct TableColumn {
-    std::string header;  ///< shown character for character
-    std::string unit;    ///< of the numbers below, empty where none applies
-    std::string help;    ///< what stands in the column, with its sign
+    std::string header;   ///< shown character for character
+    std::string unit;     ///< of the numbers below, empty where none applies
+    std::string help;     ///< what stands in the column, with its sign
+    bool yields = false;  ///< long texts, that are cut to the room there is; `details` has them in full
 };
 
 /// A table as it is shown: the same for the window, the spreadsheet, the clipboard and the command line.
@@ -39,6 +40,7 @@ struct ResultTable {
     std::vector<TableColumn> columns;
     std::vector<std::vector<TableCell>> rows;  ///< a row may be shorter than the columns: the rest is empty
     std::string note;                          ///< signs and units of the table, one line
+    std::vector<std::string> details;          ///< of each row, where its cells are too narrow for it; or none at all
 };
 
 /// ULS envelopes of My, Vz at the points of the spans: kNm, kN; sagging positive.

@@ -100,7 +100,7 @@ TEST_F(ResultsTest, noResultWithoutACalculation) {
     calculate();
     click("chkStartStop");
     for (const char* node : {"ULS", "ULS + SLS", "ULS + SLS + FLS", "Summary", "My + Vz", "Mz + Vy", "Uz + Uy",
-                             "Cr1-Point 1", "Cr1-Point 2", "Cr1-Point 3", "Reactions", "Detailed Results"}) {
+                             "Cr1-Point 1", "Cr1-Point 2", "Cr1-Point 3", "Reactions", "Detailed Results", "Notes"}) {
         messages.texts.clear();
         const auto shown = picRes().diagrams();
         clickNode(node);

@@ -272,7 +272,7 @@ TEST(ResultTree, growsWithResultsAndCranes) {
     EXPECT_THAT(std::vector<std::string>(texts.begin() + 9, texts.end()),
                 ElementsAre("Results", "ULS", "ULS + SLS", "ULS + SLS + FLS", "Summary", "Diagram", "ULS/SLS",
                             "My + Vz", "Mz + Vy", "Uz + Uy", "FLS", "Cr1-Point 1", "Cr1-Point 2", "Cr1-Point 3",
-                            "Reactions", "Detailed Results"));
+                            "Reactions", "Detailed Results", "Notes"));
     texts.clear();
     collect(detailedTree(project), texts, tables);
     EXPECT_THAT(texts, ElementsAre("Borvik", "ULS", "Moment", "MyVz max/min", "MzVy max/min", "Reactions", "SLS",

@@ -141,6 +141,8 @@ int main(int argc, char** argv) {
         camera.take(*picRes, name);
     }
     camera.take(*window.findChild<QWidget*>("picBalk"), "diagram-sketch");
+    choose(window, "Notes");
+    camera.take(window, "notes");
 
     FrmDetailedResult detailed(window.calculation(), &window);
     detailed.show();
