@@ -16,21 +16,22 @@ namespace borvik {
 
 #ifdef BORVIK_PICTURES
 
-void saveReport(const Session& session, ReportScope scope, const std::string& file) {
+void saveReport(const Session& session, ReportScope scope, bool withNotes, const std::string& file) {
     needApplication();
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
     const QString failed = savePdf(
         QString::fromStdString(file),
-        [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local)); }, defaultPageLayout(),
+        [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
+        defaultPageLayout(),
         {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
     if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());
 }
 
 #else
 
-void saveReport(const Session&, ReportScope, const std::string&) {
+void saveReport(const Session&, ReportScope, bool, const std::string&) {
     throw OutputError("this program was built without printing");
 }
 

@@ -146,6 +146,7 @@ private:
     QPushButton* cmdCalc_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
+    QAction* printNotes_ = nullptr;
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
     QLabel* stateCalculated_ = nullptr;

@@ -138,6 +138,11 @@ void MainWindow::buildMenus() {
     buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},
                       {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
     printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
+    printMenu->addSeparator();
+    printNotes_ = printMenu->addAction("With notes for the checking engineer");
+    printNotes_->setObjectName("mnuPrintNotes");
+    printNotes_->setCheckable(true);
+    printNotes_->setStatusTip(tr("The report, its preview and its PDF end with a chapter of notes"));
 
     fill(menu(nullptr, "mnuHelp", "&Help"),
          {{"mnuContents", "&Contents", QKeySequence::HelpContents,

@@ -221,7 +221,7 @@ void MainWindow::print(int scope, PrintCommand command) {
         services_.messages.show("  Calculate before print  ");
         return;
     }
-    command(session_, scope, services_, this);
+    command(session_, scope, printNotes_->isChecked(), services_, this);
 }
 
 }  // namespace borvik

@@ -1,5 +1,6 @@
 #include "forms/printing.h"
 
+#include <QCheckBox>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <ctime>
 
 #include "platform/qt/qt_messages.h"
@@ -59,7 +61,7 @@ void prepare(QPrinter& printer, const Session& session, ReportScope scope) {
 
 /// Sends the pages that were asked for, as often as was asked for. Each copy begins with page 1.
 /// @return empty, or what went wrong
-QString send(QPrinter& printer, const Session& session, ReportScope scope) {
+QString send(QPrinter& printer, const Session& session, ReportScope scope, bool withNotes) {
     const bool someOnly = printer.printRange() == QPrinter::PageRange;
     const int first = someOnly ? std::max(1, printer.fromPage()) : 1;
     const int last = someOnly ? printer.toPage() : 0;
@@ -71,7 +73,7 @@ QString send(QPrinter& printer, const Session& session, ReportScope scope) {
     for (int copy = 1; copy <= copies; ++copy) {
         if (copy > 1) pages.newPage();
         PageRange range(pages, first, last);
-        PrintReport(range, session, scope, when);
+        PrintReport(range, session, scope, when, withNotes);
         if (!range.hasPages()) {
             printer.abort();
             return QObject::tr("The report has no page %1.").arg(first);
@@ -106,7 +108,7 @@ bool canPrint() {
     return true;
 }
 
-void printReport(Session& session, int scope, const Services& services, QWidget* parent) {
+void printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
@@ -114,12 +116,21 @@ void printReport(Session& session, int scope, const Services& services, QWidget*
     QPrintDialog dialog(&printer, parent);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+    QWidget chapters;
+    chapters.setWindowTitle(QObject::tr("Report"));  // the name of its tab
+    QCheckBox notes(QObject::tr("Notes for the checking engineer"), &chapters);
+    notes.setObjectName("chkPrintNotes");
+    notes.setChecked(withNotes);
+    auto* layout = new QVBoxLayout(&chapters);
+    layout->addWidget(&notes);
+    layout->addStretch();
+    dialog.setOptionTabs({&chapters});
     if (dialog.exec() != QDialog::Accepted) return;
-    if (const QString failed = send(printer, session, reportScope); !failed.isEmpty())
+    if (const QString failed = send(printer, session, reportScope, notes.isChecked()); !failed.isEmpty())
         services.messages.show(failed.toStdString());
 }
 
-void previewReport(Session& session, int scope, const Services& services, QWidget* parent) {
+void previewReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
@@ -128,20 +139,20 @@ void previewReport(Session& session, int scope, const Services& services, QWidge
     dialog.setWindowTitle(QObject::tr("Print preview"));
     if (parent != nullptr) dialog.resize(parent->window()->size());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
-        if (const QString failed = send(*target, session, reportScope); !failed.isEmpty())
+        if (const QString failed = send(*target, session, reportScope, withNotes); !failed.isEmpty())
             services.messages.show(failed.toStdString());
     });
     dialog.exec();
 }
 
-void saveReportAsPdf(Session& session, int scope, const Services& services, QWidget*) {
+void saveReportAsPdf(Session& session, int scope, bool withNotes, const Services& services, QWidget*) {
     if (!isReady(session, services)) return;
     const auto reportScope = static_cast<ReportScope>(scope);
     const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
     if (!file) return;
     const QString failed = savePdf(
-        QString::fromStdString(*file), [&](Printer& printer) { PrintReport(printer, session, reportScope, now()); },
-        defaultPageLayout(),
+        QString::fromStdString(*file),
+        [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); }, defaultPageLayout(),
         {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
     if (!failed.isEmpty()) services.messages.show(*file + ": " + failed.toStdString());
 }

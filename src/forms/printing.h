@@ -20,16 +20,17 @@ enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCo
 
 /// Prints the report of the last calculation on a printer that the user chooses, the pages and copies asked for.
 /// @param scope   1 ULS, 2 ULS+SLS, 3 ULS+SLS+FLS, 4 compressed
+/// @param withNotes  the report ends with the notes for the checking engineer; the dialog can still be told otherwise
 /// @param services  where messages and questions go
 /// @param parent  owner of the print dialog
-void printReport(Session& session, int scope, const Services& services, QWidget* parent);
+void printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 /// Shows the pages before they are printed, and prints them from there.
-void previewReport(Session& session, int scope, const Services& services, QWidget* parent);
+void previewReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 /// Saves the report as PDF to a file that the user chooses.
-void saveReportAsPdf(Session& session, int scope, const Services& services, QWidget* parent);
+void saveReportAsPdf(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 
 /// One of the three above.
-using PrintCommand = void (*)(Session& session, int scope, const Services& services, QWidget* parent);
+using PrintCommand = void (*)(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 
 /// False where this build has no spreadsheet export: the commands are then disabled.
 [[nodiscard]] bool canExportTable();

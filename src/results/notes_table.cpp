@@ -14,17 +14,12 @@ TableCell changedCell(const NoteChange& change, double number) {
     return cell;
 }
 
-std::string capital(std::string text) {
-    if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
-    return text;
-}
-
 std::vector<TableCell> rowOf(const Note& note) {
     const TableCell effect = textCell(nameOf(note.rule->effect)), text = textCell(noteText(note));
     if (note.finding.changes.empty())
         return {textCell(nameOf(note.rule->check)), textCell(""), textCell(""), effect, text};
     const NoteChange& first = note.finding.changes.front();
-    return {textCell(capital(first.what)), changedCell(first, first.shown), changedCell(first, first.other), effect,
+    return {textCell(capitalised(first.what)), changedCell(first, first.shown), changedCell(first, first.other), effect,
             text};
 }
 
@@ -32,7 +27,7 @@ std::vector<TableCell> rowOf(const Note& note) {
 std::string detailOf(const Note& note) {
     std::string text = noteText(note);
     for (std::size_t i = 1; i < note.finding.changes.size(); ++i)
-        text += "\n" + capital(changeText(note.finding.changes[i]));
+        text += "\n" + capitalised(changeText(note.finding.changes[i]));
     return text;
 }
 

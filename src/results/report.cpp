@@ -151,7 +151,7 @@ bool canReport(const Session& session) {
     return session.Calculated && session.results.has_value();
 }
 
-void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when) {
+void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when, bool withNotes) {
     ReportPage page(printer, headOf(session, when));
     Report report{page, session.project, session.context, *session.results};
     const DiagramData data{session.project, &*session.results};
@@ -159,6 +159,7 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
         PrintFull(report, data);
     else
         PrintPartial(report, data, scope);
+    if (withNotes) PrintNotes(page, ProjectNotes(session));
 }
 
 ReportTime reportTime(const std::tm& local) {

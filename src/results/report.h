@@ -31,8 +31,10 @@ inline constexpr const char* kCalculateBeforePrint = "  Calculate before print  
 [[nodiscard]] bool canReport(const Session& session);
 
 /// Writes the whole report, from page 1, on paper whose first page is empty.
+/// @param withNotes  the notes for the checking engineer as a last chapter; the others are the same with and without
 /// @pre canReport(session)
-void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when);
+void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
+                 bool withNotes = false);
 
 /// "beam-a-ULS-SLS.pdf": a name for the file of a report, from the project's file or, where it has none, its title.
 [[nodiscard]] std::string reportFileName(const Session& session, ReportScope scope);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calculation/session.h"
+#include "notes/notes.h"
 #include "results/report_page.h"
 
 namespace borvik {
@@ -37,5 +38,8 @@ void PrintResultsCompressed(Report& report);
 void PrintFlsCrane1(Report& report);
 /// With two cranes: the stress ranges of crane 2 that the rows take in; nothing where crane 2 was not walked by itself.
 void PrintFlsCrane2(Report& report);
+
+/// "Notes for the checking engineer:" on a new page: the notes in their order, then the assumptions.
+void PrintNotes(ReportPage& page, const Notes& notes);
 
 }  // namespace borvik

@@ -64,7 +64,7 @@ protected:
 TEST_F(CommandLine, wrongUseExitsWith2) {
     for (const char* arguments :
          {"", "--nonsense", "--default a.brvk", "--save x.brvk a.brvk b.brvk", "--default --fail-above much",
-          "--default --fail-above -1", "--default --walk slow", "--json"}) {
+          "--default --with-notes", "--default --fail-above -1", "--default --walk slow", "--json"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments;
         EXPECT_NE(outcome.err, "") << arguments;

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QTimer>
+#include <filesystem>
 #include <functional>
 
 #include "forms/window_support.h"
@@ -71,6 +73,32 @@ TEST(Printing, thePreviewShowsThePages) {
                           }));
     EXPECT_GE(pages, 3);
     EXPECT_TRUE(f.messages.texts.empty() || f.session.Calculated);
+}
+
+TEST(Printing, theNotesAreOfferedAndOffUnlessChosen) {
+    WindowFixture f;
+    f.click("cmdCalc");
+    const testing_support::TempFolder folder;
+    const auto sizeOfPdf = [&](const char* name) {
+        f.questions.toSave.push_back((folder.path() / name).string());
+        f.trigger("mnuPdfULS");
+        return std::filesystem::file_size(folder.path() / name);
+    };
+    const auto boxIsChecked = [&] {
+        bool checked = false;
+        EXPECT_TRUE(withModal([&] { f.trigger("mnuPrintULS"); },
+                              [&](QDialog& dialog) {
+                                  const auto* box = dialog.findChild<QCheckBox*>("chkPrintNotes");
+                                  ASSERT_NE(box, nullptr);
+                                  checked = box->isChecked();
+                              }));
+        return checked;
+    };
+    EXPECT_FALSE(boxIsChecked());
+    const auto without = sizeOfPdf("without.pdf");
+    f.trigger("mnuPrintNotes");
+    EXPECT_TRUE(boxIsChecked());
+    EXPECT_GT(sizeOfPdf("with.pdf"), without + 500);
 }
 
 TEST(Printing, thePdfIsWrittenWhereTheUserSays) {

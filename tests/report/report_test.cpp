@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 
+#include "notes/notes.h"
 #include "recording_printer.h"
 #include "results/tables.h"
 #include "samples.h"
@@ -24,9 +25,9 @@ const Session& sessionOf(Sample sample) {
     return found != sessions.end() ? found->second : sessions.emplace(sample, calculated(sample)).first->second;
 }
 
-RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4) {
+RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, bool withNotes = false) {
     RecordingPrinter printer(paper.width, paper.height);
-    PrintReport(printer, sessionOf(sample), scope, {"2026-03-01", "9:05"});
+    PrintReport(printer, sessionOf(sample), scope, {"2026-03-01", "9:05"}, withNotes);
     return printer;
 }
 
@@ -176,7 +177,7 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
     for (const Extent paper : {kA4, kLetter})
         for (const Sample sample : kSamples)
             for (const ReportScope scope : kScopes) {
-                const RecordingPrinter printer = printed(sample, scope, paper);
+                const RecordingPrinter printer = printed(sample, scope, paper, true);
                 for (const auto& page : printer.pages) {
                     const auto inDiagram = [&page](const RecordingPage::Covered& text) {
                         return std::any_of(page->boxes.begin(), page->boxes.end(), [&text](const auto& box) {
@@ -300,6 +301,19 @@ TEST(Report, longBeamsListTheirReactions) {
         EXPECT_EQ(firstMissing(text, rows), "") << int(scope);
     }
     EXPECT_EQ(printed(Sample::OneCrane, ReportScope::All).text().find("ULS - Reactions (kN)"), std::string::npos);
+}
+
+TEST(Report, notesAreALastChapterAndChangeNoOther) {
+    for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail}) {
+        const std::string without = printed(sample, ReportScope::All).text();
+        const std::string with = printed(sample, ReportScope::All, kA4, true).text();
+        ASSERT_TRUE(with.starts_with(without));
+        const std::string chapter = with.substr(without.size());
+        EXPECT_EQ(without.find("Notes for the checking engineer"), std::string::npos);
+        EXPECT_NE(chapter.find("Notes for the checking engineer:\n"), std::string::npos);
+        for (const Note& note : ProjectNotes(sessionOf(sample)).notes)
+            EXPECT_NE(chapter.find(std::string(note.rule->says).substr(0, 40)), std::string::npos) << note.rule->key;
+    }
 }
 
 TEST(Report, pageRangeKeepsPagesAndNumbersOfTheWhole) {

@@ -122,16 +122,22 @@ std::string changeText(const NoteChange& change) {
     return change.what + ": " + written(change, change.other) + " instead of " + written(change, change.shown);
 }
 
+std::string capitalised(std::string text) {
+    if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+    return text;
+}
+
+std::string largestChangeText(const Note& note) {
+    if (note.finding.changes.empty()) return {};
+    const std::string with = note.rule->with;
+    return capitalised((with.empty() ? "" : with + ", ") + changeText(note.finding.changes.front()));
+}
+
 std::string noteText(const Note& note) {
     const NoteRule& rule = *note.rule;
     std::string text = rule.says;
     if (!note.finding.remark.empty()) text += " Here: " + note.finding.remark + ".";
-    if (!note.finding.changes.empty()) {
-        std::string sentence = rule.with + std::string(*rule.with != '\0' ? ", " : "");
-        sentence += changeText(note.finding.changes.front()) + ".";
-        sentence[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(sentence[0])));
-        text += " " + sentence;
-    }
+    if (!note.finding.changes.empty()) text += " " + largestChangeText(note) + ".";
     if (*rule.clause != '\0') text += std::string(" (") + rule.clause + ")";
     return text;
 }

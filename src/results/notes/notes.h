@@ -81,6 +81,11 @@ struct Notes {
 
 /// A change in words: "patch load, span 2: 0.084 instead of 0.057".
 [[nodiscard]] std::string changeText(const NoteChange& change);
+/// The text with its first letter as a capital, for a text that begins a line.
+[[nodiscard]] std::string capitalised(std::string text);
+/// The largest change of a note with its other assumption: "With both, patch load, span 2: 0.084 instead of 0.057";
+/// empty where it has none.
+[[nodiscard]] std::string largestChangeText(const Note& note);
 /// The whole note in one line: what the program does, the project's own remark, the largest change, the clause.
 [[nodiscard]] std::string noteText(const Note& note);
 
