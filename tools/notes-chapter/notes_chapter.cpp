@@ -13,7 +13,7 @@ constexpr const char* kHeading = "## Notes for the checking engineer\n";
 constexpr const char* kIntroduction = R"(
 The program tells these where they matter in a project, under *Notes* in the window, with `borvik-calc --notes` and as a last chapter of the
 report: what it does, the number it shows, and what that number would be under the other assumption. Results are never changed. What always
-holds for a kind of project is an assumption, told without a number.
+holds for a kind of project is an assumption, told without a number. What stands in italics is the other assumption that the note's number rests on.
 
 "unsafe": the number shown can be too small. "either": it can be too small or too large. "information": ratios are right, something beside them
 is not.
@@ -33,21 +33,23 @@ constexpr Chapter kChapters[] = {{'A', "Loads and walk"},
                                  {'H', "What the rows show"},
                                  {'I', "What is not checked"}};
 
-/// The text as it stands in a cell, with what Markdown would read as its own signs escaped.
-std::string cell(const std::string& text) {
-    std::string escaped;
+/// The text with what Markdown would read as its own signs escaped.
+std::string escaped(const std::string& text) {
+    std::string safe;
     for (const char letter : text) {
-        if (std::string("|*_<").find(letter) != std::string::npos) escaped += '\\';
-        escaped += letter;
+        if (std::string("*_<^").find(letter) != std::string::npos) safe += '\\';
+        safe += letter;
     }
-    return escaped;
+    return safe;
 }
 
-std::string rowOf(const NoteRule& rule) {
-    std::string other = capitalised(rule.with);
-    if (rule.assumption) other = "Assumption";
-    return std::string("| ") + rule.key + " | " + cell(rule.says) + " | " + (other.empty() ? "-" : cell(other)) +
-           " | " + (*rule.clause == '\0' ? "-" : cell(rule.clause)) + " | " + nameOf(rule.effect) + " |\n";
+/// "- **D1**, unsafe. The patch load check ... *With both.* EN 1993-6 6.5"
+std::string entryOf(const NoteRule& rule) {
+    std::string text = std::string("- **") + rule.key + "**, " + nameOf(rule.effect) +
+                       (rule.assumption ? ", assumption" : "") + ". " + escaped(rule.says);
+    if (*rule.with != '\0') text += " *" + escaped(capitalised(rule.with)) + ".*";
+    if (*rule.clause != '\0') text += std::string(" ") + rule.clause;
+    return text + "\n";
 }
 
 }  // namespace
@@ -55,10 +57,9 @@ std::string rowOf(const NoteRule& rule) {
 std::string NotesChapter() {
     std::string text = std::string(kHeading) + kIntroduction;
     for (const Chapter& chapter : kChapters) {
-        text += std::string("\n### Notes: ") + chapter.title +
-                "\n\n| Key | What the program does | The note's number | Clause | Effect |\n|---|---|---|---|---|\n";
+        text += std::string("\n### Notes: ") + chapter.title + "\n\n";
         for (const NoteRule& rule : noteRules())
-            if (rule.key[0] == chapter.letter) text += rowOf(rule);
+            if (rule.key[0] == chapter.letter) text += entryOf(rule);
     }
     return text + "\n";
 }

@@ -5,7 +5,7 @@
 namespace borvik {
 
 /// The chapter "Notes for the checking engineer" of the theory manual in Markdown: every note and every assumption of the
-/// catalogue, a table for each of its chapters.
+/// catalogue, a list for each of its chapters.
 [[nodiscard]] std::string NotesChapter();
 
 /// The manual with its chapter of notes as the catalogue has it: what stands from the chapter's heading to the next one of
