@@ -143,10 +143,6 @@ std::optional<NoteFinding> horizontalLoad(const Session& session) {
     return matters(std::any_of(H.begin(), H.end(), [](Single load) { return load != 0; }));
 }
 
-std::optional<NoteFinding> monorail(const Session& session) {
-    return matters(session.project.CraneType != 1);
-}
-
 constexpr NoteRule kRules[]{
     {"F1", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
      "The program's own C1, C2 and C3 are the same for every moment diagram, although the critical moment depends on "
@@ -172,7 +168,7 @@ constexpr NoteRule kRules[]{
     {"F7", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
      "The supports of a monorail are taken to hold both flanges sideways, which a beam hung at its top flange needs "
      "stiffeners for.",
-     "", "EN 1993-6 6.3.2", monorail, true},
+     "", "EN 1993-6 6.3.2", ofMonorails, true},
 };
 
 }  // namespace

@@ -54,13 +54,6 @@ std::optional<NoteFinding> positionOfFirstSpan(const Session& session) {
                              checks.DefZSpan(span)(5) + " mm");
 }
 
-std::optional<NoteFinding> overhead(const Session& session) {
-    return matters(session.project.CraneType == 1);
-}
-std::optional<NoteFinding> monorail(const Session& session) {
-    return matters(session.project.CraneType != 1);
-}
-
 constexpr NoteRule kRules[]{
     {"E1", NoteCheck::Deflection, NoteEffect::Unsafe,
      "The horizontal deflection is that of the whole section, at its shear centre; the load acts on one flange and the "
@@ -71,10 +64,10 @@ constexpr NoteRule kRules[]{
      "EN 1993-6 Table 7.2", absoluteLimit},
     {"E3a", NoteCheck::Deflection, NoteEffect::Either,
      "The difference of the deflections of both runways of a crane is not checked.", "", "EN 1993-6 Table 7.2",
-     overhead, true},
+     ofOverheadCranes, true},
     {"E3b", NoteCheck::Deflection, NoteEffect::Either,
      "The deflection of a hoist's beam under the payload alone is not checked against a limit of its own.", "",
-     "EN 1993-6 Table 7.2", monorail, true},
+     "EN 1993-6 Table 7.2", ofMonorails, true},
     {"E4", NoteCheck::Deflection, NoteEffect::Either,
      "Deflections are calculated without dynamic factor, which some national annexes want.", "with it",
      "EN 1991-3 2.2.2", withDynamicFactor},

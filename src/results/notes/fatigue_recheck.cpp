@@ -7,6 +7,7 @@
 
 #include "analysis/walk.h"
 #include "fatigue/wheel_stress.h"
+#include "notes/note_rules.h"
 
 namespace borvik {
 
@@ -48,9 +49,7 @@ FatigueRecheck alone(const FatigueRecheck& recheck, const StressSet& set, const 
 }
 
 StressSet walked(const Project& project, RunLoads& loads, const History& history, const CraneFactors& factors) {
-    struct : Messages {
-        void show(const std::string&) override {}
-    } silent;
+    SilentMessages silent;
     Progress progress;
     loads.NCranes = 1;
     return stressHistory(history, project, RunFls(project, loads, WalkMethod::Fast, silent, progress), factors);

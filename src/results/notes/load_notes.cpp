@@ -9,16 +9,6 @@ namespace borvik {
 
 namespace {
 
-std::optional<NoteFinding> always(const Session&) {
-    return matters(true);
-}
-std::optional<NoteFinding> overhead(const Session& session) {
-    return matters(session.project.CraneType == 1);
-}
-std::optional<NoteFinding> monorail(const Session& session) {
-    return matters(session.project.CraneType != 1);
-}
-
 /// One crane alone; the second one's wheels take the place of the first one's.
 void keepCrane(Session& session, int crane) {
     Project& p = session.project;
@@ -80,9 +70,7 @@ std::optional<NoteFinding> betweenTheSteps(const Session& session) {
 template <class Change>
 std::optional<Session> underOtherLoads(const Session& session, Change change) {
     if (!quicklyWalked(session)) return std::nullopt;
-    struct : Messages {
-        void show(const std::string&) override {}
-    } silent;
+    SilentMessages silent;
     Progress progress;
     Session copy = session;
     RunLoads loads;
@@ -172,7 +160,7 @@ constexpr NoteRule kRules[]{
      "One group of loads is calculated, each crane with one dynamic factor for V and one for H; the other groups "
      "(skewing, "
      "buffers, test load) are projects of their own.",
-     "", "EN 1991-3 2.4, Table 2.2", overhead, true},
+     "", "EN 1991-3 2.4, Table 2.2", ofOverheadCranes, true},
     {"A2", NoteCheck::General, NoteEffect::Unsafe,
      "With two cranes on the beam neither is walked alone, though the second one can relieve a span.",
      "with the worse crane alone", "EN 1991-3 2.5.4", oneCraneAlone},
@@ -191,7 +179,7 @@ constexpr NoteRule kRules[]{
      "with that lever", "EN 1993-6 5.6.1, EN 1991-3 2.5.2.1", leverOfHorizontalLoad},
     {"A6a", NoteCheck::General, NoteEffect::Unsafe,
      "Torsion by wheel loads that stand beside the web is left out of the beam's stresses.", "",
-     "EN 1991-3 2.5.2.1, EN 1993-6 5.6.1", overhead, true},
+     "EN 1991-3 2.5.2.1, EN 1993-6 5.6.1", ofOverheadCranes, true},
     {"A7", NoteCheck::General, NoteEffect::Either,
      "Supports are rigid and pinned in both planes and do not settle, the section of a span is constant, shear "
      "deformation "
@@ -203,7 +191,7 @@ constexpr NoteRule kRules[]{
     {"A9", NoteCheck::WheelLoad, NoteEffect::Unsafe,
      "V of a hoist is the load of a pair of wheels, one on each side of the web; the checks of the flange take half of "
      "it.",
-     "", "EN 1993-6 5.8, 6.7", monorail, true},
+     "", "EN 1993-6 5.8, 6.7", ofMonorails, true},
 };
 
 }  // namespace

@@ -9,14 +9,6 @@ namespace borvik {
 
 namespace {
 
-std::optional<NoteFinding> always(const Session&) {
-    return matters(true);
-}
-
-std::optional<NoteFinding> overhead(const Session& session) {
-    return matters(session.project.CraneType == 1);
-}
-
 /// The number of a span and the value there, where some span passes the limit: "250.3 in span 2".
 template <class Value>
 std::optional<NoteFinding> beyond(const Session& session, const char* what, double limit, Value value) {
@@ -100,7 +92,7 @@ constexpr NoteRule kRules[]{
      "EN 1991-3 2.7 and 2.11, EN 1993-1-1 6.3.3", always, true},
     {"I6", NoteCheck::WheelLoad, NoteEffect::Unsafe,
      "The rail, its clips and the welds of rail and flange are not checked in the ultimate limit state.", "",
-     "EN 1993-6 8", overhead, true},
+     "EN 1993-6 8", ofOverheadCranes, true},
     {"I8", NoteCheck::Section, NoteEffect::Unsafe,
      "The choice of the steel's toughness for its thickness is not checked.", "", "EN 1993-1-10", thickProduct},
 };

@@ -30,6 +30,17 @@ namespace borvik {
     return NoteFinding{{}, std::move(remark)};
 }
 
+// Rules that hold for every project, or for every one of a kind.
+[[nodiscard]] inline std::optional<NoteFinding> always(const Session&) {
+    return matters(true);
+}
+[[nodiscard]] inline std::optional<NoteFinding> ofOverheadCranes(const Session& session) {
+    return matters(session.project.CraneType == 1);
+}
+[[nodiscard]] inline std::optional<NoteFinding> ofMonorails(const Session& session) {
+    return matters(session.project.CraneType != 1);
+}
+
 /// A finding of one ratio.
 [[nodiscard]] inline NoteFinding changed(std::string what, double shown, double other) {
     return NoteFinding{{{std::move(what), shown, other}}, ""};
@@ -52,6 +63,11 @@ namespace borvik {
     return std::string(what) + ", span " + std::to_string(span);
 }
 
+/// For calculations that the user has not asked for.
+struct SilentMessages : Messages {
+    void show(const std::string&) override {}
+};
+
 /// Whether the cranes have so few positions that a reader of notes doesn't wait for another walk.
 [[nodiscard]] inline bool quicklyWalked(const Session& session) {
     constexpr double kMostPositions = 2e7;  // two cranes on 30 spans of 30 m have half of it and take 0.1 s
@@ -63,9 +79,7 @@ namespace borvik {
 template <class Change>
 [[nodiscard]] std::optional<Session> recalculated(const Session& session, Change change) {
     if (!quicklyWalked(session)) return std::nullopt;
-    struct : Messages {
-        void show(const std::string&) override {}
-    } silent;
+    SilentMessages silent;
     Progress progress;
     Session copy = session;
     change(copy);
