@@ -91,7 +91,9 @@ void takeForms(Camera& camera, Session& session, Messages& messages) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a display forms are kept within a small screen.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QElapsedTimer sinceStart;
     sinceStart.start();
     QApplication application(argc, argv);
