@@ -58,6 +58,7 @@ const NoteCase kCases[]{
          session.project.H(1) = 20;
      },
      oneWheelOnSixMetres, "bending, span 1", 0.7379, 0.7919},
+    {"A6a", {}, [](Session& session) { session.project.CraneType = 2; }},
     {"A8",
      [](Session& session) {
          oneWheelOnSixMetres(session);
@@ -166,8 +167,8 @@ TEST(SectionNotes, ANarrowBottomFlangeTwistsMore) {
                                        "B2");
         return finding && !finding->changes.empty() ? finding->changes[0] : NoteChange{};
     };
-    // It = (20^3 x 600 + 12^3 x 560)/3 = 1922.6e3, with its own width (20^3 x 450 + ...)/3 = 1522.6e3 mm4; Mcr 446.3 and
-    // 408.2 kNm, Wpl,y fyk = 1194.0 kNm, chi 0.3417 and 0.3188; My = 300.
+    // It = (20^3 x 600 + 12^3 x 560)/3 = 1922.6e3, with its own width (20^3 x 450 + ...)/3 = 1522.6e3 mm4; Mcr 446.3
+    // and 408.2 kNm, Wpl,y fyk = 1194.0 kNm, chi 0.3417 and 0.3188; My = 300.
     EXPECT_NEAR(changeAt(150).shown, 0.7353, 0.0005);
     EXPECT_NEAR(changeAt(150).other, 0.7881, 0.0005);
     EXPECT_GT(changeAt(150).growth(), changeAt(250).growth());
