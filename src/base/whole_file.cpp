@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -57,6 +58,10 @@ std::string readFile(const std::string& path) {
 #if __has_include(<unistd.h>)
 
 namespace {
+
+// Of the file that is written beside its target; the process and a number stand between them.
+constexpr const char* kTemporaryPrefix = ".borvik-";
+constexpr const char* kTemporarySuffix = ".tmp";
 
 /// An open file of the system, closed at the end.
 class Descriptor {
@@ -126,7 +131,8 @@ public:
 private:
     Descriptor create(const fs::path& folder) {
         for (int i = 0;; ++i) {
-            path_ = folder / (".borvik-" + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp");
+            path_ =
+                folder / (kTemporaryPrefix + std::to_string(::getpid()) + "-" + std::to_string(i) + kTemporarySuffix);
             const int number = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
             if (number >= 0) return Descriptor(number);
             if (errno != EEXIST) fail(errno);
@@ -135,6 +141,20 @@ private:
     fs::path path_;
     Descriptor descriptor_;
 };
+
+/// Removes what killed saves have left in a folder: what is older than a day, so that a file that is being written just
+/// now, here or on another machine, is never touched.
+void removeLeftovers(const fs::path& folder) {
+    std::error_code failed;
+    const auto yesterday = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+        const std::string name = entry->path().filename().string();
+        if (!name.starts_with(kTemporaryPrefix) || !name.ends_with(kTemporarySuffix)) continue;
+        std::error_code ignored;
+        const auto written = entry->last_write_time(ignored);
+        if (!ignored && written < yesterday) fs::remove(entry->path(), ignored);
+    }
+}
 
 }  // namespace
 
@@ -157,6 +177,7 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     // the rename itself reaches the disk with its folder; the file is whole in any case, so a refusal here is no fault
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_CLOEXEC));
     if (opened.number() >= 0) ::fsync(opened.number());
+    removeLeftovers(folder);
 }
 
 #else

@@ -11,7 +11,8 @@ namespace borvik {
 /// Writes `bytes` over the start of a file; what the file has beyond them stays. A file that doesn't exist is made.
 /// The new content is written beside the file, flushed and renamed, so that at any moment, also after a power cut or on
 /// a full disk, there is the old file or the new one, whole. The file keeps its permissions and, where the system
-/// allows it, its owner; of a symbolic link the file that it points to is replaced.
+/// allows it, its owner; of a symbolic link the file that it points to is replaced. What a killed save has left in the
+/// folder is removed a day later.
 /// @throws std::system_error  with the system's reason; the file is then as it was, and nothing is left beside it
 void overwriteFile(const std::string& path, const std::string& bytes);
 

@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -117,6 +118,19 @@ TEST(OverwriteFile, onAFullDiskTheOldFileStays) {
     }
     EXPECT_EQ(bytesOf(path), old);
     EXPECT_EQ(folder.count(), 1) << "something was left beside the file";
+}
+
+TEST(OverwriteFile, removesWhatKilledSavesHaveLeftADayAgo) {
+    const TempFolder folder;
+    const fs::path old = folder.path() / ".borvik-1-0.tmp", fresh = folder.path() / ".borvik-2-0.tmp";
+    const fs::path foreign = folder.path() / "old.tmp";
+    for (const fs::path& file : {old, fresh, foreign}) writeBytes(file, "half a project");
+    for (const fs::path& file : {old, foreign})
+        fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    overwriteFile((folder.path() / "beam.brvk").string(), "project");
+    EXPECT_FALSE(fs::exists(old));
+    EXPECT_TRUE(fs::exists(fresh)) << "another save may be writing it";
+    EXPECT_TRUE(fs::exists(foreign));
 }
 
 TEST(OverwriteFile, refusesWhatIsNoFile) {
