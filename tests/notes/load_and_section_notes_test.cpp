@@ -115,31 +115,39 @@ TEST(LoadNotes, AWheelBetweenTheStepsIsFound) {
 }
 
 TEST(LoadNotes, ACraneAloneCanBeWorse) {
-    const auto cranes = [](int first, int last) {
-        return [=](Session& session) {
-            oneWheel(session, 2, 6000);
-            Project& project = session.project;
-            project.NofCranes = static_cast<std::int16_t>(last - first + 1);
-            project.MinAvst = 4000;
-            if (first == 2) {
-                project.V(1) = project.V(2) = 60;
-                project.Avst(1) = 3000;
-            } else if (last == 2) {
-                project.V(5) = project.V(6) = 60;
-                project.Avst(4) = 3000;
-            }
-        };
-    };
-    const Session both = calculated(cranes(1, 2));
     const auto bending = [](const Session& session) {
         const auto& rows = session.results->Checks.BendSpan;
         return std::max(rows(1).Ratio, rows(2).Ratio);
     };
-    const double alone = std::max(bending(calculated(cranes(1, 1))), bending(calculated(cranes(2, 2))));
-    ASSERT_GT(alone, bending(both));
-    const NoteChange change = changeOf(findingOf(both, "A2"), "bending");
-    EXPECT_NEAR(change.shown, bending(both), 1e-6);
-    EXPECT_NEAR(change.other, alone, 1e-6);
+    for (const bool fixed : {false, true}) {
+        const double gap = fixed ? 1000 : 3000;
+        const auto cranes = [=](int first, int last) {
+            return [=](Session& session) {
+                oneWheel(session, 2, 6000);
+                Project& project = session.project;
+                project.NofCranes = static_cast<std::int16_t>(last - first + 1);
+                project.PsiV2 = 1;
+                if (first != last) project.MinAvst = fixed ? 7000 : 4000;
+                if (first == 2) {
+                    project.V(1) = project.V(2) = 60;
+                    project.Avst(1) = gap;
+                } else {
+                    project.V(1) = fixed ? 30 : 100;
+                    if (last == 2) {
+                        project.V(5) = project.V(6) = 60;
+                        project.Avst(4) = gap;
+                    }
+                }
+                if (fixed) standsAt(session, first == 2 ? 8000 : 1000);
+            };
+        };
+        const Session both = calculated(cranes(1, 2));
+        const double alone = std::max(bending(calculated(cranes(1, 1))), bending(calculated(cranes(2, 2))));
+        ASSERT_GT(alone, bending(both));
+        const NoteChange change = changeOf(findingOf(both, "A2"), "bending");
+        EXPECT_NEAR(change.shown, bending(both), 1e-6);
+        EXPECT_NEAR(change.other, alone, 1e-6);
+    }
     EXPECT_FALSE(findingOf(calculated(), "A2"));
 }
 

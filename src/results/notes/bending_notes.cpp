@@ -212,8 +212,7 @@ constexpr NoteRule kRules[]{
      shearWithUnequalFlanges},
     {"C6", NoteCheck::Section, NoteEffect::Unsafe,
      "The moment resistance beside a large shear is not limited below, and a negative one gives a negative ratio, "
-     "which "
-     "never governs.",
+     "which never governs.",
      "", "EN 1993-1-1 6.2.8", noMomentLeft},
     {"C7", NoteCheck::Section, NoteEffect::Information,
      "The rows of a span show the cranes at the largest moment, and crane 2 at the largest shear, also where the "

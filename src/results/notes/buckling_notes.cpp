@@ -157,13 +157,11 @@ constexpr NoteRule kRules[]{
      "", "EN 1993-1-1 6.3.2.3", curveOfSection},
     {"F4", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
      "A horizontal load bends the loaded flange alone, in place of torsion: the interaction has no bimoment, no "
-     "factors "
-     "kw, kzw and kalpha, and CMz = 1.",
+     "factors kw, kzw and kalpha, and CMz = 1.",
      "", "EN 1993-6 6.3.2.3, Annex A", horizontalLoad, true},
     {"F5", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
      "The largest My and the most negative support moment of a span are looked at with the Mz that acts there; a "
-     "larger "
-     "Mz beside a slightly smaller My is not.",
+     "larger Mz beside a slightly smaller My is not.",
      "at every point and recorded position", "EN 1993-1-1 6.3.3, EN 1993-6 Annex A", pairElsewhere},
     {"F7", NoteCheck::LateralBuckling, NoteEffect::Unsafe,
      "The supports of a monorail are taken to hold both flanges sideways, which a beam hung at its top flange needs "

@@ -50,8 +50,7 @@ constexpr NoteRule kRules[]{
      "with the larger stress of the two beside it", "", spliceOffThePoints},
     {"G11", kFatigue, kUnsafe,
      "With simultaneous action the weld of top flange and web mixes factors: the stress under the wheels of crane 1 "
-     "has "
-     "the factor of both cranes, two classes lower, and fillets carry the web's shear without their throats.",
+     "has the factor of both cranes, two classes lower, and fillets carry the web's shear without their throats.",
      "with each crane's own factors", "EN 1993-6 9.4.2", mixedFactors},
     {"G12", kFatigue, kEither,
      "With simultaneous action the weld of bottom flange and web is multiplied by tw/(2a) of W1 on top of its own, and "

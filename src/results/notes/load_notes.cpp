@@ -9,10 +9,12 @@ namespace borvik {
 
 namespace {
 
-/// One crane alone; the second one's wheels take the place of the first one's.
+/// One crane alone, as far as the end of the beam; the second one's wheels take the place of the first one's, and a
+/// crane that stands still stays where it stood.
 void keepCrane(Session& session, int crane) {
     Project& p = session.project;
     if (crane == 2) {
+        if (p.Fixerad) p.Position = p.Position + p.CraneLength1 + p.MinAvst;
         for (int wheel = 1; wheel <= 4; ++wheel) {
             p.V(wheel) = p.V(wheel + 4);
             p.H(wheel) = p.H(wheel + 4);
@@ -24,6 +26,7 @@ void keepCrane(Session& session, int crane) {
     }
     for (int wheel = 5; wheel <= 8; ++wheel) p.V(wheel) = p.H(wheel) = 0;
     for (int gap = 4; gap <= 6; ++gap) p.Avst(gap) = 0;
+    p.MinAvst = 0;
     p.NofCranes = 1;
 }
 
@@ -158,16 +161,14 @@ std::optional<NoteFinding> horizontalOnWheelSix(const Session& session) {
 constexpr NoteRule kRules[]{
     {"A1", NoteCheck::General, NoteEffect::Unsafe,
      "One group of loads is calculated, each crane with one dynamic factor for V and one for H; the other groups "
-     "(skewing, "
-     "buffers, test load) are projects of their own.",
+     "(skewing, buffers, test load) are projects of their own.",
      "", "EN 1991-3 2.4, Table 2.2", ofOverheadCranes, true},
     {"A2", NoteCheck::General, NoteEffect::Unsafe,
      "With two cranes on the beam neither is walked alone, though the second one can relieve a span.",
      "with the worse crane alone", "EN 1991-3 2.5.4", oneCraneAlone},
     {"A3", NoteCheck::General, NoteEffect::Unsafe,
      "The cranes move in steps of 200 mm and forces are taken at 21 points of a span, so that a wheel can stand beside "
-     "the "
-     "worst place.",
+     "the worst place.",
      "with positions every 50 mm", "", betweenTheSteps},
     {"A4", NoteCheck::General, NoteEffect::Unsafe,
      "Dead load has its unfavourable factor also where it relieves the beam.", "with a factor of 1.0 on dead load",
@@ -182,8 +183,7 @@ constexpr NoteRule kRules[]{
      "EN 1991-3 2.5.2.1, EN 1993-6 5.6.1", ofOverheadCranes, true},
     {"A7", NoteCheck::General, NoteEffect::Either,
      "Supports are rigid and pinned in both planes and do not settle, the section of a span is constant, shear "
-     "deformation "
-     "is left out.",
+     "deformation is left out.",
      "", "", always, true},
     {"A8", NoteCheck::General, NoteEffect::Information,
      "A horizontal load on wheel 6 alone is in the checks, but its diagrams and tables are not offered.", "", "",

@@ -215,8 +215,7 @@ constexpr NoteRule kRules[]{
      "at such an end", "EN 1993-6 6.7, Table 6.2", atFreeEnd},
     {"D7", NoteCheck::WheelLoad, NoteEffect::Unsafe,
      "The beam's stress beside a hoist's wheel leaves out Mz and counts the partial factor the wrong way, and the "
-     "largest "
-     "wheel distance counts.",
+     "largest wheel distance counts.",
      "otherwise", "EN 1993-6 6.7", flangeStressOfBeam},
     {"D8", NoteCheck::VonMises, NoteEffect::Unsafe,
      "The stress in the bottom flange takes wheel and moments without dynamic factor.", "with it",
