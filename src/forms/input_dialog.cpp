@@ -151,6 +151,10 @@ void fillPropertyList(QTreeWidget* list, const std::vector<PropertyRow>& rows) {
             item->setFont(0, bold);
         }
     }
+    const QAbstractItemView& cells = *list;
+    int width = 2 * list->frameWidth();
+    for (int column = 0; column < list->columnCount(); ++column) width += cells.sizeHintForColumn(column);
+    list->setMinimumWidth(std::max(list->minimumWidth(), width));  // units are not cut off
 }
 
 }  // namespace borvik

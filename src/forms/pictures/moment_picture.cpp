@@ -38,11 +38,10 @@ PicturePainter momentPicture(MomentZone zone) {
             painter.setPen(penOf(ink.line));
             painter.drawPolygon(QPolygonF{{top, top + QPointF(-foot, 1.6 * foot), top + QPointF(foot, 1.6 * foot)}});
         }
-        const double middle = left + span * (end ? 0.5 : 1.5);
-        const double support = left + span;
-        drawTextAt(painter, positive ? QPointF(middle, axis + sag * 0.5) : QPointF(support - foot, axis - hog * 0.45),
-                   positive ? QStringLiteral("+") : QStringLiteral("–"),
-                   positive ? Qt::Alignment(Qt::AlignCenter) : Qt::AlignRight | Qt::AlignVCenter);
+        // The sign stands in the marked area: in mid span, or beside the first inner support.
+        const double x = positive ? (end ? 0.5 : 1.5) : (end ? 0.91 : 1.09);
+        drawTextAt(painter, {left + span * x, positive ? axis + 0.5 * sag : axis - 0.2 * hog},
+                   positive ? QStringLiteral("+") : QStringLiteral("–"));
     };
 }
 

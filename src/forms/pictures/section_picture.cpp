@@ -1,5 +1,6 @@
 #include "pictures/section_picture.h"
 
+#include <QPainterPath>
 #include <algorithm>
 
 #include "base/number_text.h"
@@ -22,18 +23,45 @@ QString dimensionText(const char* symbol, double value, const char* mask) {
     return QString::fromUtf8(symbol) + QString::fromStdString(formatNumber(value, mask)) + QStringLiteral(" mm");
 }
 
-/// A rolled section is one piece with its roots; a welded one three plates.
+/// One piece, its roots rounded between web and flanges.
+QPainterPath rolledOutline(const Frame& frame, const SectionRecord& s) {
+    const double h = s.h, b1 = s.b1, b2 = s.b2, tw = s.tw, tf1 = s.tf1, tf2 = s.tf2, R = s.R;
+    QPainterPath outline(frame.at(-b1 / 2, h));
+    const auto lineTo = [&](double x, double y) { outline.lineTo(frame.at(x, y)); };
+    const auto root = [&](double side, double y, double fromAngle) {
+        const QPointF centre = frame.at(side * (tw / 2 + R), y), corner(R * frame.scale, R * frame.scale);
+        outline.arcTo(QRectF(centre - corner, centre + corner), fromAngle, 90);
+    };
+    lineTo(b1 / 2, h);
+    lineTo(b1 / 2, h - tf1);
+    root(1, h - tf1 - R, 90);
+    root(1, tf2 + R, 180);
+    lineTo(b2 / 2, tf2);
+    lineTo(b2 / 2, 0);
+    lineTo(-b2 / 2, 0);
+    lineTo(-b2 / 2, tf2);
+    root(-1, tf2 + R, 270);
+    root(-1, h - tf1 - R, 0);
+    lineTo(-b1 / 2, h - tf1);
+    outline.closeSubpath();
+    return outline;
+}
+
+/// A rolled section is one piece; a welded one three plates with their welds.
 void drawSection(QPainter& painter, const Frame& frame, const SectionRecord& s, const Ink& ink) {
     const double h = s.h, b1 = s.b1, b2 = s.b2, tw = s.tw, tf1 = s.tf1, tf2 = s.tf2;
     painter.setPen(penOf(ink.line, 1.2));
     painter.setBrush(ink.steel);
+    if (s.Fab != "W" && s.R > 0) {
+        painter.drawPath(rolledOutline(frame, s));
+        return;
+    }
     painter.drawRect(frame.plate(-tw / 2, tf2, tw, h - tf1 - tf2));
     painter.drawRect(frame.plate(-b2 / 2, 0, b2, tf2));
     painter.drawRect(frame.plate(-b1 / 2, h - tf1, b1, tf1));
     const double leg = s.R * frame.scale;
-    const bool welded = s.Fab == "W";
-    painter.setBrush(welded ? ink.weld : ink.steel);
-    painter.setPen(penOf(welded ? ink.weld : ink.steel));
+    painter.setBrush(ink.weld);
+    painter.setPen(penOf(ink.weld));
     for (const double side : {-1.0, 1.0}) {
         drawFillet(painter, frame.at(side * tw / 2, h - tf1), side * leg, leg);
         drawFillet(painter, frame.at(side * tw / 2, tf2), side * leg, -leg);
