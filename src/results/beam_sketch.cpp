@@ -48,8 +48,8 @@ void drawSupports(DiagramCanvas& canvas, double base, bool below) {
     }
 }
 
-/// Number, " - " and name of each distinct section, in as many lines as they need. @return top of the legend
-double drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
+/// Number, " - " and name of each distinct section, in as many lines as they need, at the foot of the drawing.
+void drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
     DrawingSurface& surface = canvas.surface;
     const double bottom = canvas.Y0 + canvas.layout.area.bottom - 2.0;
     const double room = 0.4 * (canvas.layout.area.bottom - canvas.layout.bases[0]);
@@ -66,10 +66,11 @@ double drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) 
     }
     const double top = bottom - static_cast<double>(lines.size()) * surface.textHeight();
     surface.setColour(colours::black);
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        surface.text({canvas.X0, top + static_cast<double>(i) * surface.textHeight()}, lines[i]);
-    canvas.labels.keepClear({canvas.X0, top, canvas.X0 + 1000.0, bottom});
-    return top;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const Place corner{canvas.X0, top + static_cast<double>(i) * surface.textHeight()};
+        surface.text(corner, lines[i]);
+        canvas.labels.keepClear({corner.x, corner.y, corner.x + surface.textWidth(lines[i]), bottom});
+    }
 }
 
 void addSpanLabels(DiagramCanvas& canvas, const DistinctSections& sections, double base, bool below) {

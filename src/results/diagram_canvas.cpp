@@ -40,10 +40,10 @@ DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode) {
     const bool screen = mode == DiagramMode::Screen;
     switch (shapeOf(diagram)) {
         case Shape::Sketch:
-            return screen ? DiagramLayout{{0.0, 140.0}, {80.0}} : DiagramLayout{{-10.0, 88.0}, {47.0}};
+            return screen ? DiagramLayout{{0.0, 140.0}, {80.0}} : DiagramLayout{{-10.0, 88.0}, {50.0}};
         case Shape::Forces:
             return screen ? DiagramLayout{{0.0, 268.0}, {76.0, 190.0}, 248.0}
-                          : DiagramLayout{{-10.0, 196.0}, {52.0, 134.0}, 182.0};
+                          : DiagramLayout{{-10.0, 199.0}, {59.0, 139.0}, 186.0};
         case Shape::Deflection:
             return screen ? DiagramLayout{{80.0, 188.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {20.0}};
         case Shape::Stress:

@@ -130,7 +130,8 @@ std::vector<LabelPlacer::Candidate> LabelPlacer::candidates(const DrawingSurface
             const double gap = (kGap + away) * em.y;
             const double top = below ? label.anchor.y + gap : label.anchor.y - gap - size.height;
             if (top < frame_.top || top + size.height > frame_.bottom) break;
-            for (const double shift : kShifts) {
+            for (const double toTheLeft : kShifts) {  // of two places as good as each other the first one is taken
+                const double shift = label.toTheRight ? -toTheLeft : toTheLeft;
                 if (label.optional && shift != 0.0) break;  // it must be plain what it belongs to
                 const double left = label.anchor.x + (shift - 0.5) * size.width;
                 const Box box = inside({left, top, left + size.width, top + size.height});

@@ -26,6 +26,7 @@ struct Label {
     std::optional<Place> firstChoice = {};  ///< upper left corner, where that place is free
     Colour colour = colours::black;
     bool keepSide = false;     ///< never on the other side of the anchor
+    bool toTheRight = false;   ///< aside of the anchor rather to the right of it than to the left
     bool optional = false;     ///< may be left out silently where there is no room
     std::string circled = {};  ///< a number in a circle in front of the first line
 };

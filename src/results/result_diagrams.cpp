@@ -46,6 +46,7 @@ void addPeakLabels(DiagramCanvas& canvas, const Panel& panel, double base, doubl
     for (const PeakLabel* peak : peaks) {
         const double offset = offsetOf(panel, peak->value, largest);
         Label label{{peak->text}, {canvas.x(peak->span, peak->position), base + offset}, offset > 0.0};
+        label.toTheRight = peak->position == 0;  // its span lies there
         if (panel.upwards ==
             Upwards::Never) {  // a deflection is written in the middle of its span, below the deepest curve
             label.anchor.y = base + kAmplitude;
