@@ -4,6 +4,7 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "camera.h"
 #include "forms/dialogs.h"
 #include "forms/frm_about.h"
 #include "forms/frm_detailed_result.h"
@@ -13,22 +14,15 @@
 #include "pictures/fatigue_pictures.h"
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
+#include "tutorial.h"
 
-/// Takes the pictures of the windows for the documents, from a project calculated in the real main window.
+/// Takes the pictures of the windows for the documents, from a project calculated in the real main window, and those of
+/// the tutorial, whose project is saved beside them as tutorial.brvk.
 /// Usage: borvik-screenshots FOLDER [PROJECT.brvk [WIDTH HEIGHT]] [--dark]
 
 namespace {
 
 using namespace borvik;
-
-class NoQuestions : public Questions {
-public:
-    Answer yesNoCancel(const std::string&) override { return Answer::No; }
-    std::optional<std::string> fileToOpen(const std::string&) override { return std::nullopt; }
-    std::optional<std::string> fileToSave(const std::string&, const std::string&, const std::string&) override {
-        return std::nullopt;
-    }
-};
 
 QPalette darkPalette() {
     QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
@@ -39,19 +33,6 @@ QPalette darkPalette() {
     dark.setColor(QPalette::ToolTipText, Qt::white);
     return dark;
 }
-
-class Camera {
-public:
-    explicit Camera(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
-    void take(QWidget& widget, const QString& name) {
-        QApplication::processEvents();
-        const QString path = folder_.filePath(name + ".png");
-        if (!widget.grab().save(path)) std::cerr << "can't write " << path.toStdString() << '\n';
-    }
-
-private:
-    QDir folder_;
-};
 
 void choose(QWidget& window, const QString& node) {
     auto* tree = window.findChild<ResultTreeView*>("TreeView1");
@@ -165,5 +146,6 @@ int main(int argc, char** argv) {
 
     window.projectChanged("Material");
     camera.take(window, "main-out-of-date");
+    takeTutorial(camera);
     return 0;
 }
