@@ -178,14 +178,17 @@ std::optional<LabelPlacer::Placed> LabelPlacer::place(const DrawingSurface& surf
 }
 
 LabelPlacer::Attempt LabelPlacer::placeAll(const DrawingSurface& surface, const Effort& effort) const {
-    std::vector<Box> taken = taken_;
     const double beside = kBeside * emOf(surface).x;
+    const auto withGap = [beside](const Box& box) {
+        return Box{box.left - beside, box.top, box.right + beside, box.bottom};
+    };
+    std::vector<Box> taken;
+    for (const Box& box : taken_) taken.push_back(withGap(box));
     Attempt attempt;
     for (const Label& label : labels_) {
         attempt.places.push_back(place(surface, label, taken, effort));
         if (const auto& placed = attempt.places.back())
-            taken.push_back(
-                {placed->box.left - beside, placed->box.top, placed->box.right + beside, placed->box.bottom});
+            taken.push_back(withGap(placed->box));
         else if (!label.optional)
             attempt.complete = false;
         if (!attempt.complete && effort.allOrNothing) break;
