@@ -7,12 +7,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "platform/version.h"
 #include "project/project_file.h"
+#include "support/temp_folder.h"
 
 namespace borvik {
 namespace {
@@ -20,13 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
+using testing_support::bytesOf;
+using testing_support::writeBytes;
 
 struct Outcome {
     int exitCode;
@@ -36,16 +30,10 @@ struct Outcome {
 /// Each test works in an empty folder of its own.
 class CommandLine : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "borvik-cli-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     Outcome run(const std::string& arguments) const {
         const std::string command = "cd '" + folder.string() + "' && " BORVIK_CALC " " + arguments + " >.out 2>.err";
         const int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), contentOf(folder / ".out"), contentOf(folder / ".err")};
+        return {WEXITSTATUS(status), bytesOf(folder / ".out"), bytesOf(folder / ".err")};
     }
 
     /// Puts a project of the tests into the folder.
@@ -54,11 +42,8 @@ protected:
         return as;
     }
 
-    void write(const std::string& name, const std::string& content) const {
-        std::ofstream(folder / name, std::ios::binary) << content;
-    }
-
-    fs::path folder;
+    testing_support::TempFolder own;
+    const fs::path folder = own.path();
 };
 
 TEST_F(CommandLine, wrongUseExitsWith2) {
@@ -92,8 +77,8 @@ TEST_F(CommandLine, theDefaultProjectGivesItsSummary) {
 TEST_F(CommandLine, exitCodesTellWhatHappened) {
     take("default", "good.brvk");
     take("gap_in_spans", "gap.brvk");
-    write("cut.brvk", contentOf(folder / "good.brvk").substr(0, 3000));
-    write("empty.brvk", "");
+    writeBytes(folder / "cut.brvk", bytesOf(folder / "good.brvk").substr(0, 3000));
+    writeBytes(folder / "empty.brvk", "");
     Project faulty;
     LoadProject((folder / "good.brvk").string(), faulty);
     faulty.fyk = 0;  // a strength that the window would refuse: the resistances divide by it
@@ -127,9 +112,9 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
 
 TEST_F(CommandLine, aDamagedFileIsAMessageAtEveryLength) {
     take("case-4", "good.brvk");
-    const std::string whole = contentOf(folder / "good.brvk");
+    const std::string whole = bytesOf(folder / "good.brvk");
     for (std::size_t length = 0; length < whole.size(); length += 1201) {
-        write("cut.brvk", whole.substr(0, length));
+        writeBytes(folder / "cut.brvk", whole.substr(0, length));
         const Outcome outcome = run("--quiet cut.brvk");
         EXPECT_EQ(outcome.exitCode, 5) << length;
         EXPECT_THAT(outcome.err, StartsWith("cut.brvk: ")) << length;
@@ -145,7 +130,7 @@ TEST_F(CommandLine, oneBadFileDoesNotStopTheOthers) {
     EXPECT_EQ(outcome.exitCode, 5);
     EXPECT_THAT(outcome.err, HasSubstr("missing.brvk: "));
     EXPECT_THAT(outcome.err, HasSubstr("b.brvk:  An inner beam"));
-    const auto document = [&](const char* name) { return nlohmann::json::parse(contentOf(folder / "results" / name)); };
+    const auto document = [&](const char* name) { return nlohmann::json::parse(bytesOf(folder / "results" / name)); };
     EXPECT_EQ(document("a.json")["File"], "a.brvk");
     EXPECT_EQ(document("b.json")["Calculated"], false);
     EXPECT_EQ(document("a-2.json")["File"], "other/a.brvk");
@@ -192,7 +177,7 @@ TEST_F(CommandLine, severalOutputsComeTogether) {
     const Outcome outcome = run("--default --summary --json results.json --save saved.brvk");
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_THAT(outcome.out, HasSubstr("Largest ratio"));
-    EXPECT_TRUE(nlohmann::json::parse(contentOf(folder / "results.json"))["File"].is_null());
+    EXPECT_TRUE(nlohmann::json::parse(bytesOf(folder / "results.json"))["File"].is_null());
     EXPECT_TRUE(fs::exists(folder / "saved.brvk"));
 }
 
@@ -228,10 +213,10 @@ TEST_F(CommandLine, drawsADiagramWithoutADisplay) {
     const Outcome drawn = run("--default --diagram MyVz --png forces.png");
     EXPECT_EQ(drawn.exitCode, 0);
     EXPECT_EQ(drawn.out + drawn.err, "");
-    EXPECT_THAT(contentOf(folder / "forces.png"), StartsWith("\x89PNG"));
+    EXPECT_THAT(bytesOf(folder / "forces.png"), StartsWith("\x89PNG"));
 
     EXPECT_EQ(run("--default --diagram cr1sp1 --png stress.svg").exitCode, 0);
-    const std::string svg = contentOf(folder / "stress.svg");
+    const std::string svg = bytesOf(folder / "stress.svg");
     EXPECT_THAT(svg, HasSubstr("FLS - Stress in top flange (MPa)"));
     EXPECT_THAT(svg, HasSubstr("</svg>"));
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -9,6 +8,7 @@
 #include <QTreeWidget>
 
 #include "project/project_file.h"
+#include "tutorial_steps.h"
 #include "window_support.h"
 
 namespace borvik {
@@ -17,46 +17,9 @@ namespace {
 using testing_support::bytesOf;
 using testing_support::TempFolder;
 
-/// A form as its user sees it, while the main window waits for it.
-class OpenForm {
-public:
-    explicit OpenForm(QWidget& form) : form_(form) {}
-
-    template <class Control>
-    Control& control(const char* name) {
-        auto* found = form_.findChild<Control*>(QString::fromUtf8(name));
-        if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
-        return *found;
-    }
-    void enter(const char* box, const char* text) {
-        auto& edit = control<QLineEdit>(box);
-        // a page that has just come to the front takes the focus a moment later
-        EXPECT_TRUE(QTest::qWaitFor([&edit] {
-            edit.setFocus(Qt::TabFocusReason);
-            return edit.hasFocus();
-        })) << box;
-        QTest::keyClicks(&edit, text);
-        QTest::keyClick(&edit, Qt::Key_Return);
-        QCoreApplication::processEvents();
-    }
-    void click(const char* button) { control<QAbstractButton>(button).click(); }
-    void choose(const char* list, const char* text) {
-        auto& box = control<QComboBox>(list);
-        const int row = box.findText(text);
-        if (row < 0)
-            throw std::runtime_error(std::string("no choice ") + text + " but " +
-                                     box.itemText(box.count() - 1).toStdString());
-        box.setCurrentIndex(row);
-        Q_EMIT box.activated(row);
-    }
-
-private:
-    QWidget& form_;
-};
-
 class WholeWork : public testing::Test {
 protected:
-    using Steps = std::function<void(OpenForm)>;
+    using Steps = std::function<void(FormHands)>;
 
     /// Opens a form by its command, works in it, and closes it by its button.
     static void inForm(WindowFixture& program, const char* command, const char* name, const char* close,
@@ -68,8 +31,8 @@ protected:
             EXPECT_EQ(form->objectName(), name);
             EXPECT_TRUE(QTest::qWaitForWindowActive(form));
             try {
-                steps(OpenForm(*form));
-                OpenForm(*form).click(close);
+                steps(FormHands(*form));
+                FormHands(*form).click(close);
                 worked = true;
             } catch (const std::exception& fault) {
                 ADD_FAILURE() << fault.what();
@@ -100,7 +63,7 @@ protected:
     TempFolder folder;
 };
 
-void makeSections(OpenForm form) {
+void makeSections(FormHands form) {
     form.choose("cboEuprofile", "HEB 400");
     form.click("addtoDBIu");
     form.control<QTabWidget>("SSTab1").setCurrentIndex(2);
@@ -110,7 +73,7 @@ void makeSections(OpenForm form) {
     form.click("addtoDBIu");
 }
 
-void layOutBeam(OpenForm form) {
+void layOutBeam(FormHands form) {
     auto& rows = form.control<QTreeWidget>("lstViewTill");
     const auto row = [&](int number, const char* length, const char* section) {
         form.enter("txtBeamLength", length);
@@ -125,7 +88,7 @@ void layOutBeam(OpenForm form) {
     row(3, "6000", "HEB 400");
 }
 
-void enterCranes(OpenForm form) {
+void enterCranes(FormHands form) {
     form.click("optTwo");
     const std::pair<const char*, const char*> entries[] = {
         {"txtGangway", "0,5"}, {"txtMinAvst", "2500"}, {"txtPsiV1", "1.15"}, {"txtV1", "60"},    {"txtV2", "55.5"},
@@ -147,18 +110,18 @@ TEST_F(WholeWork, IsDoneSavedAndFoundAgain) {
         program.trigger("mnuArkivNytt");
         inForm(program, "mnuProfile", "frmProfile", "Command1", makeSections);
         inForm(program, "mnuBeam", "frmBeam", "cmdOK", layOutBeam);
-        inForm(program, "mnuRail", "frmRail", "cmdOK", [](OpenForm form) {
+        inForm(program, "mnuRail", "frmRail", "cmdOK", [](FormHands form) {
             form.choose("cboRail", "A 55");
             form.click("chkRail");
             form.click("optRail1");
         });
         inForm(program, "mnuLoad", "frmLoad", "cmdOK", enterCranes);
-        inForm(program, "mnuFatigue", "frmFatigue1", "cmdOK", [](OpenForm form) {
+        inForm(program, "mnuFatigue", "frmFatigue1", "cmdOK", [](FormHands form) {
             form.click("Command9");
             form.click("ChkFat5Sp(2)");
             form.enter("txtFat5d1(1)", "1500");
         });
-        inForm(program, "mnuSetup", "frmSetup", "CmdOK", [](OpenForm form) { form.enter("igammam1", "1,1"); });
+        inForm(program, "mnuSetup", "frmSetup", "CmdOK", [](FormHands form) { form.enter("igammam1", "1,1"); });
         summary = calculatedSummary(program);
         EXPECT_TRUE(program.messages.texts.empty()) << program.lastMessage();
         program.questions.toSave.push_back(path);
@@ -188,42 +151,7 @@ TEST_F(WholeWork, theTutorialWorksAsWritten) {
     WindowFixture program;
     program.questions.answers = {Answer::No};
     program.trigger("mnuArkivNytt");
-    inForm(program, "mnuProfile", "frmProfile", "Command1", [](OpenForm form) {
-        form.choose("cboEuprofile", "HEB 400");
-        form.click("addtoDBIu");
-        form.click("OptLoadL1");
-    });
-    inForm(program, "mnuBeam", "frmBeam", "cmdOK", [](OpenForm form) {
-        auto& rows = form.control<QTreeWidget>("lstViewTill");
-        const auto select = [&rows](int number) {
-            rows.clearSelection();
-            rows.setCurrentItem(rows.topLevelItem(number - 1));
-        };
-        select(3);
-        QTest::keyClick(&rows, Qt::Key_Delete);
-        select(1);
-        form.enter("txtBeamLength", "6000");
-        form.choose("cboProf", "HEB 400");
-        form.click("Command1");
-        form.control<QAbstractButton>("chkDead").setChecked(true);
-    });
-    inForm(program, "mnuRail", "frmRail", "cmdOK", [](OpenForm form) {
-        form.choose("cboRail", "A 55");
-        form.click("optRail2");
-    });
-    inForm(program, "mnuLoad", "frmLoad", "cmdOK", [](OpenForm form) {
-        form.click("optEn");
-        form.click("optRorlig");
-        form.choose("cboCraneClass1", "S4");
-        const std::pair<const char*, const char*> entries[] = {
-            {"txtPsiV1", "1.15"}, {"txtPsiH1", "1.5"}, {"txtV1", "70"},     {"txtH1", "8"},
-            {"txtV2", "70"},      {"txtH2", "-8"},     {"txtAvst1", "3000"}};
-        for (const auto& [box, text] : entries) form.enter(box, text);
-    });
-    inForm(program, "mnuFatigue", "frmFatigue1", "cmdOK", [](OpenForm form) {
-        form.click("Command10");
-        form.click("chkFat5");
-    });
+    for (const TutorialStep& step : tutorialSteps()) inForm(program, step.command, step.form, step.close, step.work);
     calculatedSummary(program);
     EXPECT_TRUE(program.messages.texts.empty()) << program.lastMessage();
     EXPECT_EQ(program.project().NofSpans, 2);

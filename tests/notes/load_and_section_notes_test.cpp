@@ -148,6 +148,14 @@ TEST(LoadNotes, ACraneAloneCanBeWorse) {
         EXPECT_NEAR(change.shown, bending(both), 1e-6);
         EXPECT_NEAR(change.other, alone, 1e-6);
     }
+    // One span: beside crane 2 a wheel comes to 2000 mm at most; alone it passes the middle, 100 x 6/4 = 150 kNm.
+    const Session far = calculated([](Session& session) {
+        oneWheel(session, 1, 6000);
+        session.project.NofCranes = 2;
+        session.project.MinAvst = 4000;
+        session.project.V(5) = 1;
+    });
+    EXPECT_NEAR(changeOf(findingOf(far, "A2"), "bending").other, 150 / 447.1, 0.0003);
     EXPECT_FALSE(findingOf(calculated(), "A2"));
 }
 
