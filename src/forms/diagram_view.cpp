@@ -154,13 +154,14 @@ void DiagramView::drawReading(QPainter& painter) const {
 }
 
 Place DiagramView::toLogical(QPointF place) const {
-    const double height = diagrams_.empty() ? 200.0 : pictureHeight(diagrams_);
-    return {place.x() / std::max(1, width()) * 1000.0, place.y() / std::max(1, this->height()) * height};
+    return pictureFrame(diagrams_).placeOf(place.x(), place.y(), std::max(1, width()), std::max(1, height()));
 }
 
 void DiagramView::mouseMoveEvent(QMouseEvent* event) {
     if (!calculation_) return;
-    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, toLogical(event->position()));
+    constexpr double kSupportReach = 3.0;  // pixels on either side of a support that count as the support
+    const double reach = toLogical({kSupportReach, 0.0}).x - toLogical({0.0, 0.0}).x;
+    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, toLogical(event->position()), reach);
     mouse_ = event->position();
     reading_ = found ? QString::fromStdString(found->text()) : QString();
     Q_EMIT readingChanged(reading_);

@@ -80,6 +80,15 @@ double between(const Curve& curve, int span, double position, double length) {
     return curve.at(span, k) * (1.0 - share) + curve.at(span, k + 1) * share;
 }
 
+std::vector<DiagramReading::Quantity> quantitiesAt(const std::vector<Panel>& panels, int span, double position,
+                                                   double length) {
+    std::vector<DiagramReading::Quantity> quantities;
+    for (const Panel& panel : panels)
+        for (const Curve& curve : panel.curves)
+            quantities.push_back({curve.name, between(curve, span, position, length), panel.unit});
+    return quantities;
+}
+
 }  // namespace
 
 void DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0, double Y0,
@@ -158,22 +167,30 @@ double pictureHeight(std::span<const Diagram> diagrams) {
     return height;
 }
 
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data) {
-    const double height = pictureHeight(diagrams);
+PictureFrame pictureFrame(std::span<const Diagram> diagrams) {
     constexpr double kMargin = 6.0;  // left and right of the 1000 units
-    surface.scale(-kMargin, 0.0, 1000.0 + kMargin, height);
-    const std::array<Place, 4> paper{
-        {{-kMargin, 0.0}, {1000.0 + kMargin, 0.0}, {1000.0 + kMargin, height}, {-kMargin, height}}};
+    return {-kMargin, 0.0, 1000.0 + kMargin, pictureHeight(diagrams)};
+}
+
+Place PictureFrame::placeOf(double x, double y, double width, double height) const {
+    return {left + x / width * (right - left), top + y / height * (bottom - top)};
+}
+
+void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data) {
+    const auto [left, top, right, bottom] = pictureFrame(diagrams);
+    surface.scale(left, top, right, bottom);
+    const std::array<Place, 4> paper{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
     surface.polygon(paper, colours::white);
-    double top = 0.0;
+    double depth = 0.0;
     for (const Diagram diagram : diagrams) {
-        DrawDiagram(surface, diagram, data, 0.0, top - diagramArea(diagram, DiagramMode::Screen).top,
+        DrawDiagram(surface, diagram, data, 0.0, depth - diagramArea(diagram, DiagramMode::Screen).top,
                     DiagramMode::Screen);
-        top += diagramHeight(diagram, DiagramMode::Screen);
+        depth += diagramHeight(diagram, DiagramMode::Screen);
     }
 }
 
-std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place) {
+std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
+                                          double reach) {
     if (diagrams.empty()) return std::nullopt;
     Diagram diagram = diagrams.back();
     double bottom = 0.0;
@@ -187,27 +204,50 @@ std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, con
     const std::vector<Panel> panels = diagramPanels(diagram, data);
     double total = 0.0;
     for (int span = 1; span <= data.project.NofSpans; ++span) total += data.project.Span(span);
-    double position = (place.x - 50.0) / 900.0 * total;
-    if (panels.empty() || total <= 0.0 || position < 0.0 || position > total) return std::nullopt;
+    if (panels.empty() || total <= 0.0) return std::nullopt;
 
-    DiagramReading reading;
-    reading.diagram = diagram;
-    reading.span = 1;
-    while (reading.span < data.project.NofSpans && position > data.project.Span(reading.span))
-        position -= data.project.Span(reading.span++);
-    reading.position = position;
-    for (const Panel& panel : panels)
-        for (const Curve& curve : panel.curves)
-            reading.quantities.push_back(
-                {curve.name, between(curve, reading.span, position, data.project.Span(reading.span)), panel.unit});
+    DiagramReading reading{diagram, {}};
+    const auto read = [&](int span, double position) {
+        reading.points.push_back({span, position, quantitiesAt(panels, span, position, data.project.Span(span))});
+    };
+    const double position = (place.x - 50.0) / 900.0 * total;
+    const double near = std::max(reach / 900.0, 1e-9) * total;  // a support is met in spite of rounding
+    const int last = data.project.NofSpans;
+    int support = 1;  // the nearest one
+    double start = 0.0, nearest = std::abs(position);
+    for (int span = 1; span <= last; ++span) {
+        const double length = data.project.Span(span), end = start + length;
+        if (nearest > near && position > start && position < end - near) {
+            read(span, position - start);
+            return reading;
+        }
+        if (std::abs(position - end) < nearest) {
+            nearest = std::abs(position - end);
+            support = span + 1;
+        }
+        start = end;
+    }
+    if (nearest > near) return std::nullopt;
+    if (support > 1) read(support - 1, data.project.Span(support - 1));
+    if (support <= last) read(support, 0.0);
     return reading;
 }
 
 std::string DiagramReading::text() const {
-    std::string text = "Span " + std::to_string(span) + ", x = " + formatNumber(position, "0") + " mm";
+    const Point& point = points.front();
+    const bool onSupport = points.size() == 2;
+    std::string text =
+        onSupport ? "Support " + std::to_string(points.back().span)
+                  : "Span " + std::to_string(point.span) + ", x = " + formatNumber(point.position, "0") + " mm";
     const char* separator = ": ";
-    for (const Quantity& quantity : quantities) {
-        text += separator + quantity.name + " " + formatNumber(quantity.value, "0.0") + " " + quantity.unit;
+    for (std::size_t i = 0; i < point.quantities.size(); ++i) {
+        const Quantity& quantity = point.quantities[i];
+        std::string value = formatNumber(quantity.value, "0.0");
+        if (onSupport) {
+            const std::string right = formatNumber(points.back().quantities[i].value, "0.0");
+            if (right != value) value += " | " + right;
+        }
+        text += separator + quantity.name + " " + value + " " + quantity.unit;
         separator = ", ";
     }
     return text;

@@ -75,27 +75,41 @@ struct DiagramArea {
 /// below the other.
 void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data);
 
-/// The height of a picture that is 1000 units wide.
+/// The height of a picture, in the units of a diagram that is 1000 wide.
 [[nodiscard]] double pictureHeight(std::span<const Diagram> diagrams);
+
+/// The logical frame that a picture lays over its surface: the 1000 units of a diagram and a margin beside them.
+struct PictureFrame {
+    double left, top, right, bottom;
+    /// The logical place of a point of a surface. @param width, height  of the surface, in the units of the point
+    [[nodiscard]] Place placeOf(double x, double y, double width, double height) const;
+};
+[[nodiscard]] PictureFrame pictureFrame(std::span<const Diagram> diagrams);
 
 /// What stands under the mouse.
 struct DiagramReading {
-    Diagram diagram = Diagram::Sketch;
-    int span = 0;           ///< 1..NofSpans
-    double position = 0.0;  ///< mm from the left support of the span
     struct Quantity {
         std::string name;  ///< "My max"
         double value;      ///< between two points of calculation on the straight line
         std::string unit;
     };
-    std::vector<Quantity> quantities;
-    /// "Span 2, x = 1250 mm: My max 123.4 kNm, My min -20.1 kNm"
+    /// A point of one span.
+    struct Point {
+        int span = 0;           ///< 1..NofSpans
+        double position = 0.0;  ///< mm from the left support of the span
+        std::vector<Quantity> quantities;
+    };
+    Diagram diagram = Diagram::Sketch;
+    std::vector<Point> points;  ///< one; two on an inner support, the end of one span and the start of the next
+    /// "Span 2, x = 1250 mm: My max 123.4 kNm, My min -20.1 kNm", on an inner support
+    /// "Support 2: My max 0.0 kNm, My min -1019.8 kNm, Vz max 3.1 | 240.0 kN", left and right of it where they differ.
     [[nodiscard]] std::string text() const;
 };
 
-/// Reads a picture at a logical place, 0..1000 across and 0..pictureHeight down.
+/// Reads a picture at a logical place of its frame.
+/// @param reach  units across within which a support is taken for the place
 /// @return nothing left and right of the beam, or without results
 [[nodiscard]] std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data,
-                                                        Place place);
+                                                        Place place, double reach = 0.0);
 
 }  // namespace borvik

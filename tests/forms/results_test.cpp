@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
@@ -11,7 +12,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/number_text.h"
 #include "forms/frm_detailed_result.h"
+#include "platform/recording_surface.h"
 #include "window_support.h"
 
 namespace borvik {
@@ -235,8 +238,8 @@ TEST_F(ResultsTest, aRunTimeFaultLeavesTheWindowAlive) {
 TEST_F(ResultsTest, aClickOnTheSketchOpensTheLoads) {
     auto& sketch = control<DiagramView>("picBalk");
     const auto clickAt = [&](double x) {
-        // The pixel whose place is the first not below x.
-        const int pixel = static_cast<int>(std::ceil(x / 1000.0 * sketch.width()));
+        int pixel = 0;  // the first whose place is not below x
+        while (sketch.toLogical(QPointF(pixel, 40)).x < x) ++pixel;
         return nameOfModal([&] { QTest::mouseClick(&sketch, Qt::LeftButton, {}, QPoint(pixel, 40)); });
     };
     EXPECT_EQ(clickAt(97.0), "");
@@ -363,6 +366,38 @@ TEST(Pictures, areSavedAsPngAndSvg) {
     EXPECT_FALSE(QImage(QString::fromStdString(folder.file("a.png"))).isNull());
     EXPECT_NE(testing_support::bytesOf(folder.file("a.svg")).find("Beam Data"), std::string::npos);
     EXPECT_EQ(messages.texts.size(), 1U);
+}
+
+TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
+    project().Span(1) = 6000;
+    project().Span(2) = 7000;
+    calculate();
+    DiagramView view({messages, questions, settings});
+    view.showResults({Diagram::UlsMyVz}, window.calculation());
+    RecordingSurface drawn(1000, 300);
+    DrawPicture(drawn, view.diagrams(), {project(), &*session.results});
+    const auto total = static_cast<double>(project().Span(1) + project().Span(2) + project().Span(3));
+    QSignalSpy read(&view, &DiagramView::readingChanged);
+    const auto readingAt = [&](double along) {
+        const double unit = 50.0 + 900.0 * along / total;
+        const QPointF pixel((unit - drawn.left) / (drawn.right - drawn.left) * view.width(), 20.0);
+        QMouseEvent move(QEvent::MouseMove, pixel, view.mapToGlobal(pixel), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &move);
+        return read.last().at(0).toString().toStdString();
+    };
+    const UlsResults& uls = session.results->Uls;
+    for (const QSize size : {QSize(437, 150), QSize(1024, 300), QSize(2560, 900)}) {
+        view.resize(size);
+        EXPECT_THAT(readingAt(0.0), testing::StartsWith("Span 1, x = 0 mm: My max 0.0 kNm, My min 0.0 kNm, Vz max " +
+                                                        formatNumber(uls.VzMaxPoint(1, 1, 2) / 1000.0, "0.0")));
+        const std::string both = readingAt(6000.0);
+        EXPECT_THAT(both, testing::StartsWith("Support 2: My max"));
+        EXPECT_THAT(both, testing::HasSubstr("Vz max " + formatNumber(uls.VzMaxPoint(1, 21, 2) / 1000.0, "0.0") +
+                                             " | " + formatNumber(uls.VzMaxPoint(2, 1, 2) / 1000.0, "0.0") + " kN"));
+        EXPECT_THAT(readingAt(6000.0 + 3500.0), testing::StartsWith("Span 2, x = 3500 mm"));
+        EXPECT_THAT(readingAt(total),
+                    testing::StartsWith("Span 3, x = " + formatNumber(project().Span(3), "0") + " mm"));
+    }
 }
 
 }  // namespace

@@ -245,15 +245,16 @@ TEST(Reading, tellsSpanPlaceAndValuesBetweenThePoints) {
     // 5125 mm from the start: 1125 mm in span 2, half way between its points 5 and 6.
     const auto reading = ReadPicture(forces, data, {50.0 + 900.0 * 5125.0 / 9000.0, 10.0});
     ASSERT_TRUE(reading);
-    EXPECT_EQ(reading->span, 2);
-    EXPECT_NEAR(reading->position, 1125.0, 1e-6);
+    ASSERT_EQ(reading->points.size(), 1U);
+    EXPECT_EQ(reading->points[0].span, 2);
+    EXPECT_NEAR(reading->points[0].position, 1125.0, 1e-6);
     EXPECT_EQ(reading->text(),
               "Span 2, x = 1125 mm: My max 77.7 kNm, My min -13.5 kNm, Vz max 69.8 kN, Vz min -18.0 kN");
 
     EXPECT_FALSE(ReadPicture(forces, data, {49.0, 10.0}));
     EXPECT_FALSE(ReadPicture(forces, data, {951.0, 10.0}));
-    EXPECT_EQ(ReadPicture(forces, data, {50.0, 0.0})->span, 1);
-    EXPECT_NEAR(ReadPicture(forces, data, {950.0, 0.0})->position, 5000.0, 1e-6);
+    EXPECT_EQ(ReadPicture(forces, data, {50.0, 0.0})->points[0].span, 1);
+    EXPECT_NEAR(ReadPicture(forces, data, {950.0, 0.0})->points[0].position, 5000.0, 1e-6);
     EXPECT_FALSE(ReadPicture(forces, {project, nullptr}, {500.0, 10.0}));
     EXPECT_FALSE(ReadPicture(std::vector<Diagram>{Diagram::Sketch}, data, {500.0, 10.0}));
 
