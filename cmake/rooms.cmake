@@ -1,5 +1,5 @@
-# A room is a folder of src/ and the library made of it. Its list of neighbours is the whole of what it may include:
-# a header of any other room is not on its include path.
+# A room is a folder of src/ and the library made of it. Its list of neighbours is the whole of what it may include; the
+# test rooms.includeOnlyWhatTheyName (tools/rooms --check) holds includes and lists together.
 
 add_library(borvik_flags INTERFACE)
 # Results must be the same to the last bit on every machine: no contraction to fused multiply-add, no reassociation.
@@ -19,8 +19,8 @@ if(BORVIK_FUZZ)
     target_compile_options(borvik_flags INTERFACE -fsanitize=fuzzer-no-link -ffp-exception-behavior=maytrap)
 endif()
 
-# borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. Each room stands
-# on the include path under its own name through a small folder of links, so that only the rooms it knows can be included.
+# borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. A room stands on
+# the include path of those that know it, and of those that know these, under its own name through a small folder of links.
 function(borvik_room name)
     cmake_parse_arguments(ROOM "" "" "KNOWS;LINKS" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
