@@ -51,8 +51,9 @@ const Scene kScenes[] = {
      .crack = {0.09, 1.0},
      .rail = Rail::Welded,
      .text =
-         "Rail welded to the top flange: stress along the weld\n\nTable 8.2:\n100  manual continuous fillet weld, "
-         "detail 6\n112  automatic, with stop and start positions, detail 4\n80  intermittent fillet weld, detail 8"},
+         "Rail welded to the top flange: stress along the weld\n\nTable 8.2:\n112  automatic fillet welds from both "
+         "sides, with stop and start positions, detail 3\n100  manual fillet weld, detail 5\n80  intermittent fillet "
+         "weld, detail 8"},
     {.detail = FatigueDetail::StiffenerWelded,
      .view = View::Side,
      .stress = Stress::Along,
@@ -94,9 +95,12 @@ const Scene kScenes[] = {
      .stress = Stress::Along,
      .crack = {0.0, 0.03},
      .splice = true,
-     .text = "Splice of the beam by butt welds: stress along the bottom flange\n\nTable 8.3:\n112  ground flush, "
-             "detail 4\n90  weld toe at most 10 % convex, detail 7\n80  welded on site, detail 5 to 7\nReduced by "
-             "(25/t)^0.2 where t > 25 mm"},
+     .text =
+         "Splice of the beam by butt welds: stress along the bottom flange\n\nTable 8.3:\n112  ground flush, "
+         "detail 1 to 3\n90  ground flush with cope holes, detail 8; convexity at most 10 %, detail 5 and 6\n80  "
+         "convexity at most 20 %: plates or plate girder without cope hole, rolled section with cope holes, detail 9 "
+         "to 11\n63  whole rolled section without cope hole, not ground, detail 12\n36  from one side only, detail "
+         "13\nReduced by (25/t)^0.2 where t > 25 mm"},
     {.detail = FatigueDetail::SupportPoint,
      .view = View::Side,
      .stress = Stress::Vertical,
@@ -112,8 +116,10 @@ const Scene kScenes[] = {
      .stress = Stress::Along,
      .crack = {0.26, 1.0},
      .support = Support::Above,
-     .text = "Edge of the support on the top flange: stress along the flange\n\nTable 8.4 and 8.5, detail 6, cover "
-             "plate or long attachment:\n56  thickness up to 20 mm\n50  20 to 30 mm\n45  30 to 50 mm"},
+     .text =
+         "Edge of the support on the top flange: stress along the flange\n\nTable 8.4 and 8.5, detail 6, cover "
+         "plate or long attachment, thinner than the flange:\n56  flange up to 20 mm\n50  20 to 30 mm\n45  30 to 50 "
+         "mm\nas thick as the flange or thicker: 50, 45, 40"},
     {.detail = FatigueDetail::SupportToTopFlange,
      .view = View::Section,
      .stress = Stress::Vertical,
