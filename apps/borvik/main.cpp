@@ -1,10 +1,11 @@
-#include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QStandardPaths>
 #include <iostream>
+#include <optional>
 #include <string_view>
 
+#include "forms/guarded_application.h"
 #include "forms/help.h"
 #include "forms/main_window.h"
 #include "forms/wheel_guard.h"
@@ -12,14 +13,40 @@
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_settings.h"
 
+namespace {
+
+constexpr const char* kUsage = "usage: borvik [PROJECT.brvk]\n";
+
+/// The project named on the command line; what the toolkit takes for itself has gone from the arguments before.
+/// @return its path, empty where none is named; nothing where the arguments are wrong, which has then been said
+std::optional<QString> projectArgument(const QStringList& arguments) {
+    const bool isPath = arguments.value(1) == "--";
+    const QStringList files = arguments.mid(isPath ? 2 : 1);
+    if (!isPath && !files.isEmpty() && files.first().startsWith('-')) {
+        std::cerr << "borvik: unknown option " << files.first().toStdString() << '\n' << kUsage;
+        return std::nullopt;
+    }
+    if (files.size() > 1) {
+        std::cerr << "borvik: one project a window, not " << files.size() << '\n' << kUsage;
+        return std::nullopt;
+    }
+    return files.value(0);
+}
+
+}  // namespace
+
 /// The desktop program. Takes one project file as its argument.
 int main(int argc, char** argv) {
     using namespace borvik;
-    if (argc == 2 && (std::string_view(argv[1]) == "--version" || std::string_view(argv[1]) == "--help")) {
-        std::cout << "Borvik " BORVIK_VERSION ", design of steel crane runway beams\nusage: borvik [PROJECT.brvk]\n";
-        return 0;
-    }
-    QApplication application(argc, argv);
+    for (const std::string_view answered : {"--version", "--help", "-h"})
+        if (argc == 2 && answered == argv[1]) {
+            std::cout << "Borvik " BORVIK_VERSION ", design of steel crane runway beams\n" << kUsage;
+            return 0;
+        }
+    QtMessages messages;
+    GuardedApplication application(argc, argv, messages);
+    const auto project = projectArgument(QApplication::arguments());
+    if (!project) return 2;
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setApplicationVersion(BORVIK_VERSION);
     QApplication::setDesktopFileName("borvik");
@@ -27,7 +54,6 @@ int main(int argc, char** argv) {
     WheelGuard wheelGuard;
     application.installEventFilter(&wheelGuard);
 
-    QtMessages messages;
     QtQuestions questions;
     QtSettings settings;
     HelpKey helpKey(messages);
@@ -40,8 +66,7 @@ int main(int argc, char** argv) {
         const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
         MainWindow window(session, {messages, questions, settings, (own + "/recovery").toStdString()});
         window.show();
-        const QStringList arguments = QApplication::arguments();
-        if (arguments.size() > 1) window.openProject(arguments.at(1).toStdString());
+        if (!project->isEmpty()) window.openProject(project->toStdString());
         window.offerRecovery();
         return QApplication::exec();
     } catch (const TableError& error) {

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "base/fault.h"
+#include "forms/guarded_application.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_settings.h"
 #include "support/temp_folder.h"
@@ -89,6 +91,19 @@ TEST(QtSettings, keepTextsBySectionAndKey) {
     EXPECT_EQ(again.getAll("Borvik", "Recent Files"), (Pairs{{"RecentFile1", odd}, {"RecentFile2", "second"}}));
     EXPECT_TRUE(again.getAll("Another", "Recent Files").empty());
     EXPECT_EQ(folder.count(), 1) << "nothing is written elsewhere";
+}
+
+TEST(GuardedApplication, makesAFaultOfAnEventAMessageAndGoesOn) {
+    auto& application = dynamic_cast<GuardedApplication&>(*QApplication::instance());
+    MessageList told;
+    Messages& usual = application.tellFaultsTo(told);
+    bool reached = false;
+    for (int i = 0; i < 2; ++i) QTimer::singleShot(0, [] { throw RuntimeFault("index 7 out of bounds"); });
+    QTimer::singleShot(1, [&] { reached = true; });
+    while (!reached) QApplication::processEvents();
+    application.tellFaultsTo(usual);
+    ASSERT_EQ(told.texts.size(), 1U) << "a fault that repeats itself is told once";
+    EXPECT_NE(told.texts.front().find("index 7 out of bounds"), std::string::npos);
 }
 
 }  // namespace
