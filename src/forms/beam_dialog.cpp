@@ -45,11 +45,11 @@ BeamDialog::BeamDialog(Session& session, Messages& messages, std::function<void(
                                          inputChanged();
                                      });
     content->addWidget(chkDead_, 3, 0);
-    content->addWidget(makeButton("cmdOK", tr("&Close"), tr("Check the beam and close the form"),
-                                  [this] {
-                                      bringSectionsUpToDate();
-                                      accept();
-                                  }),
+    content->addWidget(closeButton("cmdOK", tr("&Close"), tr("Check the beam and close the form"),
+                                   [this] {
+                                       bringSectionsUpToDate();
+                                       accept();
+                                   }),
                        3, 1, Qt::AlignRight);
     setContent(content);
     fillSections();
@@ -85,7 +85,7 @@ Group BeamDialog::entry() {
                      .field = {[this] { return DecimalValue(BeamLengthText); },
                                [this](Single length) { BeamLengthText = formatNumber(length, "##0"); }},
                      .mask = "##0",
-                     .range = fixed(between(200, 4000000)),
+                     .range = fixed(spanLengthRange()),
                      .message = " 200 < Beam length L < 2 ",
                      .meaning = tr("Length of a span between its supports; give it to rows by the buttons")});
     cboProf_ = makeList("cboProf", tr("Section to give to rows by the buttons"), [](int) {});

@@ -31,15 +31,12 @@ CraneGroup::CraneGroup(FormBinder& binder, Project& project, int crane, const Cr
            binder.add({.name = numbered("txtPsiV", crane),
                        .field = crane == 1 ? project.PsiV1 : project.PsiV2,
                        .mask = "0.00",
-                       .range = fixed(atLeast(0.8)),
                        .message = kPsiMessage,
                        .meaning = tr("Dynamic factor of the vertical wheel loads, φ1 to φ4 of EN 1991-3, 2.6")}));
-    // The horizontal factor is held to 1.0, though its message is that of the vertical one.
     addRow(grid, text.horizontal + QStringLiteral("   ") + text.psiH,
            binder.add({.name = numbered("txtPsiH", crane),
                        .field = crane == 1 ? project.PsiH1 : project.PsiH2,
                        .mask = "0.00",
-                       .range = fixed(atLeast(1.0)),
                        .message = kPsiMessage,
                        .meaning = tr("Dynamic factor of the horizontal wheel loads, φ5 of EN 1991-3, 2.6")}));
     class_ = makeList(numbered("cboCraneClass", crane), tr("Class of fatigue action S0 to S9, EN 1991-3 Table 2.11"),
@@ -71,7 +68,6 @@ QGroupBox* CraneGroup::wheels(FormBinder& binder, Project& project, int crane, c
             {.name = numbered(v, wheel0 + i),
              .field = project.V(wheel0 + i),
              .mask = "0.0",
-             .range = fixed(first ? moreThan(0) : atLeast(0)),
              .message = first ? text.firstMessage : (i == 4 ? text.lastMessage : "Only positiv value!"),
              .meaning = tr("Characteristic vertical load of wheel %1, without dynamic factor").arg(wheel0 + i)}));
     }
@@ -80,7 +76,6 @@ QGroupBox* CraneGroup::wheels(FormBinder& binder, Project& project, int crane, c
             {.name = numbered(h, wheel0 + i),
              .field = project.H(wheel0 + i),
              .mask = "0.0",
-             .range = fixed(anyNumber()),
              .meaning =
                  tr("Characteristic horizontal load of wheel %1, either sign, EN 1991-3, 2.7").arg(wheel0 + i)}));
     for (int i = 1; i <= 3; ++i)
@@ -88,7 +83,6 @@ QGroupBox* CraneGroup::wheels(FormBinder& binder, Project& project, int crane, c
             {.name = numbered(a, gap0 + i),
              .field = project.Avst(gap0 + i),
              .mask = "#0",
-             .range = fixed(atLeast(0)),
              .message = " Distance must be postitiv !",
              .meaning =
                  tr("Distance from wheel %1 to wheel %2; 0 = there is no wheel %2").arg(wheel0 + i).arg(wheel0 + i + 1),
@@ -140,7 +134,6 @@ PositionGroup::PositionGroup(FormBinder& binder, Project& project, const QString
     txtPosition_ = binder.add({.name = "txtPosition",
                                .field = project.Position,
                                .mask = "#0",
-                               .range = fixed(atLeast(0)),
                                .message = "Positiv value",
                                .meaning = tr("Place of wheel 1 from the left end of the beam, for a fixed crane"),
                                .maskWhenFilled = "0"});

@@ -14,7 +14,6 @@ namespace borvik {
 
 namespace {
 
-constexpr int kSplices = 4;
 constexpr const char* kFillet = "FW";
 constexpr const char* kFullPenetration = "FP";
 
@@ -63,12 +62,16 @@ void FatigueDialog::build(FatigueForm form) {
 
 void FatigueDialog::WriteSetup() {
     for (std::size_t i = 0; i < checks_.size(); ++i) checks_[i]->setChecked(form_->details[i].checked);
-    for (int j = 1; j <= kSplices; ++j) {
+    for (int j = 1; j <= kFormSplices; ++j) {
         const SpliceControls& controls = splices_[static_cast<std::size_t>(j - 1)];
         controls.used->setChecked(form_->splices.used(j));
         controls.span->clear();
-        for (int span = 1; span <= project_.NofSpans; ++span) controls.span->addItem(QString::number(span));
-        controls.span->setCurrentIndex(roundHalfEven(form_->splices.span(j)) - 1);
+        for (int span = 1; span <= std::min<int>(project_.NofSpans, kMaxSpans); ++span)
+            controls.span->addItem(QString::number(span));
+        // What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored.
+        controls.span->setPlaceholderText(QStringLiteral("! ") +
+                                          QString::fromStdString(generalText(form_->splices.span(j))));
+        controls.span->setCurrentIndex(spliceSpan(project_, form_->splices.span(j)) - 1);
     }
     binder_.show();
     showWelds();
@@ -104,7 +107,6 @@ void FatigueDialog::addDetail(QGridLayout* grid, const FatigueDetailRow& detail)
             binder_.add({.name = category.name,
                          .field = category.field,
                          .mask = "#0",
-                         .range = fixed(between(36, 160)),
                          .message = " 36 <= C-factor <= 160 ",
                          .meaning = tr("Detail category in MPa at two million cycles, EN 1993-1-9 Tables 8.1 to 8.10"),
                          .maskWhenFilled = "0"});
@@ -125,7 +127,7 @@ Group FatigueDialog::splices() {
     grid->addWidget(new QLabel(tr("Span")), 0, 1, Qt::AlignHCenter);
     grid->addWidget(new QLabel(tr("d (mm)")), 0, 2, Qt::AlignHCenter);
     const FatigueSplices& record = form_->splices;
-    for (int j = 1; j <= kSplices; ++j) {
+    for (int j = 1; j <= kFormSplices; ++j) {
         auto* used = makeChoice<QCheckBox>(
             indexed("ChkFat5Sp", j), tr("Splice %1").arg(j), tr("The beam has this splice"), [this, &record, j] {
                 record.used(j) = splices_[static_cast<std::size_t>(j - 1)].used->isChecked();
@@ -139,7 +141,6 @@ Group FatigueDialog::splices() {
         NumberBox* distance = binder_.add({.name = indexed(record.distanceName, j),
                                            .field = record.distance(j),
                                            .mask = "#0",
-                                           .range = [this, j] { return spliceRange(j); },
                                            .message = " 10 <= d <= L ",
                                            .meaning = tr("Distance of the splice from the left support of its span")});
         splices_.push_back({used, span});
@@ -150,25 +151,18 @@ Group FatigueDialog::splices() {
     return group;
 }
 
-Range FatigueDialog::spliceRange(int splice) const {
-    const int span = splices_[static_cast<std::size_t>(splice - 1)].span->currentIndex() + 1;
-    return span == 0 ? atLeast(10) : between(10, project_.Span(span));
-}
-
 Group FatigueDialog::support() {
     const Group group = makeGroup("frSupport", tr("Support"));
     const FatigueSupport& record = form_->support;
     NumberBox* e = binder_.add({.name = record.lengthName,
                                 .field = record.length,
                                 .mask = "#0",
-                                .range = fixed(between(25, 1000)),
                                 .message = " 25 <= e <= 1000 ",
                                 .meaning = tr("Length of the support along the beam"),
                                 .maskWhenFilled = "0"});
     NumberBox* t = binder_.add({.name = record.thicknessName,
                                 .field = record.thickness,
                                 .mask = "#0",
-                                .range = fixed(between(2, 100)),
                                 .message = " 2 <= t <= 100 ",
                                 .meaning = tr("Thickness of the stiffener at the support"),
                                 .maskWhenFilled = "0"});
@@ -199,7 +193,6 @@ Group FatigueDialog::weld(const FatigueWeld& record) {
     NumberBox* throat = binder_.add({.name = "txt" + record.name + "a",
                                      .field = record.throat,
                                      .mask = "0.0",
-                                     .range = fixed(atLeast(3)),
                                      .message = " a >=3 mm",
                                      .meaning = tr("Throat of the fillet weld, EN 1993-1-8, 4.5.2")});
     welds_.push_back({fillet, full, throat});
@@ -226,9 +219,8 @@ void FatigueDialog::addDefaultsAndNotes(QGridLayout* content) {
     buttons->addStretch();
     content->addLayout(buttons, 1, 0);
     content->addWidget(new QLabel(form_->note + tr("\nNote 2) Ref EN 1993-1-9, Table 8:2-8:10")), 2, 0);
-    content->addWidget(
-        makeButton("cmdOK", tr("Close"), tr("Close the form; all values are stored already"), [this] { accept(); }), 2,
-        1, Qt::AlignRight | Qt::AlignBottom);
+    content->addWidget(closeButton("cmdOK", tr("Close"), tr("Close the form; all values are stored already")), 2, 1,
+                       Qt::AlignRight | Qt::AlignBottom);
 }
 
 }  // namespace borvik

@@ -93,7 +93,6 @@ private:
     Group weld(const FatigueWeld& weld);
     void showWelds();
     void addDefaultsAndNotes(QGridLayout* content);
-    [[nodiscard]] Range spliceRange(int splice) const;
 
     struct SpliceControls {
         QCheckBox* used;

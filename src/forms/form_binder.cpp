@@ -1,25 +1,17 @@
 #include "forms/form_binder.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 #include <QTimer>
 #include <algorithm>
-#include <cctype>
 #include <cmath>
+#include <limits>
 
 #include "base/number_text.h"
 
 namespace borvik {
 
 namespace {
-
-/// True when the one converter would find a number at the head of the text.
-bool startsWithNumber(const std::string& text) {
-    auto at = text.begin();
-    while (at != text.end() && *at == ' ') ++at;
-    if (at != text.end() && (*at == '+' || *at == '-')) ++at;
-    if (at != text.end() && (*at == '.' || *at == ',')) ++at;
-    return at != text.end() && std::isdigit(static_cast<unsigned char>(*at)) != 0;
-}
 
 std::int16_t toWholeNumber(double value) {
     using Limits = std::numeric_limits<std::int16_t>;
@@ -29,63 +21,35 @@ std::int16_t toWholeNumber(double value) {
 
 }  // namespace
 
-bool Range::holds(Single value) const {
-    const float number = value.stored();
-    const bool highEnough = withoutLowest ? number > lowest.stored() : number >= lowest.stored();
-    const bool lowEnough = withoutHighest ? number < highest.stored() : number <= highest.stored();
-    return !empty && highEnough && lowEnough;
-}
-
-std::string Range::inWords() const {
-    if (empty) return "none, until another value of this form is mended";
-    const std::string low = generalText(lowest), high = generalText(highest);
-    const bool hasLow = std::isfinite(double(lowest)), hasHigh = std::isfinite(double(highest));
-    if (hasLow && hasHigh && *this == between(lowest, highest)) return low + " to " + high;
-    std::string words;
-    if (hasLow) words = (withoutLowest ? "more than " : "at least ") + low;
-    if (hasHigh) words += std::string(hasLow ? ", " : "") + (withoutHighest ? "less than " : "at most ") + high;
-    return words;
-}
-
-Range anyNumber() {
-    return {};
-}
-
-Range noNumber() {
-    return {.empty = true};
-}
-
-Range atLeast(double lowest) {
-    return {.lowest = lowest};
-}
-
-Range atMost(double highest) {
-    return {.highest = highest};
-}
-
-Range moreThan(double lowest) {
-    return {.lowest = lowest, .withoutLowest = true};
-}
-
-Range between(double lowest, double highest) {
-    return {.lowest = lowest, .highest = highest};
+std::optional<std::string> plainNumber(const QString& typed) {
+    static const QRegularExpression form(QStringLiteral(R"(^[+-]?(\d+[.,]?\d*|[.,]\d+)([eE][+-]?\d+)?$)"));
+    QString text = typed.trimmed();
+    if (text.startsWith(QChar(0x2212))) text[0] = QLatin1Char('-');
+    if (!form.match(text).hasMatch()) return std::nullopt;
+    std::string number = text.toStdString();
+    // The converter holds what is too large at the end of 32 bits.
+    if (std::abs(DecimalValue(number).stored()) == std::numeric_limits<float>::max()) return std::nullopt;
+    return number;
 }
 
 NumberField::NumberField(Single& field)
-    : read_([&field] { return field; }), write_([&field](Single value) { field = value; }) {}
+    : place_(&field), read_([&field] { return field; }), write_([&field](Single value) { field = value; }) {}
 
 NumberField::NumberField(std::int16_t& field)
-    : read_([&field] { return Single(field); }), write_([&field](Single value) { field = toWholeNumber(value); }) {}
+    : place_(&field),
+      read_([&field] { return Single(field); }),
+      write_([&field](Single value) { field = toWholeNumber(value); }) {}
 
 NumberField::NumberField(std::string& field)
-    : read_([&field] { return DecimalValue(field); }), write_([&field](Single value) { field = generalText(value); }) {}
+    : place_(&field),
+      read_([&field] { return DecimalValue(field); }),
+      write_([&field](Single value) { field = generalText(value); }) {}
 
-FormBinder::FormBinder(Messages& messages, std::string mismatch, QObject* parent)
-    : QObject(parent), messages_(messages), mismatch_(std::move(mismatch)) {}
+FormBinder::FormBinder(const Project& project, Messages& messages, std::string mismatch, QObject* parent)
+    : QObject(parent), project_(project), messages_(messages), mismatch_(std::move(mismatch)) {}
 
 NumberBox* FormBinder::add(NumberRow row) {
     auto* box = new NumberBox(QString::fromStdString(row.name));
-    box->setMeaning(row.meaning);
     entries_.push_back(std::make_unique<Entry>(Entry{box, std::move(row)}));
     connect(box, &NumberBox::left, this, [this, box] { leave(box); });
     connect(box, &NumberBox::enterPressed, this, [this, box] { moveOn(box); });
@@ -99,10 +63,13 @@ void FormBinder::show() {
 }
 
 void FormBinder::show(NumberBox* box) {
-    const NumberRow& row = entryOf(box)->row;
+    const Entry& entry = *entryOf(box);
+    const NumberRow& row = entry.row;
     const char* mask = row.maskWhenFilled != nullptr ? row.maskWhenFilled : row.mask;
     box->showText(QString::fromStdString(formatNumber(row.field.get(), mask)));
     box->clearRefusal();
+    if (standsOutside(row)) box->markRefused(tr("Outside the values that this box takes"));
+    describe(entry);
     if (box->hasFocus()) box->selectAll();  // as on entry: typing replaces what has just been shown
 }
 
@@ -118,6 +85,46 @@ bool FormBinder::commitFocused() {
     return refusal == nullptr;
 }
 
+void FormBinder::refresh() {
+    for (const auto& entry : entries_) {
+        if (entry->box->edited()) continue;
+        if (standsOutside(entry->row)) {
+            if (!entry->box->refused()) entry->box->markRefused(tr("Outside the values that this box takes"));
+        } else if (rangeOf(entry->row).holds(entry->row.field.get())) {
+            entry->box->clearRefusal();
+        }
+        describe(*entry);
+    }
+}
+
+Range FormBinder::rangeOf(const NumberRow& row) const {
+    return row.range ? row.range() : inputNumber(project_, row.field.place()).range;
+}
+
+std::vector<const NumberRow*> FormBinder::rows() const {
+    std::vector<const NumberRow*> all;
+    for (const auto& entry : entries_) all.push_back(&entry->row);
+    return all;
+}
+
+/// True for a stored value that would be refused if it were typed, and that something reads.
+bool FormBinder::standsOutside(const NumberRow& row) const {
+    if (row.range) return !row.range().holds(row.field.get());
+    const InputNumber number = inputNumber(project_, row.field.place());
+    return number.counts && !number.range.holds(number.value);
+}
+
+/// The tool tip: what the value is, what the box takes, and the digits that its mask doesn't show.
+void FormBinder::describe(const Entry& entry) {
+    QString tip = entry.row.meaning + QLatin1Char('\n') +
+                  tr("Allowed: %1").arg(QString::fromStdString(rangeOf(entry.row).inWords()));
+    const std::string whole = generalText(entry.row.field.get());
+    if (!entry.box->edited() &&
+        DecimalValue(entry.box->text().toStdString()).stored() != entry.row.field.get().stored())
+        tip += QLatin1Char('\n') + tr("Holds %1").arg(QString::fromStdString(whole));
+    entry.box->setMeaning(tip);
+}
+
 FormBinder::Entry* FormBinder::entryOf(const QObject* box) {
     const auto found =
         std::find_if(entries_.begin(), entries_.end(), [box](const auto& entry) { return entry->box == box; });
@@ -130,26 +137,26 @@ const char* FormBinder::commit(Entry& entry) {
     const bool edited = box->edited();
     if (edited) {
         // A value that was only looked at keeps the digits that its mask doesn't show.
-        const std::string text = box->text().toStdString();
-        if (!startsWithNumber(text)) {
-            box->markRefused(QCoreApplication::translate("FormBinder", "A number is needed here"));
+        const auto number = plainNumber(box->text());
+        if (!number) {
+            box->markRefused(tr("A number is needed here, without blanks, group signs or units"));
             return mismatch_.c_str();
         }
-        row.field.set(DecimalValue(text));
+        row.field.set(DecimalValue(*number));
     }
     const Single value = row.field.get();
     box->showText(QString::fromStdString(formatNumber(value, row.mask)));
-    const Range range = row.range();
-    if (!range.holds(value)) {
-        box->markRefused(QCoreApplication::translate("FormBinder", "Refused. Allowed: ") +
-                         QString::fromStdString(range.inWords()));
-        return row.message;
+    if (!rangeOf(row).holds(value)) {
+        box->markRefused(tr("Refused"));
+        describe(entry);
+        return std::isfinite(value.stored()) ? row.message : mismatch_.c_str();
     }
     box->clearRefusal();
     if (edited) {
         if (row.accepted) row.accepted();
         if (accepted) accepted();
     }
+    refresh();
     return nullptr;
 }
 
@@ -168,6 +175,9 @@ void FormBinder::tell(Entry& entry, const char* refusal) {
     goingBack_ = true;
     messages_.show(refusal);
     if (refusal == entry.row.message && entry.row.refused) entry.row.refused();
+    // The box that the focus had passed on to hears nothing of the way back, since the window isn't active yet.
+    for (const auto& each : entries_)
+        if (each.get() != &entry) each->box->rest();
     entry.box->setFocus(Qt::OtherFocusReason);
     entry.box->selectAll();
     goingBack_ = false;
@@ -180,13 +190,9 @@ void FormBinder::moveOn(const NumberBox* from) {
     const auto next = std::find_if(current + 1, entries_.end(), [](const auto& entry) {
         return entry->box->isEnabled() && !entry->box->isReadOnly() && entry->box->isVisible();
     });
-    if (next != entries_.end()) {
-        (*next)->box->setFocus(Qt::TabFocusReason);
-    } else if (QWidget* after = from->window()->findChild<QWidget*>(QStringLiteral("cmdOK"))) {
-        after->setFocus(Qt::TabFocusReason);
-    } else {
-        from->nextInFocusChain()->setFocus(Qt::TabFocusReason);
-    }
+    QWidget* to = next != entries_.end() ? (*next)->box : afterLast != nullptr ? afterLast : from->nextInFocusChain();
+    from->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // a button shows its ring, as after Tab
+    to->setFocus(Qt::TabFocusReason);
 }
 
 bool FormBinder::moveInGrid(const NumberBox* from, int key) {

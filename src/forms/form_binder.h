@@ -3,38 +3,17 @@
 #include <QObject>
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/single.h"
 #include "forms/number_box.h"
 #include "platform/messages.h"
+#include "project/input_ranges.h"
 
 namespace borvik {
-
-/// The values that a box accepts. Limits are stored numbers, so that the comparison is one of single precision: 0.8
-/// typed meets a limit of 0.8.
-struct Range {
-    Single lowest = -std::numeric_limits<double>::infinity();
-    Single highest = std::numeric_limits<double>::infinity();
-    bool withoutLowest = false;  ///< the limit itself is refused
-    bool withoutHighest = false;
-    bool empty = false;  ///< nothing is accepted
-
-    [[nodiscard]] bool holds(Single value) const;
-    bool operator==(const Range&) const = default;
-    /// In words for the tool tip: "0.1 to 0.8", "at least 5", "more than 100".
-    [[nodiscard]] std::string inWords() const;
-};
-
-[[nodiscard]] Range anyNumber();
-[[nodiscard]] Range noNumber();
-[[nodiscard]] Range atLeast(double lowest);
-[[nodiscard]] Range atMost(double highest);
-[[nodiscard]] Range moreThan(double lowest);
-[[nodiscard]] Range between(double lowest, double highest);
 
 /// Where a number of a box lives: a field of the record of any width, or a text of the record that holds a number.
 class NumberField {
@@ -47,8 +26,11 @@ public:
 
     [[nodiscard]] Single get() const { return read_(); }
     void set(Single value) const { write_(value); }
+    /// The member itself, by which the project finds its limits; null for a pair of functions.
+    [[nodiscard]] const void* place() const { return place_; }
 
 private:
+    const void* place_ = nullptr;
     std::function<Single()> read_;
     std::function<void(Single)> write_;
 };
@@ -58,9 +40,9 @@ struct NumberRow {
     std::string name;  ///< of the control
     NumberField field;
     const char* mask;
-    std::function<Range()> range;          ///< asked at each test, since some limits move with other input
+    std::function<Range()> range = {};     ///< asked at each test; left out: what the project knows of the field
     const char* message = "";              ///< when the test fails, word for word
-    QString meaning;                       ///< tool tip: what the value is, and its clause
+    QString meaning;                       ///< what the value is, and its clause; the tool tip adds the range
     std::function<void()> accepted = {};   ///< after a changed value has passed the test
     std::function<void()> refused = {};    ///< after the message of a failed test, before the focus goes back
     const char* maskWhenFilled = nullptr;  ///< when the form is filled from the record, if another than `mask`
@@ -71,13 +53,23 @@ struct NumberRow {
     return [range] { return range; };
 }
 
+/// The number that a user has typed, as a text for `DecimalValue`: sign, digits, one decimal sign (comma or point),
+/// perhaps an exponent, blanks and tabs of any kind around it. A typographic minus is a minus.
+/// @return nullopt for everything else, so that nothing is cut off in silence ("1 850", "12kN"), and for a number that
+///         32 bits can't hold
+[[nodiscard]] std::optional<std::string> plainNumber(const QString& typed);
+
 /// Gives all numeric boxes of a form the same manners: on leaving, the text is converted, stored, shown by its mask and
-/// tested; a value that fails stays stored, is marked at its box, brings its message and the focus back. Enter moves on
-/// in the order in which the rows were added; arrow keys walk over a grid where there is one.
+/// tested; a value that fails stays stored, is marked at its box, brings its message and the focus back. A stored value
+/// that counts and would fail is marked when the form is filled. Enter moves on in the order in which the rows were
+/// added, and from the last one to the button that closes the form; arrow keys walk over a grid where there is one.
 class FormBinder : public QObject {
+    Q_OBJECT
+
 public:
+    /// @param project   knows the limits of its fields
     /// @param mismatch  the message for a text that is no number
-    FormBinder(Messages& messages, std::string mismatch, QObject* parent);
+    FormBinder(const Project& project, Messages& messages, std::string mismatch, QObject* parent);
 
     /// Makes the box of a row, and fills it from the record.
     NumberBox* add(NumberRow row);
@@ -96,8 +88,17 @@ public:
     /// A refusal whose message is still to come, since the focus has only just moved.
     [[nodiscard]] bool refusalPending() const { return pending_ != nullptr; }
 
+    /// To be called after every change of the form's input: marks and tool tips follow limits that have moved.
+    void refresh();
+    /// The values that a box takes at the moment.
+    [[nodiscard]] Range rangeOf(const NumberRow& row) const;
+    /// The rows in the order of Enter.
+    [[nodiscard]] std::vector<const NumberRow*> rows() const;
+
     /// Called after each accepted change of a box, behind the row's own action.
     std::function<void()> accepted;
+    /// Where Enter goes from the last box.
+    QWidget* afterLast = nullptr;
 
 private:
     struct Entry {
@@ -106,6 +107,8 @@ private:
     };
 
     [[nodiscard]] Entry* entryOf(const QObject* box);
+    void describe(const Entry& entry);
+    [[nodiscard]] bool standsOutside(const NumberRow& row) const;
     /// @return the message of a refusal, or null when the value was taken
     const char* commit(Entry& entry);
     void leave(NumberBox* box);
@@ -113,6 +116,7 @@ private:
     void moveOn(const NumberBox* from);
     bool moveInGrid(const NumberBox* from, int key);
 
+    const Project& project_;
     Messages& messages_;
     std::string mismatch_;
     std::vector<std::unique_ptr<Entry>> entries_;

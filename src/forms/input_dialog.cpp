@@ -1,15 +1,18 @@
 #include "forms/input_dialog.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <map>
 
 namespace borvik {
 
@@ -21,6 +24,18 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
 };
 
+/// Where the user begins: the first box that can be filled in, else the first control that Tab reaches.
+QWidget* firstStop(QWidget* form) {
+    QWidget* control = nullptr;
+    for (QWidget* each = form->nextInFocusChain(); each != form; each = each->nextInFocusChain()) {
+        if (!each->isVisibleTo(form) || !each->isEnabled() || (each->focusPolicy() & Qt::TabFocus) == 0) continue;
+        const auto* box = qobject_cast<NumberBox*>(each);
+        if (box != nullptr && !box->isReadOnly()) return each;
+        if (control == nullptr) control = each;
+    }
+    return control;
+}
+
 }  // namespace
 
 InputDialog::InputDialog(const std::string& name, const QString& title, Session& session, Messages& messages,
@@ -29,7 +44,7 @@ InputDialog::InputDialog(const std::string& name, const QString& title, Session&
       session_(session),
       project_(session.project),
       messages_(messages),
-      binder_(messages, std::move(mismatch), this),
+      binder_(session.project, messages, std::move(mismatch), this),
       changed_(std::move(changed)) {
     setObjectName(QString::fromStdString(name));
     setWindowTitle(title);
@@ -52,11 +67,22 @@ void InputDialog::done(int result) {
 
 void InputDialog::inputChanged() {
     session_.inputChanged();
+    binder_.refresh();
     if (changed_) changed_();
+}
+
+QPushButton* InputDialog::closeButton(const std::string& name, const QString& text, const QString& tip,
+                                      std::function<void()> clicked) {
+    if (!clicked) clicked = [this] { accept(); };
+    QPushButton* button = makeButton(name, text, tip, std::move(clicked));
+    button->setShortcut(Qt::ALT | Qt::Key_C);
+    binder_.afterLast = button;
+    return button;
 }
 
 void InputDialog::setContent(QLayout* content) {
     auto* area = new WholeContentArea;
+    area->setFocusPolicy(Qt::NoFocus);  // it shows no focus, and would take that of the first box
     auto* inside = new QWidget;
     inside->setLayout(content);
     area->setWidget(inside);
@@ -67,6 +93,7 @@ void InputDialog::setContent(QLayout* content) {
     outer->addWidget(area);
     // Enter moves on from box to box and must never press a button that doesn't have the focus.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+    joinOptions(this);
 }
 
 void InputDialog::showEvent(QShowEvent* event) {
@@ -75,6 +102,9 @@ void InputDialog::showEvent(QShowEvent* event) {
         resize(sizeHint().boundedTo(room));
     }
     QDialog::showEvent(event);
+    if (event->spontaneous()) return;
+    setAttribute(Qt::WA_KeyboardFocusChange);  // what has the focus shows it from the beginning
+    if (QWidget* first = firstStop(this)) first->setFocus(Qt::TabFocusReason);
 }
 
 void InputDialog::keyPressEvent(QKeyEvent* event) {
@@ -85,6 +115,26 @@ void InputDialog::keyPressEvent(QKeyEvent* event) {
         qobject_cast<QAbstractButton*>(QApplication::focusWidget())->click();
     } else {
         QDialog::keyPressEvent(event);
+    }
+}
+
+void joinOptions(QWidget* form) {
+    std::map<QWidget*, QButtonGroup*> choices;
+    for (auto* option : form->findChildren<QRadioButton*>()) {
+        QButtonGroup*& choice = choices[option->parentWidget()];
+        if (choice == nullptr) choice = new QButtonGroup(option->parentWidget());
+        choice->addButton(option);
+    }
+    for (const auto& each : choices) {
+        const QButtonGroup* choice = each.second;
+        // Tab goes to the option that is chosen, also before any of them has had the focus.
+        const auto letTabReachTheChosen = [choice] {
+            const QAbstractButton* chosen = choice->checkedButton();
+            for (QAbstractButton* option : choice->buttons())
+                option->setFocusPolicy(chosen == nullptr || option == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+        };
+        letTabReachTheChosen();
+        QObject::connect(choice, &QButtonGroup::buttonToggled, choice, letTabReachTheChosen);
     }
 }
 

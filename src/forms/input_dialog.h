@@ -36,7 +36,11 @@ protected:
 
     /// The input has changed: results are out of reach and the main window's sketch follows.
     void inputChanged();
-    /// Puts the form together; what doesn't fit a small screen can be scrolled.
+    /// The button that closes the form: Alt+C presses it, Enter in the last box goes to it.
+    /// @param clicked  what it does; left out: accept()
+    [[nodiscard]] QPushButton* closeButton(const std::string& name, const QString& text, const QString& tip,
+                                           std::function<void()> clicked = {});
+    /// Puts the form together; what doesn't fit a small screen can be scrolled. Options in one frame are one choice.
     void setContent(QLayout* content);
 
     void showEvent(QShowEvent* event) override;
@@ -51,6 +55,10 @@ private:
     std::function<void()> changed_;
     const NumberBox* refusedAtClosing_ = nullptr;
 };
+
+/// Makes one choice of the options of each frame of a form, so that an inner frame of options and an outer one leave
+/// each other alone, and Tab goes to the chosen one.
+void joinOptions(QWidget* form);
 
 /// A group of a form, with an empty grid to be filled.
 struct Group {

@@ -48,9 +48,8 @@ LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void(
     picture_->setToolTip(tr("Numbers of the wheels and their distances"));
     content->addWidget(picture_, 2, 0, 1, 2);
     content->setRowStretch(2, 1);
-    content->addWidget(
-        makeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); }), 3, 1,
-        Qt::AlignRight);
+    content->addWidget(closeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form")), 3, 1,
+                       Qt::AlignRight);
     setContent(content);
     binder_.accepted = edited;
     Write();
@@ -90,7 +89,6 @@ Group LoadDialog::gangway() {
            binder_.add({.name = "txtGangway",
                         .field = project_.Gangway,
                         .mask = "0.0",
-                        .range = fixed(atLeast(0)),
                         .message = " Load must be >= 0 ",
                         .meaning = tr("Characteristic load of the gangway along the beam, EN 1991-3, 2.9")}),
            tr("kN/m"));
@@ -110,7 +108,6 @@ Group LoadDialog::numberOfCranes() {
         binder_.add({.name = "txtMinAvst",
                      .field = project_.MinAvst,
                      .mask = "#0",
-                     .range = fixed(moreThan(100)),
                      .message = " Min distance 100 ",
                      .meaning = tr("Smallest distance from the last wheel of crane 1 to the first of crane 2"),
                      // The box offers the smallest whole distance; the record keeps what was entered until then.
@@ -156,8 +153,10 @@ Group LoadDialog::loads() {
             "cmdInfoLoadComb", tr("Info"), tr("Explain the load combinations"),
             [this] { showInfoPicture("frmInfoLoadComb", tr("Load combinations"), loadCombinationPicture(), this); }),
         0, 1);
-    group.grid->addWidget(
-        makeButton("Command1", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); }), 1, 1);
+    QPushButton* second =
+        makeButton("Command1", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); });
+    second->setShortcut({});  // two buttons of one key would only pass the focus to each other
+    group.grid->addWidget(second, 1, 1);
     return group;
 }
 

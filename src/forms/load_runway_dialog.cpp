@@ -30,9 +30,8 @@ LoadRunwayDialog::LoadRunwayDialog(Session& session, Messages& messages, std::fu
     wheels_->setToolTip(tr("Numbers of the wheels and their distances"));
     content->addWidget(wheels_, 2, 0, 1, 2);
     content->addWidget(combinations().box, 3, 0, 1, 2);
-    content->addWidget(
-        makeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form"), [this] { accept(); }), 4, 1,
-        Qt::AlignRight);
+    content->addWidget(closeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form")), 4, 1,
+                       Qt::AlignRight);
     setContent(content);
     binder_.accepted = edited;
     Write();
@@ -66,7 +65,6 @@ Group LoadRunwayDialog::runway() {
         binder_.add({.name = "inn",
                      .field = project_.Inn,
                      .mask = "#0",
-                     .range = fixed(atLeast(5)),
                      .message = " n >= 5 ",
                      .meaning = tr(
                          "Distance of the wheel's contact point from the tip of the flange, EN 1993-6, 5.8 and 6.7")}),

@@ -35,30 +35,45 @@ bool NumberBox::edited() const {
     return isModified() || text() != shown_;
 }
 
-void NumberBox::markRefused(const QString& allowed) {
+void NumberBox::markRefused(const QString& why) {
     refused_ = true;
     refusedText_ = text();
-    setToolTip(allowed + QLatin1String("\n") + meaning_);
-    setAccessibleDescription(allowed);
-    update();
+    why_ = why;
+    setTextMargins(markWidth(), 0, 0, 0);  // the sign stays beside a long number
+    showTip();
 }
 
 void NumberBox::clearRefusal() {
     refused_ = false;
-    setToolTip(meaning_);
-    setAccessibleDescription(meaning_);
-    update();
+    why_.clear();
+    setTextMargins(0, 0, 0, 0);
+    showTip();
 }
 
 void NumberBox::setMeaning(const QString& meaning) {
     meaning_ = meaning;
-    clearRefusal();
+    showTip();
+}
+
+void NumberBox::showTip() {
+    const QString tip = why_.isEmpty() ? meaning_ : why_ + QLatin1Char('\n') + meaning_;
+    setToolTip(tip);
+    setAccessibleDescription(tip);
+    update();
+}
+
+void NumberBox::rest() {
+    paintBackground(kRestingWhite);
+    deselect();
+}
+
+int NumberBox::markWidth() const {
+    return fontMetrics().height() / 2;
 }
 
 QSize NumberBox::sizeHint() const {
     const int width = fontMetrics().horizontalAdvance(QLatin1Char('0')) * kCharacters;
-    const QMargins margins = textMargins();
-    return {width + margins.left() + margins.right() + fontMetrics().height(), QLineEdit::sizeHint().height()};
+    return {width + markWidth() + fontMetrics().height(), QLineEdit::sizeHint().height()};
 }
 
 void NumberBox::paintBackground(const QColor& colour) {
@@ -83,8 +98,7 @@ void NumberBox::focusInEvent(QFocusEvent* event) {
 void NumberBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    paintBackground(kRestingWhite);
-    deselect();
+    rest();
     Q_EMIT left();
 }
 

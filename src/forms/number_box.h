@@ -18,14 +18,17 @@ public:
     /// True when the user, or somebody in his place, has changed the text since it was last shown.
     [[nodiscard]] bool edited() const;
 
-    /// Marks the box as holding a refused value: red frame, an exclamation mark, and `allowed` in the tool tip.
-    void markRefused(const QString& allowed);
+    /// Marks the box as holding a value that it doesn't take: red frame, an exclamation mark, and `why` above the
+    /// meaning in the tool tip.
+    void markRefused(const QString& why);
     void clearRefusal();
     [[nodiscard]] bool refused() const { return refused_; }
     /// Refused, and the text is still the refused one.
     [[nodiscard]] bool standsRefused() const { return refused_ && text() == refusedText_; }
-    /// The tool tip of a box that isn't refused.
+    /// The tool tip, below what a refusal adds.
     void setMeaning(const QString& meaning);
+    /// White again, for a box that can't see by itself that the focus has gone.
+    void rest();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -47,9 +50,12 @@ protected:
 
 private:
     void paintBackground(const QColor& colour);
+    void showTip();
+    [[nodiscard]] int markWidth() const;
 
     QString shown_;
     QString meaning_;
+    QString why_;
     QString refusedText_;
     bool refused_ = false;
     bool selectOnRelease_ = false;

@@ -20,8 +20,7 @@ ProfReinfDialog::ProfReinfDialog(Session& session, Messages& messages, std::func
     content->addWidget(picture_, 0, 1, 3, 1);
     content->setRowStretch(2, 1);
     content->setColumnStretch(1, 1);
-    content->addWidget(makeButton("Command1", tr("Close"), tr("Close the form"), [this] { accept(); }), 3, 1,
-                       Qt::AlignRight);
+    content->addWidget(closeButton("Command1", tr("Close"), tr("Close the form")), 3, 1, Qt::AlignRight);
     setContent(content);
     binder_.accepted = [this] { update(); };
 }

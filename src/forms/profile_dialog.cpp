@@ -74,8 +74,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
     content->addLayout(middle, 0, 1);
     content->addWidget(results_, 0, 2);
     content->setColumnStretch(1, 1);
-    content->addWidget(makeButton("Command1", tr("Close"), tr("Close the form"), [this] { accept(); }), 1, 2,
-                       Qt::AlignRight);
+    content->addWidget(closeButton("Command1", tr("Close"), tr("Close the form")), 1, 2, Qt::AlignRight);
     setContent(content);
     binder_.accepted = [this] {
         UpdateResult();

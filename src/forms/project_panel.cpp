@@ -8,6 +8,7 @@
 #include <QLabel>
 
 #include "base/number_text.h"
+#include "forms/input_dialog.h"
 
 namespace borvik {
 
@@ -28,12 +29,13 @@ bool isGeneral(const Project& project) {
 }  // namespace
 
 ProjectPanel::ProjectPanel(Session& session, Messages& messages, QWidget* parent)
-    : QWidget(parent), session_(session), binder_(messages, "Input string mismatch ", this) {
+    : QWidget(parent), session_(session), binder_(session.project, messages, "Input string mismatch ", this) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(namesBox());
     layout->addWidget(materialBox());
     layout->addWidget(craneTypeBox());
+    joinOptions(this);
 }
 
 QWidget* ProjectPanel::namesBox() {
@@ -69,7 +71,6 @@ QWidget* ProjectPanel::materialBox() {
     ifyk_ = binder_.add({.name = "ifyk",
                          .field = session_.project.fyk,
                          .mask = "#00",
-                         .range = fixed(between(50, 2000)),
                          .message = " 50 <= fyk <= 2000 ",
                          .meaning = tr("Characteristic yield strength"),
                          .accepted = changed,

@@ -20,8 +20,7 @@ RailDialog::RailDialog(Session& session, Messages& messages, std::function<void(
     content->addWidget(fastening().box, 1, 0);
     content->addWidget(picture_, 0, 1, 2, 1);
     content->setColumnStretch(1, 1);
-    content->addWidget(makeButton("cmdOK", tr("Close"), tr("Close the form"), [this] { accept(); }), 2, 1,
-                       Qt::AlignRight);
+    content->addWidget(closeButton("cmdOK", tr("Close"), tr("Close the form")), 2, 1, Qt::AlignRight);
     setContent(content);
     cboRail_->setCurrentIndex(FindRail(session_.tables, project_.RailName));
     writeList();

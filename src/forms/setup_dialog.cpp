@@ -17,9 +17,8 @@ SetupDialog::SetupDialog(Session& session, Messages& messages, std::function<voi
     content->addWidget(shearFactor().box, 2, 0);
     content->addWidget(bucklingParameters().box, 1, 1);
     content->addWidget(partialFactors().box, 2, 1);
-    content->addWidget(
-        makeButton("CmdOK", tr("Close"), tr("Close the form; all values are stored already"), [this] { accept(); }), 3,
-        1, Qt::AlignRight);
+    content->addWidget(closeButton("CmdOK", tr("Close"), tr("Close the form; all values are stored already")), 3, 1,
+                       Qt::AlignRight);
     content->setRowStretch(4, 1);
     setContent(content);
     binder_.accepted = [this] {
@@ -34,27 +33,20 @@ void SetupDialog::WriteSetup() {
     lstCombination_->write(project_, CombinationText::WithPermanentLoad);
 }
 
-NumberBox* SetupDialog::factor(const char* name, Single& field, double lowest, double highest, const char* message,
-                               const QString& meaning) {
-    return binder_.add({.name = name,
-                        .field = field,
-                        .mask = "0.00",
-                        .range = fixed(between(lowest, highest)),
-                        .message = message,
-                        .meaning = meaning});
+NumberBox* SetupDialog::factor(const char* name, Single& field, const char* message, const QString& meaning) {
+    return binder_.add({.name = name, .field = field, .mask = "0.00", .message = message, .meaning = meaning});
 }
 
 Group SetupDialog::loadFactors() {
     const Group group = makeGroup("frULS", tr("ULS/SLS/FLS Loadfactors"));
-    // 0 is accepted although the message says "0 <": a limit state can be switched off by its factor.
     addRow(group.grid, tr("ULS   Brott   Loadfactor ="),
-           factor("iLfULS", project_.LfULS, 0.0, 4.0, " 0 < Loadfactor < 4.0 ",
+           factor("iLfULS", project_.LfULS, " 0 < Loadfactor < 4.0 ",
                   tr("Load factor of the ultimate limit state, EN 1990 Table A1.2(B), EN 1991-3 Annex A")));
     addRow(group.grid, tr("SLS   Bruk   Loadfactor ="),
-           factor("iLfSLS", project_.LfSLS, 0.0, 4.0, " 0 < Loadfactor < 4.0 ",
+           factor("iLfSLS", project_.LfSLS, " 0 < Loadfactor < 4.0 ",
                   tr("Load factor of the serviceability limit state, EN 1990, 6.5.3")));
     addRow(group.grid, tr("FLS   Bruk   Loadfactor ="),
-           factor("igammaFf", project_.GammaFf, 0.5, 1.5, " 0.5 <= gammaFf <=1.5 ",
+           factor("igammaFf", project_.GammaFf, " 0.5 <= gammaFf <=1.5 ",
                   tr("γFf, partial factor of the fatigue load, EN 1993-1-9, 3")));
     lstCombination_ = new CombinationList;
     group.grid->addWidget(lstCombination_, 0, 3, group.grid->rowCount(), 1);
@@ -69,16 +61,12 @@ Group SetupDialog::deflectionLimits() {
            binder_.add({.name = "txtDefY",
                         .field = project_.DefY,
                         .mask = "#00",
-                        // The lower limit looks at the vertical limit: a project whose DefZ is below 200 refuses any
-                        // DefY, and with a sound DefZ the horizontal limit may be as loose as one likes.
-                        .range = [this] { return double(project_.DefZ) >= 200 ? atMost(2000) : noNumber(); },
                         .message = message,
                         .meaning = tr("Horizontal deflection limit L/…, EN 1993-6 Table 7.1 a)")}));
     addRow(group.grid, tr("Vertical:  dz <= L/ "),
            binder_.add({.name = "txtDefZ",
                         .field = project_.DefZ,
                         .mask = "#00",
-                        .range = fixed(between(200, 2000)),
                         .message = message,
                         .meaning = tr("Vertical deflection limit L/…, EN 1993-6 Table 7.2 a)")}));
     addWide(group.grid, new QLabel(tr("See EN 1993-6 Table: 7:1/7:2 ")));
@@ -93,7 +81,7 @@ Group SetupDialog::deflectionLimits() {
 Group SetupDialog::shearFactor() {
     const Group group = makeGroup("frameneta", tr("Shear acc to 6.2.6 (3)"));
     addRow(group.grid, tr("Factor  n ="),
-           factor("ineta", project_.Eta, 1.0, 1.2, " 1 <= neta <=1.2 ",
+           factor("ineta", project_.Eta, " 1 <= neta <=1.2 ",
                   tr("η of the shear area, EN 1993-1-1, 6.2.6(3) and EN 1993-1-5, 5.1(2)")));
     addWide(group.grid, new QLabel(tr("See EN 1993-1-5, ch 5.1")));
     group.grid->setRowStretch(group.grid->rowCount(), 1);
@@ -116,12 +104,11 @@ Group SetupDialog::bucklingParameters() {
     };
     const QString lamdaMeaning = tr("λLT,0, length of the plateau of the buckling curves, EN 1993-1-1, 6.3.2.3(1)");
     const QString betaMeaning = tr("β of the buckling curves, EN 1993-1-1, 6.3.2.3(1)");
-    auto* rolledLamda = factor("ilamdaLT0", project_.LamdaLT0, 0.1, 0.8, lamda, lamdaMeaning);
-    auto* weldedLamda = factor("ilamdaLT0w", project_.LamdaLT0w, 0.1, 0.8, lamda, lamdaMeaning);
+    auto* rolledLamda = factor("ilamdaLT0", project_.LamdaLT0, lamda, lamdaMeaning);
+    auto* weldedLamda = factor("ilamdaLT0w", project_.LamdaLT0w, lamda, lamdaMeaning);
     row(tr("lamdaLT,0 ="), rolledLamda, weldedLamda, tr(" Recommended maximum value 0.4 "));
-    // The message of beta names 0.8 though anything up to 1.0 is accepted.
-    auto* rolledBeta = factor("ibeta", project_.Beta, 0.1, 1.0, " 0.1 <= beta <= 0.8 ", betaMeaning);
-    auto* weldedBeta = factor("ibetaw", project_.Betaw, 0.1, 1.0, " 0.1 <= beta <= 1 ", betaMeaning);
+    auto* rolledBeta = factor("ibeta", project_.Beta, " 0.1 <= beta <= 0.8 ", betaMeaning);
+    auto* weldedBeta = factor("ibetaw", project_.Betaw, " 0.1 <= beta <= 1 ", betaMeaning);
     row(tr("beta ="), rolledBeta, weldedBeta, tr(" Recommended minimum value 0.75 "));
     return group;
 }
@@ -129,13 +116,13 @@ Group SetupDialog::bucklingParameters() {
 Group SetupDialog::partialFactors() {
     const Group group = makeGroup("framegamma", tr("Partial factor for Resistance"));
     addRow(group.grid, tr("Section Control:  gM0 ="),
-           factor("igammam0", project_.GammaM0, 0.5, 1.5, " 0.5 <= gammam0 <=1.5 ",
+           factor("igammam0", project_.GammaM0, " 0.5 <= gammam0 <=1.5 ",
                   tr("γM0, resistance of cross-sections, EN 1993-1-1, 6.1(1)")));
     addRow(group.grid, tr("Buckling Control:  gM1 ="),
-           factor("igammam1", project_.GammaM1, 0.5, 1.5, " 0.5 <= gammam1 <=1.5 ",
+           factor("igammam1", project_.GammaM1, " 0.5 <= gammam1 <=1.5 ",
                   tr("γM1, resistance of members to instability, EN 1993-1-1, 6.1(1)")));
     addRow(group.grid, tr("Fatigue resistance:gMf ="),
-           factor("igammaMf", project_.GammaMf, 0.5, 1.5, " 0.5 <= gammaMf <=1.5 ",
+           factor("igammaMf", project_.GammaMf, " 0.5 <= gammaMf <=1.5 ",
                   tr("γMf, fatigue resistance, EN 1993-1-9 Table 3.1")));
     group.grid->addWidget(makeButton("Command2", tr("Info"), tr("Explain the partial factors of fatigue"),
                                      [this] {

@@ -21,8 +21,7 @@ private:
     Group shearFactor();
     Group bucklingParameters();
     Group partialFactors();
-    NumberBox* factor(const char* name, Single& field, double lowest, double highest, const char* message,
-                      const QString& meaning);
+    NumberBox* factor(const char* name, Single& field, const char* message, const QString& meaning);
 
     CombinationList* lstCombination_;
 };

@@ -16,9 +16,8 @@ VippingDialog::VippingDialog(Session& session, Messages& messages, std::function
     auto* content = new QGridLayout;
     content->addWidget(method().box, 0, 0);
     content->addWidget(factors().box, 1, 0);
-    content->addWidget(
-        makeButton("ok", tr("Close"), tr("Close the form; all values are stored already"), [this] { accept(); }), 2, 0,
-        Qt::AlignRight);
+    content->addWidget(closeButton("ok", tr("Close"), tr("Close the form; all values are stored already")), 2, 0,
+                       Qt::AlignRight);
     setContent(content);
     chkDefaultCfactor_->setChecked(project_.DefaultCfactor);
     useDefaultFactors(project_.DefaultCfactor);
@@ -97,7 +96,6 @@ NumberBox* VippingDialog::factor(const char* name, Single& field, int order) {
     NumberBox* box = binder_.add({.name = name,
                                   .field = field,
                                   .mask = "0.000",
-                                  .range = fixed(atLeast(order == 1 ? 1.0 : 0.3)),
                                   .message = messages[order - 1],
                                   .meaning = meanings[order - 1]});
     boxes_.push_back(box);
