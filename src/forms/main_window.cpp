@@ -13,6 +13,7 @@
 #include "forms/frm_detailed_result.h"
 #include "forms/help.h"
 #include "forms/icons.h"
+#include "project/input_ranges.h"
 
 namespace borvik {
 
@@ -153,6 +154,8 @@ QWidget* MainWindow::resultFrame() {
 void MainWindow::buildStatusBar() {
     stateCalculated_ = new QLabel;
     stateCalculated_->setObjectName("stateCalculated");
+    stateRanges_ = new QLabel;
+    stateRanges_->setObjectName("stateRanges");
     stateGoverning_ = new QLabel;
     stateGoverning_->setObjectName("stateGoverning");
     stateTime_ = new QLabel;
@@ -164,9 +167,10 @@ void MainWindow::buildStatusBar() {
     stateNotes_->setAutoRaise(true);
     stateNotes_->setToolTip(tr("What the checks assume or leave out, where it matters in this project"));
     connect(stateNotes_, &QToolButton::clicked, this, &MainWindow::showNotes);
-    for (QLabel* label : {stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_}) label->setMargin(4);
-    for (QWidget* state :
-         std::initializer_list<QWidget*>{stateUnsaved_, stateGoverning_, stateNotes_, stateTime_, stateCalculated_})
+    for (QLabel* label : {stateRanges_, stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_})
+        label->setMargin(4);
+    for (QWidget* state : std::initializer_list<QWidget*>{stateRanges_, stateUnsaved_, stateGoverning_, stateNotes_,
+                                                          stateTime_, stateCalculated_})
         statusBar()->addPermanentWidget(state);
 }
 
@@ -200,10 +204,22 @@ void MainWindow::showState() {
     stateCalculated_->setText(current        ? tr("Calculated")
                               : calculation_ ? tr("Out of date: calculate again")
                                              : tr("Not calculated"));
+    showRanges();
     stateGoverning_->setVisible(current);
     stateTime_->setVisible(current);
     stateNotes_->setVisible(current);
     showHistory();
+}
+
+/// Values of a file, or of a form closed twice, that their forms don't take: the first in words, all in the tool tip.
+void MainWindow::showRanges() {
+    QStringList all;
+    for (const std::string& each : valuesOutOfRange(session_.project)) all += QString::fromStdString(each);
+    stateRanges_->setVisible(!all.isEmpty());
+    if (all.isEmpty()) return;
+    stateRanges_->setText(all.size() == 1 ? tr("\u26a0 %1").arg(all.first())
+                                          : tr("\u26a0 %1, and %2 more").arg(all.first()).arg(all.size() - 1));
+    stateRanges_->setToolTip(tr("The calculation takes these values as they stand:\n%1").arg(all.join('\n')));
 }
 
 bool MainWindow::event(QEvent* event) {

@@ -125,6 +125,7 @@ private:
     void print(int scope, PrintCommand command);
 
     void showState();
+    void showRanges();
     void showGoverning();
 
     Session& session_;
@@ -150,6 +151,7 @@ private:
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
     QLabel* stateCalculated_ = nullptr;
+    QLabel* stateRanges_ = nullptr;
     QLabel* stateGoverning_ = nullptr;
     QLabel* stateTime_ = nullptr;
     QToolButton* stateNotes_ = nullptr;

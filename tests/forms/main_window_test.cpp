@@ -245,6 +245,15 @@ TEST_F(MainWindowTest, theWheelPassesBoxesWithoutFocus) {
     EXPECT_NE(project().SteelGrade, "S355");
 }
 
+TEST_F(MainWindowTest, theStatusBarTellsOfValuesOutOfRange) {
+    EXPECT_FALSE(control<QLabel>("stateRanges").isVisible());
+    project().GammaM0 = 0.1;
+    project().Fat1C1 = 35;
+    window.WritefrmInput();
+    EXPECT_TRUE(control<QLabel>("stateRanges").isVisible());
+    EXPECT_TRUE(control<QLabel>("stateRanges").text().endsWith("gammaM0 = 0.1 lies outside 0.5 to 1.5, and 1 more"));
+}
+
 TEST_F(MainWindowTest, everyControlCanBeNamedAndReached) {
     for (QWidget* widget : window.centralWidget()->findChildren<QWidget*>()) {
         const bool input = qobject_cast<QLineEdit*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr ||

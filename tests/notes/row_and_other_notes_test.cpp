@@ -66,10 +66,22 @@ const NoteCase kCases[]{
          weldedSection(session, "Is", 600, 300, 300, 12, 40);
      },
      {}},
+    {"J1", [](Session& session) { session.project.GammaM0 = 0.1; }, {}},
 };
 
 TEST(RowAndOtherNotes, SpeakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
+}
+
+TEST(InputNotes, NameEachValueThatCountsAndItsRange) {
+    const Session session = calculated([](Session& made) {
+        made.project.GammaM0 = 0.1;
+        made.project.PsiH1 = 0.9;
+        made.project.DefaultCfactor = true;
+        made.project.C1EndNeg = made.project.PsiH2 = 0;  // not read: factors by default, one crane
+    });
+    EXPECT_EQ(findingOf(session, "J1")->remark,
+              "Setup: gammaM0 = 0.1 lies outside 0.5 to 1.5; Loads: Psi1H = 0.9 is not at least 1");
 }
 
 TEST(RowNotes, ALargerRatioThatRanksLowerIsNamed) {

@@ -31,7 +31,8 @@ constexpr Chapter kChapters[] = {{'A', "Loads and walk"},
                                  {'F', "Lateral torsional buckling"},
                                  {'G', "Fatigue"},
                                  {'H', "What the rows show"},
-                                 {'I', "What is not checked"}};
+                                 {'I', "What is not checked"},
+                                 {'J', "Values of the input"}};
 
 /// The text with what Markdown would read as its own signs escaped.
 std::string escaped(const std::string& text) {

@@ -23,6 +23,7 @@ namespace borvik {
 [[nodiscard]] std::span<const NoteRule> fatigueNotes();     // G: fatigue
 [[nodiscard]] std::span<const NoteRule> rowNotes();         // H: what the rows show
 [[nodiscard]] std::span<const NoteRule> missingNotes();     // I: checks of the standards that the program doesn't make
+[[nodiscard]] std::span<const NoteRule> inputNotes();       // J: values of the input
 
 /// A finding with no number: the rule matters here, and that is all.
 [[nodiscard]] inline std::optional<NoteFinding> matters(bool here, std::string remark = "") {

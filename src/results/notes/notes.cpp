@@ -52,7 +52,7 @@ bool before(const Note& a, const Note& b) {
 std::vector<NoteRule> allRules() {
     std::vector<NoteRule> rules;
     for (const auto chapter : {loadNotes(), sectionNotes(), bendingNotes(), wheelNotes(), deflectionNotes(),
-                               bucklingNotes(), fatigueNotes(), rowNotes(), missingNotes()})
+                               bucklingNotes(), fatigueNotes(), rowNotes(), missingNotes(), inputNotes()})
         rules.insert(rules.end(), chapter.begin(), chapter.end());
     return rules;
 }
