@@ -1,7 +1,14 @@
 #include "options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
 #include <map>
+#include <string_view>
+#include <system_error>
 
 #include "exit_codes.h"
 #include "pictures.h"
@@ -10,6 +17,8 @@
 #include "results/tables.h"
 
 namespace borvik {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -79,7 +88,12 @@ void addOptions(CLI::App& app, Options& options) {
     }
     app.add_option("--save", options.save, "Write the project as it stands after the run")->type_name("FILE.brvk");
     app.add_option("--fail-above", options.failAbove, "Exit 1 if any ratio is greater than X")
-        ->check(CLI::NonNegativeNumber)
+        ->check([](const std::string& text) {
+            double limit = -1.0;
+            const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
+            const bool isRatio = error == std::errc() && *end == '\0' && std::isfinite(limit) && limit >= 0.0;
+            return isRatio ? std::string() : "a ratio such as 1.0 is needed, not \"" + text + "\"";
+        })
         ->option_text("X");
     app.add_option("--walk", options.walk, "How the cranes are walked along the beam; both give the same results")
         ->type_name("plain|fast")
@@ -88,6 +102,44 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--quiet", options.quiet, "No progress, and no summary unless it is asked for");
     app.set_version_flag("--version", kProgramAndVersion);
     app.footer(kFooter);
+}
+
+bool sameFile(const std::string& one, const std::string& other) {
+    std::error_code notThere;
+    return one == other || fs::equivalent(one, other, notThere);
+}
+
+bool endsWith(std::string text, std::string_view ending) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text.ends_with(ending);
+}
+
+/// An output must never take the place of a project, its own or another: a forgotten file name before "*.brvk" makes
+/// the first project the output.
+void checkOutputs(const Options& options) {
+    struct Output {
+        const char* option;
+        const std::string& file;
+    };
+    const Output outputs[] = {{"--json", options.json},
+                              {"--xlsx", options.xlsx},
+                              {"--report", options.report},
+                              {"--png", options.picture},
+                              {"--save", options.save}};
+    for (const Output& output : outputs) {
+        if (output.file.empty() || output.file == "-") continue;
+        const bool isProject = output.option == std::string_view("--save");
+        if (!isProject && endsWith(output.file, ".brvk"))
+            throw CLI::ValidationError(output.option, "would overwrite the project " + output.file);
+        for (const std::string& input : options.files)
+            if (sameFile(output.file, input))
+                throw CLI::ValidationError(output.option, "would overwrite its input " + input);
+        for (const Output& other : outputs)
+            if (&other < &output && !other.file.empty() && sameFile(other.file, output.file))
+                throw CLI::ValidationError(output.option, "is the same file as that of " + std::string(other.option));
+    }
+    if (!options.picture.empty() && !endsWith(options.picture, ".png") && !endsWith(options.picture, ".svg"))
+        throw CLI::ValidationError("--png", options.picture + " ends in neither .png nor .svg");
 }
 
 /// What the single options can't see.
@@ -101,6 +153,7 @@ void checkTogether(const Options& options) {
         throw CLI::ValidationError("--xlsx", "takes the table of a single project");
     if (options.projects() > 1 && !options.picture.empty())
         throw CLI::ValidationError("--png", "takes the diagram of a single project");
+    checkOutputs(options);
 }
 
 }  // namespace
@@ -109,6 +162,9 @@ std::variant<Options, int> parseOptions(int argc, const char* const* argv) {
     Options options;
     CLI::App app("Checks steel crane runway beams to EN 1993 without a window.", "borvik-calc");
     addOptions(app, options);
+    app.failure_message([](const CLI::App* program, const CLI::Error& error) {
+        return program->get_name() + ": " + error.what() + "\nRun with --help for more information.\n";
+    });
     try {
         app.parse(argc, argv);
         checkTogether(options);

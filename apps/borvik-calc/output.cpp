@@ -1,11 +1,10 @@
 #include "output.h"
 
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
+#include <system_error>
 
+#include "base/whole_file.h"
 #include "pictures.h"
 #include "platform/version.h"
 #include "project/project_file.h"
@@ -23,11 +22,11 @@ namespace fs = std::filesystem;
 namespace {
 
 void writeText(const std::string& path, const std::string& text) {
-    errno = 0;
-    std::ofstream file(path, std::ios::binary);
-    file << text;
-    file.close();
-    if (!file) throw OutputError("can't write " + path + (errno != 0 ? std::string(": ") + std::strerror(errno) : ""));
+    try {
+        replaceFile(path, text);
+    } catch (const std::system_error& error) {
+        throw OutputError("can't write " + path + ": " + error.code().message());
+    }
 }
 
 void print(const std::string& text) {

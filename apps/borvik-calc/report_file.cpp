@@ -22,8 +22,7 @@ void saveReport(const Session& session, ReportScope scope, bool withNotes, const
     std::tm local{};
     localtime_r(&now, &local);
     const QString failed = savePdf(
-        QString::fromStdString(file),
-        [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
+        file, [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
         defaultPageLayout(),
         {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
     if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());

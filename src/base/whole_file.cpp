@@ -42,6 +42,9 @@ fs::path behindLinks(fs::path path) {
 }  // namespace
 
 std::string readFile(const std::string& path) {
+    std::error_code unknown;
+    const fs::file_status status = fs::status(path, unknown);
+    if (fs::exists(status) && !fs::is_regular_file(status)) fail(fs::is_directory(status) ? EISDIR : EINVAL);
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
     if (!file) fail(errno);
     std::string bytes;
@@ -83,25 +86,30 @@ private:
     int number_;
 };
 
+void writeAll(const Descriptor& file, const char* bytes, std::size_t count) {
+    while (count > 0) {
+        const ssize_t written = ::write(file.number(), bytes, count);
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) fail(errno);
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+}
+
+constexpr mode_t kUsual = 0666;    // less what the user's mask takes away
+constexpr mode_t kPrivate = 0600;  // until the file has the permissions of the one that it replaces
+
 /// A new file in a folder, removed at the end unless it has been renamed.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const fs::path& folder) : descriptor_(create(folder)) {}
+    TemporaryFile(const fs::path& folder, mode_t mode) : descriptor_(create(folder, mode)) {}
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile() {
         if (!path_.empty()) ::unlink(path_.c_str());
     }
 
-    void write(const char* bytes, std::size_t count) {
-        while (count > 0) {
-            const ssize_t written = ::write(descriptor_.number(), bytes, count);
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) fail(errno);
-            bytes += written;
-            count -= static_cast<std::size_t>(written);
-        }
-    }
+    void write(const char* bytes, std::size_t count) { writeAll(descriptor_, bytes, count); }
     /// Copies what an old file has behind `offset`.
     void writeTail(const fs::path& old, std::size_t offset) {
         const Descriptor source(::open(old.c_str(), O_RDONLY | O_CLOEXEC));
@@ -116,10 +124,11 @@ public:
             at += count;
         }
     }
+    /// Only the superuser may give a file away, and some network drives have no permissions: neither is a reason to
+    /// refuse to save. What can't be set leaves the file to its writer alone.
     void takeOwnerAndPermissions(const struct stat& old) {
-        // only the superuser may give a file away; everyone else keeps a file of his own
         const bool given = ::fchown(descriptor_.number(), old.st_uid, old.st_gid) == 0;
-        if (::fchmod(descriptor_.number(), old.st_mode & (given ? 07777U : 0777U)) != 0) fail(errno);
+        [[maybe_unused]] const int ignored = ::fchmod(descriptor_.number(), old.st_mode & (given ? 07777U : 0777U));
     }
     void renameTo(const fs::path& path) {
         if (::fsync(descriptor_.number()) != 0) fail(errno);
@@ -129,11 +138,11 @@ public:
     }
 
 private:
-    Descriptor create(const fs::path& folder) {
+    Descriptor create(const fs::path& folder, mode_t mode) {
         for (int i = 0;; ++i) {
             path_ =
                 folder / (kTemporaryPrefix + std::to_string(::getpid()) + "-" + std::to_string(i) + kTemporarySuffix);
-            const int number = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            const int number = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
             if (number >= 0) return Descriptor(number);
             if (errno != EEXIST) fail(errno);
         }
@@ -158,7 +167,11 @@ void removeLeftovers(const fs::path& folder) {
 
 }  // namespace
 
-void overwriteFile(const std::string& path, const std::string& bytes) {
+namespace {
+
+enum class Tail { Keep, Drop };
+
+void writeWhole(const std::string& path, const std::string& bytes, Tail tail) {
     const fs::path target = behindLinks(path);
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     struct stat old {};
@@ -167,10 +180,10 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     if (exists && !S_ISREG(old.st_mode)) fail(EINVAL);  // a device must not be replaced by a file
     if (exists && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) fail(errno);
 
-    TemporaryFile file(folder);
+    TemporaryFile file(folder, exists ? kPrivate : kUsual);
     file.write(bytes.data(), bytes.size());
     if (exists) {
-        file.writeTail(target, bytes.size());
+        if (tail == Tail::Keep) file.writeTail(target, bytes.size());
         file.takeOwnerAndPermissions(old);
     }
     file.renameTo(target);
@@ -180,13 +193,35 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     removeLeftovers(folder);
 }
 
-#else
+}  // namespace
 
 void overwriteFile(const std::string& path, const std::string& bytes) {
+    writeWhole(path, bytes, Tail::Keep);
+}
+
+void replaceFile(const std::string& path, const std::string& bytes) {
+    struct stat present {};
+    if (::stat(path.c_str(), &present) != 0 || S_ISREG(present.st_mode) || S_ISDIR(present.st_mode)) {
+        writeWhole(path, bytes, Tail::Drop);
+        return;
+    }
+    Descriptor open(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+    if (open.number() < 0) fail(errno);
+    writeAll(open, bytes.data(), bytes.size());
+    open.close();
+}
+
+#else
+
+namespace {
+
+enum class Tail { Keep, Drop };
+
+void writeWhole(const std::string& path, const std::string& bytes, Tail tail) {
     const fs::path target = behindLinks(path);
     const fs::path beside = fs::path(target) += ".tmp";
     std::string content = bytes;
-    if (fs::exists(target))
+    if (tail == Tail::Keep && fs::exists(target))
         if (const std::string old = readFile(target.string()); old.size() > bytes.size())
             content += old.substr(bytes.size());
     std::ofstream file(beside, std::ios::binary | std::ios::trunc);
@@ -197,6 +232,16 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     if (file && !error) return;
     fs::remove(beside, error);
     fail(EIO);
+}
+
+}  // namespace
+
+void overwriteFile(const std::string& path, const std::string& bytes) {
+    writeWhole(path, bytes, Tail::Keep);
+}
+
+void replaceFile(const std::string& path, const std::string& bytes) {
+    writeWhole(path, bytes, Tail::Drop);
 }
 
 #endif

@@ -4,7 +4,8 @@
 
 namespace borvik {
 
-/// The bytes of a file, at most the first 64 MiB: no project and no table is that long.
+/// The bytes of a file, at most the first 64 MiB: no project and no table is that long. What is no file but a pipe or a
+/// device is refused, as reading it may never end.
 /// @throws std::system_error  with the system's reason
 [[nodiscard]] std::string readFile(const std::string& path);
 
@@ -15,5 +16,10 @@ namespace borvik {
 /// folder is removed a day later.
 /// @throws std::system_error  with the system's reason; the file is then as it was, and nothing is left beside it
 void overwriteFile(const std::string& path, const std::string& bytes);
+
+/// Makes `bytes` the whole of a file, with the same care. What exists and is no file, a device or a pipe, is written
+/// into as it is: it must never be replaced by a file.
+/// @throws std::system_error  with the system's reason; the file is then as it was, and nothing is left beside it
+void replaceFile(const std::string& path, const std::string& bytes);
 
 }  // namespace borvik

@@ -201,7 +201,7 @@ void DiagramView::savePictureAs() {
     if (!path) return;
     const QSize size(kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size()));
     const QString trouble = savePicture(
-        QString::fromStdString(*path), [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
+        *path, [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
     if (!trouble.isEmpty()) services_.messages.show(trouble.toStdString());
 }
 

@@ -151,8 +151,7 @@ void saveReportAsPdf(Session& session, int scope, bool withNotes, const Services
     const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
     if (!file) return;
     const QString failed = savePdf(
-        QString::fromStdString(*file),
-        [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); }, defaultPageLayout(),
+        *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); }, defaultPageLayout(),
         {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
     if (!failed.isEmpty()) services.messages.show(*file + ": " + failed.toStdString());
 }

@@ -6,15 +6,19 @@
 #include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
+#include <system_error>
 
-#include "base/number_text.h"
+#include "base/whole_file.h"
 
 namespace borvik {
+
+namespace fs = std::filesystem;
+
 namespace {
 
 constexpr std::size_t kFittedColumns = 8;  // A to H
@@ -48,6 +52,24 @@ double sheetNumber(const TableCell& cell) {
     const bool nearHalf = std::abs(std::abs(number - shown) - half) <= 1e-9 * std::max(1.0, std::abs(number));
     return nearHalf || (shown == 0.0 && number < 0.0) ? shown : number;
 }
+
+/// A folder that only this user can read, gone at the end: the library writes to files alone.
+class PrivateFolder {
+public:
+    PrivateFolder() : folder_((fs::temp_directory_path() / "borvik-XXXXXX").string()) {
+        if (::mkdtemp(folder_.data()) == nullptr) throw std::system_error(errno, std::generic_category());
+    }
+    PrivateFolder(const PrivateFolder&) = delete;
+    PrivateFolder& operator=(const PrivateFolder&) = delete;
+    ~PrivateFolder() {
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+    [[nodiscard]] std::string file() const { return folder_ + "/table.xlsx"; }
+
+private:
+    std::string folder_;
+};
 
 class Workbook {
 public:
@@ -126,26 +148,19 @@ std::string fill(Workbook& workbook, const ResultTable& table, const std::string
 }  // namespace
 
 std::string SaveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
-    namespace fs = std::filesystem;
-    const std::string unfinished = file + ".part";
-    std::error_code failed;
-    std::string problem;
-    // The library tells of a file that can't be made on standard error only.
-    if (!std::ofstream(unfinished)) return std::strerror(errno);
-    {
-        Workbook workbook(unfinished);
+    try {
+        const PrivateFolder folder;
+        // The library tells of a file that can't be made on standard error only.
+        if (!std::ofstream(folder.file())) return std::strerror(errno);
+        Workbook workbook(folder.file());
         if (!workbook.isOpen()) return "out of memory";
-        problem = fill(workbook, table, title);
-        // The file is written here: a folder that isn't there or a full disk shows now.
-        if (const lxw_error error = workbook.close(); error != LXW_NO_ERROR && problem.empty())
-            problem = lxw_strerror(error);
+        if (const std::string problem = fill(workbook, table, title); !problem.empty()) return problem;
+        if (const lxw_error error = workbook.close(); error != LXW_NO_ERROR) return lxw_strerror(error);
+        replaceFile(file, readFile(folder.file()));
+    } catch (const std::system_error& error) {
+        return error.code().message();
     }
-    if (problem.empty()) {
-        fs::rename(unfinished, file, failed);
-        if (failed) problem = failed.message();
-    }
-    if (!problem.empty()) fs::remove(unfinished, failed);
-    return problem;
+    return {};
 }
 
 }  // namespace borvik

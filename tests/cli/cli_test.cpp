@@ -2,12 +2,14 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <thread>
 
 #include "platform/version.h"
 #include "project/project_file.h"
@@ -110,15 +112,32 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
     }
 }
 
-TEST_F(CommandLine, aDamagedFileIsAMessageAtEveryLength) {
-    take("case-4", "good.brvk");
-    const std::string whole = bytesOf(folder / "good.brvk");
-    for (std::size_t length = 0; length < whole.size(); length += 1201) {
-        writeBytes(folder / "cut.brvk", whole.substr(0, length));
-        const Outcome outcome = run("--quiet cut.brvk");
-        EXPECT_EQ(outcome.exitCode, 5) << length;
-        EXPECT_THAT(outcome.err, StartsWith("cut.brvk: ")) << length;
+TEST_F(CommandLine, noOutputTakesThePlaceOfAProjectOrAnotherOutput) {
+    take("case-10", "a.brvk");
+    take("case-12", "b.brvk");
+    const std::string a = bytesOf(folder / "a.brvk"), b = bytesOf(folder / "b.brvk");
+    for (const char* arguments : {"--json *.brvk", "--report *.brvk", "--table MyVz --xlsx *.brvk",
+                                  "--diagram MyVz --png *.brvk", "b.brvk --save b.brvk", "b.brvk --report ./new.BRVK",
+                                  "--default --json x --table MyVz --xlsx x", "--default --diagram MyVz --png x.jpg"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.exitCode, 2) << arguments;
+        EXPECT_THAT(outcome.err, StartsWith("borvik-calc: --")) << arguments;
     }
+    EXPECT_EQ(bytesOf(folder / "a.brvk") + bytesOf(folder / "b.brvk"), a + b);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 4) << "the projects, .out and .err";
+}
+
+TEST_F(CommandLine, aPipeOrDeviceTakesAnOutputAndStaysWhatItIs) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(run("pipe").exitCode, 5) << "reading one would wait for ever";
+    for (const char* option : {"--json pipe", "--report pipe", "--table MyVz --xlsx pipe"}) {
+        std::string read;
+        std::thread reader([&] { read = bytesOf(folder / "pipe"); });
+        EXPECT_EQ(run(std::string("--default ") + option).exitCode, 0);
+        reader.join();
+        EXPECT_GT(read.size(), 1000U) << option;
+    }
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
 TEST_F(CommandLine, oneBadFileDoesNotStopTheOthers) {

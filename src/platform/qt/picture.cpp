@@ -2,11 +2,11 @@
 
 #include <QBuffer>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <algorithm>
 
 #include "platform/qt/qt_surface.h"
+#include "platform/qt/saved_bytes.h"
 
 namespace borvik {
 namespace {
@@ -34,6 +34,14 @@ QByteArray asSvg(const PictureDrawing& drawing, QSize pixels, const QString& tit
     return bytes;
 }
 
+QByteArray asPng(const PictureDrawing& drawing, QSize pixels) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    renderPicture(drawing, pixels).save(&buffer, "PNG");
+    return bytes;
+}
+
 }  // namespace
 
 QImage renderPicture(const PictureDrawing& drawing, QSize pixels) {
@@ -47,15 +55,9 @@ QImage renderPicture(const PictureDrawing& drawing, QSize pixels) {
     return image;
 }
 
-QString savePicture(const QString& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title) {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    const bool svg = fileName.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
-    const bool written =
-        svg ? file.write(asSvg(drawing, pixels, title)) >= 0 : renderPicture(drawing, pixels).save(&file, "PNG");
-    if (!written || !file.commit())
-        return file.errorString().isEmpty() ? QStringLiteral("The picture cannot be written") : file.errorString();
-    return {};
+QString savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title) {
+    const bool svg = QByteArray::fromStdString(fileName).toLower().endsWith(".svg");
+    return saveBytes(fileName, svg ? asSvg(drawing, pixels, title) : asPng(drawing, pixels));
 }
 
 }  // namespace borvik

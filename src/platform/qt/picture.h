@@ -4,6 +4,7 @@
 #include <QSize>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "platform/drawing_surface.h"
 
@@ -18,7 +19,7 @@ using PictureDrawing = std::function<void(DrawingSurface&)>;
 /// Saves a picture as SVG where the file name ends in ".svg", as PNG otherwise. The old file stays until the new one is
 /// whole.
 /// @return an empty text, or what went wrong
-[[nodiscard]] QString savePicture(const QString& fileName, const PictureDrawing& drawing, QSize pixels,
+[[nodiscard]] QString savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels,
                                   const QString& title);
 
 }  // namespace borvik

@@ -1,8 +1,10 @@
 #include "platform/qt/qt_printer.h"
 
+#include <QBuffer>
 #include <QLocale>
 #include <QPdfWriter>
-#include <QSaveFile>
+
+#include "platform/qt/saved_bytes.h"
 
 namespace borvik {
 namespace {
@@ -56,11 +58,12 @@ QPageLayout defaultPageLayout() {
             QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter};
 }
 
-QString savePdf(const QString& fileName, const PrintedDocument& document, const QPageLayout& layout,
+QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
                 const DocumentProperties& properties) {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    QPdfWriter writer(&file);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
     writer.setPageLayout(layout);
     writer.setTitle(properties.title);
     writer.setCreator(properties.program);
@@ -71,8 +74,7 @@ QString savePdf(const QString& fileName, const PrintedDocument& document, const 
         document(printer);
         if (!printer.end()) return QStringLiteral("The pages cannot be drawn");
     }
-    if (!file.commit()) return file.errorString();
-    return {};
+    return saveBytes(fileName, bytes);
 }
 
 }  // namespace borvik

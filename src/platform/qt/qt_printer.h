@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "platform/printer.h"
 #include "platform/qt/qt_surface.h"
@@ -51,7 +52,7 @@ struct DocumentProperties {
 
 /// Saves a document as PDF, texts as texts with their fonts embedded. The old file stays until the new one is whole.
 /// @return an empty text, or what went wrong
-[[nodiscard]] QString savePdf(const QString& fileName, const PrintedDocument& document, const QPageLayout& layout,
+[[nodiscard]] QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
                               const DocumentProperties& properties);
 
 }  // namespace borvik

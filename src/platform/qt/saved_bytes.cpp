@@ -1,0 +1,18 @@
+#include "platform/qt/saved_bytes.h"
+
+#include <system_error>
+
+#include "base/whole_file.h"
+
+namespace borvik {
+
+QString saveBytes(const std::string& fileName, const QByteArray& bytes) {
+    try {
+        replaceFile(fileName, bytes.toStdString());
+    } catch (const std::system_error& error) {
+        return QString::fromStdString(error.code().message());
+    }
+    return {};
+}
+
+}  // namespace borvik
