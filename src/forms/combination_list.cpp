@@ -23,7 +23,7 @@ void CombinationList::write(const Project& project, CombinationText kind) {
 
 QSize CombinationList::sizeHint() const {
     const int line = fontMetrics().lineSpacing();
-    return {fontMetrics().horizontalAdvance(QString::fromUtf8(kLongest)), 4 * line + 2 * frameWidth()};
+    return {fontMetrics().horizontalAdvance(QString::fromUtf8(kLongest)), 3 * line + line / 2 + 2 * frameWidth()};
 }
 
 }  // namespace borvik

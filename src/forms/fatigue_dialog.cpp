@@ -87,6 +87,7 @@ void FatigueDialog::showWelds() {
 
 Group FatigueDialog::details() {
     const Group group = makeGroup("frDetails", tr("Fatigue details"));
+    group.grid->addWidget(new QLabel(tr("Detail")), 0, 0);
     for (const FatigueDetailRow& detail : form_->details) addDetail(group.grid, detail);
     group.grid->setColumnStretch(4, 1);
     return group;

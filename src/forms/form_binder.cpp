@@ -172,13 +172,12 @@ void FormBinder::leave(NumberBox* box) {
 
 void FormBinder::tell(Entry& entry, const char* refusal) {
     while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    // Back before the message takes the window's activity: an inactive window tells the box that the focus had passed on
+    // to nothing of the way back, and it would stay green.
     goingBack_ = true;
+    entry.box->setFocus(Qt::OtherFocusReason);
     messages_.show(refusal);
     if (refusal == entry.row.message && entry.row.refused) entry.row.refused();
-    // The box that the focus had passed on to hears nothing of the way back, since the window isn't active yet.
-    for (const auto& each : entries_)
-        if (each.get() != &entry) each->box->rest();
-    entry.box->setFocus(Qt::OtherFocusReason);
     entry.box->selectAll();
     goingBack_ = false;
     pending_ = nullptr;

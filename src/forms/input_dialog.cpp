@@ -24,6 +24,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
 };
 
+/// What a desktop puts around a window: borders and the title.
+constexpr QSize kWindowFrame(8, 36);
+
 /// Where the user begins: the first box that can be filled in, else the first control that Tab reaches.
 QWidget* firstStop(QWidget* form) {
     QWidget* control = nullptr;
@@ -98,8 +101,7 @@ void InputDialog::setContent(QLayout* content) {
 
 void InputDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        const QSize room = screen()->availableSize() * 0.96;
-        resize(sizeHint().boundedTo(room));
+        resize(sizeHint().boundedTo(screen()->availableSize() - kWindowFrame));
     }
     QDialog::showEvent(event);
     if (event->spontaneous()) return;

@@ -14,6 +14,10 @@
 
 namespace borvik {
 
+namespace {
+constexpr int kTight = 3;
+}
+
 LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmLoad", tr("Overhead crane - Loads"), session, messages, std::move(changed), parent) {
     const auto edited = [this] { takeEdit(); };
@@ -24,6 +28,8 @@ LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void(
     left->addWidget(position_->box());
     left->addWidget(loads().box);
     auto* content = new QGridLayout;
+    left->setSpacing(kTight);  // the whole form on a small screen
+    content->setVerticalSpacing(kTight);
     content->addLayout(left, 0, 0);
     content->addWidget(numberOfCranes().box, 0, 1);
 
@@ -44,7 +50,7 @@ LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void(
     addWide(crane2_->grid(), new QLabel(tr("  Vertical load = Dead load + Hoist load ")));
     content->addWidget(crane1_->box(), 1, 0);
     content->addWidget(crane2_->box(), 1, 1);
-    picture_ = new Picture(cranesPicture(project_), 90, 7);
+    picture_ = new Picture(cranesPicture(project_), 90, 6);
     picture_->setToolTip(tr("Numbers of the wheels and their distances"));
     content->addWidget(picture_, 2, 0, 1, 2);
     content->setRowStretch(2, 1);

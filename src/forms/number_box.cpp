@@ -10,6 +10,7 @@ namespace {
 
 constexpr QRgb kFocusedGreen = qRgb(0, 255, 0);
 constexpr QRgb kRestingWhite = qRgb(255, 255, 255);
+constexpr QRgb kLockedGrey = qRgb(232, 232, 232);
 constexpr QRgb kTextOnBoth = qRgb(16, 16, 16);
 constexpr QRgb kRefusedRed = qRgb(200, 0, 0);
 constexpr int kCharacters = 8;  // wide enough for "4000000" and for "1.234"
@@ -62,8 +63,14 @@ void NumberBox::showTip() {
     update();
 }
 
+void NumberBox::setLocked(bool locked) {
+    setReadOnly(locked);
+    setFocusPolicy(locked ? Qt::NoFocus : Qt::StrongFocus);
+    rest();
+}
+
 void NumberBox::rest() {
-    paintBackground(kRestingWhite);
+    paintBackground(isReadOnly() ? kLockedGrey : kRestingWhite);
     deselect();
 }
 

@@ -25,10 +25,10 @@ public:
     [[nodiscard]] bool refused() const { return refused_; }
     /// Refused, and the text is still the refused one.
     [[nodiscard]] bool standsRefused() const { return refused_ && text() == refusedText_; }
+    /// Shows its number and takes none: read like any other, passed by Tab and Enter.
+    void setLocked(bool locked);
     /// The tool tip, below what a refusal adds.
     void setMeaning(const QString& meaning);
-    /// White again, for a box that can't see by itself that the focus has gone.
-    void rest();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -50,6 +50,7 @@ protected:
 
 private:
     void paintBackground(const QColor& colour);
+    void rest();
     void showTip();
     [[nodiscard]] int markWidth() const;
 

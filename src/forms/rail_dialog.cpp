@@ -30,7 +30,7 @@ Group RailDialog::choice() {
     const Group group = makeGroup("frRail", tr("Rail"));
     cboRail_ = makeList("cboRail", tr("Crane rail of the rail table"), [this](int row) { chooseRail(row); });
     for (const RailRecord& rail : session_.tables.RailTable) cboRail_->addItem(QString::fromStdString(rail.Name));
-    chkRail_ = makeChoice<QCheckBox>("chkRail", tr("Include deadload of rail"),
+    chkRail_ = makeChoice<QCheckBox>("chkRail", tr("&Include deadload of rail"),
                                      tr("The rail's weight acts as a permanent load"), [this] {
                                          project_.RailOn = chkRail_->isChecked();
                                          picture_->update();
@@ -48,8 +48,8 @@ Group RailDialog::choice() {
 Group RailDialog::fastening() {
     const Group group = makeGroup("frFix", tr("Fastening to the flange"));
     const QString clause = tr("Effective loaded length under a wheel, EN 1993-6 Table 5.1");
-    const QString texts[] = {tr("Rigidly fixed to the flange"), tr("Not rigidly fixed to the flange"),
-                             tr("On a resilient bearing pad, at least 6 mm thick")};
+    const QString texts[] = {tr("&Rigidly fixed to the flange"), tr("&Not rigidly fixed to the flange"),
+                             tr("&On a resilient bearing pad, at least 6 mm thick")};
     for (std::int16_t fix = 1; fix <= 3; ++fix) {
         auto* option = makeChoice<QRadioButton>("optRail" + std::to_string(fix), texts[fix - 1], clause, [this, fix] {
             project_.RailFix = fix;

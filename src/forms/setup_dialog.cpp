@@ -9,14 +9,36 @@
 
 namespace borvik {
 
+namespace {
+
+/// Gives the boxes of groups that stand below each other one left edge and one width.
+void alignBoxes(std::initializer_list<Group> groups) {
+    constexpr int kRest = 3;  // the column behind labels, boxes and buttons takes the room that is left
+    int widest = 0;
+    for (const Group& group : groups)
+        for (const auto* label : group.box->findChildren<QLabel*>())
+            if (label->buddy() != nullptr) widest = std::max(widest, label->sizeHint().width());
+    for (const Group& group : groups) {
+        group.grid->setColumnMinimumWidth(0, widest);
+        group.grid->setColumnStretch(kRest, 1);
+        for (auto* box : group.box->findChildren<NumberBox*>()) box->setFixedWidth(box->sizeHint().width());
+    }
+}
+
+}  // namespace
+
 SetupDialog::SetupDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmSetup", tr("Setup"), session, messages, std::move(changed), parent) {
+    const Group loads = loadFactors(), limits = deflectionLimits(), shear = shearFactor();
+    const Group buckling = bucklingParameters(), factors = partialFactors();
+    alignBoxes({loads, limits, shear});
+    alignBoxes({buckling, factors});
     auto* content = new QGridLayout;
-    content->addWidget(loadFactors().box, 0, 0, 1, 2);
-    content->addWidget(deflectionLimits().box, 1, 0);
-    content->addWidget(shearFactor().box, 2, 0);
-    content->addWidget(bucklingParameters().box, 1, 1);
-    content->addWidget(partialFactors().box, 2, 1);
+    content->addWidget(loads.box, 0, 0, 1, 2);
+    content->addWidget(limits.box, 1, 0);
+    content->addWidget(shear.box, 2, 0);
+    content->addWidget(buckling.box, 1, 1);
+    content->addWidget(factors.box, 2, 1);
     content->addWidget(closeButton("CmdOK", tr("Close"), tr("Close the form; all values are stored already")), 3, 1,
                        Qt::AlignRight);
     content->setRowStretch(4, 1);

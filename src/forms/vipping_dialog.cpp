@@ -29,8 +29,8 @@ Group VippingDialog::method() {
         const char* name;
         std::int16_t curve;
         QString text, tip;
-    } options[] = {{"optCurve2", 2, tr("General case, EN 1993-1-1, 6.3.2.2"), tr("Buckling curves of Table 6.4")},
-                   {"optCurve3", 3, tr("Rolled sections or equivalent welded sections, EN 1993-1-1, 6.3.2.3"),
+    } options[] = {{"optCurve2", 2, tr("&General case, EN 1993-1-1, 6.3.2.2"), tr("Buckling curves of Table 6.4")},
+                   {"optCurve3", 3, tr("&Rolled sections or equivalent welded sections, EN 1993-1-1, 6.3.2.3"),
                     tr("Buckling curves of Table 6.5, with λLT,0 and β of the setup")}};
     for (const auto& each : options) {
         auto* option = makeChoice<QRadioButton>(each.name, each.text, each.tip, [this, curve = each.curve] {
@@ -46,7 +46,7 @@ Group VippingDialog::method() {
 Group VippingDialog::factors() {
     const Group group = makeGroup("frFactors", tr("Factors of the critical moment"));
     chkDefaultCfactor_ =
-        makeChoice<QCheckBox>("chkDefaultCfactor", tr("Default C factors"),
+        makeChoice<QCheckBox>("chkDefaultCfactor", tr("&Default C factors"),
                               tr("The factors follow from the number of spans and the kind of crane"), [this] {
                                   useDefaultFactors(chkDefaultCfactor_->isChecked());
                                   inputChanged();
@@ -106,10 +106,7 @@ void VippingDialog::useDefaultFactors(bool use) {
     project_.DefaultCfactor = use;
     if (use) DefaultCFactors(project_);
     binder_.show();
-    for (NumberBox* box : boxes_) {
-        box->setReadOnly(use);
-        box->setEnabled(!use);
-    }
+    for (NumberBox* box : boxes_) box->setLocked(use);
 }
 
 }  // namespace borvik
