@@ -172,8 +172,8 @@ void FormBinder::leave(NumberBox* box) {
 
 void FormBinder::tell(Entry& entry, const char* refusal) {
     while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-    // Back before the message takes the window's activity: an inactive window tells the box that the focus had passed on
-    // to nothing of the way back, and it would stay green.
+    // Back before the message takes the window's activity: an inactive window tells the box that the focus had passed
+    // on to nothing of the way back, and it would stay green.
     goingBack_ = true;
     entry.box->setFocus(Qt::OtherFocusReason);
     messages_.show(refusal);

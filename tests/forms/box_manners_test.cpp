@@ -2,7 +2,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <QWheelEvent>
 #include <cmath>
 #include <set>
 
@@ -212,22 +211,6 @@ TEST_F(BoxManners, ArrowsWalkOverTheWheelsOfACrane) {
         QTest::keyClick(&control(move.from), move.key);
         EXPECT_EQ(focused(), move.to) << move.from;
     }
-}
-
-TEST_F(BoxManners, TheWheelChangesNothingInPassing) {
-    open(DialogKind::Load);
-    auto& list = control<QComboBox>("cboCraneClass1");
-    control("txtV1").setFocus();
-    const QPointF middle = list.rect().center();
-    QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                      false);
-    QApplication::sendEvent(&list, &wheel);
-    QWheelEvent over(middle, control("txtV1").mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                     Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&control("txtV1"), &over);
-    leave();
-    EXPECT_EQ(list.currentIndex(), 3);
-    EXPECT_EQ(shown("txtV1"), "30.0");
 }
 
 TEST_F(BoxManners, NumbersBeyondTheirFieldStayAtItsEndAndAreRefused) {

@@ -4,8 +4,8 @@
 #include <QRadioButton>
 #include <QToolButton>
 #include <QTreeWidget>
-#include <array>
 
+#include "base/number_text.h"
 #include "forms/form_support.h"
 
 namespace borvik {
@@ -100,37 +100,101 @@ TEST_F(BucklingForm, TheCurveIsChosen) {
 
 class FatigueForms : public FormTest {};
 
-TEST_F(FatigueForms, AnOddCategoryIsRoundedAndALowOneStays) {
-    open(DialogKind::Fatigue1);
-    enter("txtFat3C1", "159.5");
-    EXPECT_EQ(project.Fat3C1, 160);
-    EXPECT_EQ(shown("txtFat3C1"), "160");
-    EXPECT_TRUE(messages.texts.empty());
-    enter("txtFat1C1", "35");
-    EXPECT_EQ(lastMessage(), " 36 <= C-factor <= 160 ");
-    EXPECT_EQ(project.Fat1C1, 35);
+/// What differs between two records of the fatigue details, in the order of the list: "Fat3 Fat3C1".
+struct FatigueField {
+    const char* name;
+    std::function<std::string(const Project&)> text;
+};
+
+template <class Field>
+FatigueField named(const char* name, Field Project::*field) {
+    return {name, [field](const Project& p) {
+                if constexpr (std::is_same_v<Field, std::string>) {
+                    return p.*field;
+                } else {
+                    return generalText(Single(p.*field));
+                }
+            }};
 }
 
-TEST_F(FatigueForms, CheckBoxesSetTheirOwnFlags) {
-    for (const auto kind : {DialogKind::Fatigue1, DialogKind::Fatigue2}) {
-        open(kind);
-        Project& p = project;
-        bool* const overhead[] = {&p.Fat1, &p.Fat2, &p.Fat3, &p.Fat4, &p.Fat5, &p.Fat6};
-        bool* const monorail[] = {&p.FatR1, &p.FatR2, &p.FatR3, &p.FatR4, &p.FatR5, &p.FatR6};
-        auto& flags = kind == DialogKind::Fatigue1 ? overhead : monorail;
+#define FIELD(name) named(#name, &Project::name)
+const FatigueField kFields[] = {
+    FIELD(Fat1),  FIELD(Fat1C1),  FIELD(Fat2),  FIELD(Fat2C1),  FIELD(Fat3),    FIELD(Fat3C1), FIELD(Fat3C2),
+    FIELD(Fat4),  FIELD(Fat4C1),  FIELD(Fat5),  FIELD(Fat5C1),  FIELD(Fat6),    FIELD(Fat6C1), FIELD(W1),
+    FIELD(W1a),   FIELD(W2),      FIELD(W2a),   FIELD(W3),      FIELD(W3a),     FIELD(FatR1),  FIELD(FatR1C1),
+    FIELD(FatR2), FIELD(FatR2C1), FIELD(FatR3), FIELD(FatR3C1), FIELD(FatR3C2), FIELD(FatR4),  FIELD(FatR4C1),
+    FIELD(FatR5), FIELD(FatR5C1), FIELD(FatR6), FIELD(FatR6C1), FIELD(FatR6C2), FIELD(RW1),    FIELD(RW1a),
+    FIELD(RW2),   FIELD(RW2a),    FIELD(RW3),   FIELD(RW3a),    FIELD(RW4),     FIELD(RW4a)};
+#undef FIELD
+
+/// "Fat1 on, W1 FW": what a click has changed.
+std::string changed(const Project& before, const Project& after) {
+    std::string all;
+    for (const FatigueField& each : kFields)
+        if (each.text(before) != each.text(after))
+            all += (all.empty() ? "" : ", ") + (each.name + (" " + each.text(after)));
+    return all;
+}
+
+TEST_F(FatigueForms, EachControlWritesItsOwnField) {
+    for (const bool overhead : {true, false}) {
+        const std::string detail = overhead ? "Fat" : "FatR", weld = overhead ? "W" : "RW";
+        const auto expect = [&](const std::string& button, const std::string& change) {
+            const Project before = project;
+            click(button);
+            EXPECT_EQ(changed(before, project), change) << button;
+        };
+        for (std::string* kind :
+             {&project.W1, &project.W2, &project.W3, &project.RW1, &project.RW2, &project.RW3, &project.RW4})
+            *kind = "??";
+        open(overhead ? DialogKind::Fatigue1 : DialogKind::Fatigue2);
         for (int d = 1; d <= 6; ++d) {
-            const Project before = p;
-            click("chkFat" + std::to_string(d));
-            EXPECT_EQ(*flags[d - 1],
-                      !(kind == DialogKind::Fatigue1
-                            ? std::array{before.Fat1, before.Fat2, before.Fat3, before.Fat4, before.Fat5, before.Fat6}
-                            : std::array{before.FatR1, before.FatR2, before.FatR3, before.FatR4, before.FatR5,
-                                         before.FatR6})[static_cast<std::size_t>(d - 1)])
-                << d;
-            click("chkFat" + std::to_string(d));
-            EXPECT_EQ(p, before) << d;
+            const std::string check = "chkFat" + std::to_string(d), field = detail + std::to_string(d);
+            const bool on = control<QCheckBox>(check).isChecked();
+            expect(check, field + (on ? " 0" : " 1"));
+            expect(check, field + (on ? " 1" : " 0"));
+        }
+        for (int w = 1; w <= (overhead ? 3 : 4); ++w) {
+            const std::string name = weld + std::to_string(w);
+            expect("opt" + name + "FW", name + " FW");
+            EXPECT_TRUE(control("txt" + name + "a").isEnabled());
+            expect("Opt" + name + "FP", name + " FP");
+            EXPECT_FALSE(control("txt" + name + "a").isEnabled());
         }
         form.reset();
+    }
+}
+
+TEST_F(FatigueForms, DefaultButtonsSetWeldedAndRolledValues) {
+    const struct {
+        DialogKind form;
+        const char* button;
+        const char* change;
+    } cases[] = {
+        {DialogKind::Fatigue1, "Command9",
+         "Fat1 1, Fat1C1 90, Fat2 1, Fat2C1 80, Fat3 1, Fat3C1 71, Fat3C2 80, Fat4 1, Fat4C1 80, Fat5 1, Fat5C1 80, "
+         "Fat6 1, Fat6C1 80, W1 FP, W2 FW, W2a 4, W3 FW, W3a 4"},
+        {DialogKind::Fatigue1, "Command10",
+         "Fat1 1, Fat1C1 90, Fat2 1, Fat2C1 80, Fat3 1, Fat3C1 160, Fat3C2 100, Fat4C1 100, Fat5 1, Fat5C1 80, Fat6 1, "
+         "Fat6C1 80, W3 FW, W3a 4"},
+        {DialogKind::Fatigue2, "Command9",
+         "FatR1 1, FatR1C1 56, FatR2 1, FatR2C1 80, FatR3 1, FatR3C1 80, FatR3C2 80, FatR4 1, FatR4C1 80, FatR5 1, "
+         "FatR5C1 80, FatR6 1, FatR6C1 80, FatR6C2 80, RW1 FP, RW2 FP, RW3 FW, RW3a 4, RW4 FP"},
+        {DialogKind::Fatigue2, "Command8",
+         "FatR1 1, FatR1C1 56, FatR2 1, FatR2C1 80, FatR3 1, FatR3C1 80, FatR3C2 100, FatR4C1 100, FatR5 1, FatR5C1 "
+         "80, "
+         "FatR6C1 160, FatR6C2 100, RW1 FP, RW2 FP, RW3 FP, RW4 FP"}};
+    for (const auto& each : cases) {
+        session = Session(referenceTables());
+        Project blank;  // nothing checked, categories and throats 0
+        blank.NofSpans = project.NofSpans;
+        blank.Span = project.Span;
+        blank.CraneType = project.CraneType;
+        project = blank;
+        open(each.form);
+        click(each.button);
+        EXPECT_EQ(changed(blank, project), each.change);
+        EXPECT_TRUE(messages.texts.empty());
     }
 }
 
@@ -159,76 +223,6 @@ TEST_F(FatigueForms, SplicesTakeTheirSpanAndStayWithinIt) {
     }
 }
 
-TEST_F(FatigueForms, WeldsAreFilletOrFullPenetration) {
-    const struct {
-        DialogKind form;
-        const char* weld;
-        std::string* kind;
-    } welds[] = {{DialogKind::Fatigue1, "W1", &project.W1},   {DialogKind::Fatigue1, "W2", &project.W2},
-                 {DialogKind::Fatigue1, "W3", &project.W3},   {DialogKind::Fatigue2, "RW1", &project.RW1},
-                 {DialogKind::Fatigue2, "RW2", &project.RW2}, {DialogKind::Fatigue2, "RW3", &project.RW3},
-                 {DialogKind::Fatigue2, "RW4", &project.RW4}};
-    for (const auto& each : welds) {
-        open(each.form);
-        const std::string weld = each.weld;
-        click("opt" + weld + "FW");
-        EXPECT_EQ(*each.kind, "FW");
-        EXPECT_TRUE(control("txt" + weld + "a").isEnabled());
-        click("Opt" + weld + "FP");
-        EXPECT_EQ(*each.kind, "FP");
-        EXPECT_FALSE(control("txt" + weld + "a").isEnabled());
-        form.reset();
-    }
-}
-
-/// Every field that a button of defaults may touch, in one line.
-std::string overheadFields(const Project& p) {
-    const auto detail = [](bool on, std::int16_t c) {
-        return std::string(on ? "on " : "off ") + std::to_string(c) + ", ";
-    };
-    return detail(p.Fat1, p.Fat1C1) + detail(p.Fat2, p.Fat2C1) + detail(p.Fat3, p.Fat3C1) + std::to_string(p.Fat3C2) +
-           ", " + detail(p.Fat4, p.Fat4C1) + detail(p.Fat5, p.Fat5C1) + detail(p.Fat6, p.Fat6C1) + p.W1 +
-           std::to_string(int(p.W1a)) + " " + p.W2 + std::to_string(int(p.W2a)) + " " + p.W3 +
-           std::to_string(int(p.W3a));
-}
-
-std::string monorailFields(const Project& p) {
-    const auto detail = [](bool on, std::int16_t c) {
-        return std::string(on ? "on " : "off ") + std::to_string(c) + ", ";
-    };
-    return detail(p.FatR1, p.FatR1C1) + detail(p.FatR2, p.FatR2C1) + detail(p.FatR3, p.FatR3C1) +
-           std::to_string(p.FatR3C2) + ", " + detail(p.FatR4, p.FatR4C1) + detail(p.FatR5, p.FatR5C1) +
-           detail(p.FatR6, p.FatR6C1) + std::to_string(p.FatR6C2) + ", " + p.RW1 + std::to_string(int(p.RW1a)) + " " +
-           p.RW2 + std::to_string(int(p.RW2a)) + " " + p.RW3 + std::to_string(int(p.RW3a)) + " " + p.RW4 +
-           std::to_string(int(p.RW4a));
-}
-
-TEST_F(FatigueForms, DefaultButtonsSetWeldedAndRolledValues) {
-    const auto press = [this](DialogKind kind, const char* button) {
-        session = Session(referenceTables());
-        Project& p = project;
-        for (bool* flag : {&p.Fat1, &p.Fat2, &p.Fat3, &p.Fat4, &p.Fat5, &p.Fat6, &p.FatR1, &p.FatR2, &p.FatR3, &p.FatR4,
-                           &p.FatR5, &p.FatR6})
-            *flag = false;
-        p.Fat4 = p.FatR4 = p.FatR6 = std::string(button) != "Command9";  // so that both directions are seen
-        for (std::string* weld : {&p.W1, &p.W2, &p.W3, &p.RW1, &p.RW2, &p.RW3, &p.RW4}) *weld = "??";
-        for (Single* throat : {&p.W1a, &p.W2a, &p.W3a, &p.RW1a, &p.RW2a, &p.RW3a, &p.RW4a}) *throat = 9;
-        open(kind);
-        click(button);
-    };
-    press(DialogKind::Fatigue1, "Command9");
-    EXPECT_EQ(overheadFields(project), "on 90, on 80, on 71, 80, on 80, on 80, on 80, FP9 FW4 FW4");
-    EXPECT_EQ(shown("txtFat3C1"), "71");
-    EXPECT_TRUE(control("txtW2a").isEnabled());
-    press(DialogKind::Fatigue1, "Command10");
-    EXPECT_EQ(overheadFields(project), "on 90, on 80, on 160, 100, off 100, on 80, on 80, ??9 ??9 FW4");
-    press(DialogKind::Fatigue2, "Command9");
-    EXPECT_EQ(monorailFields(project), "on 56, on 80, on 80, 80, on 80, on 80, on 80, 80, FP9 FP9 FW4 FP9");
-    press(DialogKind::Fatigue2, "Command8");
-    EXPECT_EQ(monorailFields(project), "on 56, on 80, on 80, 100, off 100, on 80, off 160, 100, FP9 FP9 FP9 FP9");
-    EXPECT_TRUE(messages.texts.empty());
-}
-
 TEST_F(FatigueForms, WithoutAnySpliceTheMonorailFormClearsTheOverheadFlagOnOk) {
     for (const bool byOk : {true, false}) {
         project.Fat5 = project.FatR5 = true;
@@ -251,20 +245,25 @@ TEST_F(FatigueForms, WithoutAnySpliceTheMonorailFormClearsTheOverheadFlagOnOk) {
     EXPECT_TRUE(project.Fat5);
 }
 
-TEST_F(FatigueForms, EachSmallPictureOpensItsLargeOne) {
+TEST_F(FatigueForms, EachPictureButtonOpensItsPicture) {
+    const auto expectPicture = [this](QAbstractButton& button, const char* name, const char* caption) {
+        button.click();
+        auto* info = form->findChild<QDialog*>(name);
+        ASSERT_NE(info, nullptr);
+        EXPECT_EQ(info->windowTitle(), caption);
+        QTest::mouseClick(info, Qt::LeftButton);
+        EXPECT_FALSE(info->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    open(DialogKind::Setup);
+    expectPicture(control<QAbstractButton>("Command2"), "frmInfoSetup", "Fatigue resistance - gammaMf");
+    expectPicture(control<QAbstractButton>("Command3"), "frmInfoSetup", "Deformation limits");
     for (const auto kind : {DialogKind::Fatigue1, DialogKind::Fatigue2}) {
         open(kind);
         const auto pictures = form->findChildren<QToolButton*>();
         EXPECT_EQ(pictures.size(), kind == DialogKind::Fatigue1 ? 10 : 8);
-        for (QToolButton* picture : pictures) {
-            picture->click();
-            auto* info = form->findChild<QDialog*>("frmInfoFatigue");
-            ASSERT_NE(info, nullptr);
-            EXPECT_EQ(info->windowTitle(), "Detail Categories Ref EN 1993-1-9 , ch 8");
-            QTest::mouseClick(info, Qt::LeftButton);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-        form.reset();
+        for (QToolButton* picture : pictures)
+            expectPicture(*picture, "frmInfoFatigue", "Detail Categories Ref EN 1993-1-9 , ch 8");
     }
 }
 

@@ -39,21 +39,6 @@ TEST_F(SetupForm, TheCombinationsFollowTheFactorsAtOnce) {
     EXPECT_EQ(list.item(2)->text(), "FLS: 1.25*1.05*Vk");
 }
 
-TEST_F(SetupForm, InfoButtonsShowTheirPictures) {
-    open(DialogKind::Setup);
-    const std::pair<const char*, const char*> buttons[] = {{"Command2", "Fatigue resistance - gammaMf"},
-                                                           {"Command3", "Deformation limits"}};
-    for (const auto& [button, caption] : buttons) {
-        click(button);
-        auto* info = form->findChild<QDialog*>("frmInfoSetup");
-        ASSERT_NE(info, nullptr);
-        EXPECT_EQ(info->windowTitle(), caption);
-        QTest::mouseClick(info, Qt::LeftButton);
-        EXPECT_FALSE(info->isVisible());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
 class LoadForms : public FormTest {
 protected:
     void twoCranes() {
