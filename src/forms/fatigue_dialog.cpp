@@ -139,6 +139,9 @@ Group FatigueDialog::splices() {
                 record.span(j) = index + 1;
                 inputChanged();
             });
+        QPalette colours = span->palette();
+        colours.setColor(QPalette::PlaceholderText, QColor(kRefusedRed));
+        span->setPalette(colours);
         NumberBox* distance = binder_.add({.name = indexed(record.distanceName, j),
                                            .field = record.distance(j),
                                            .mask = "#0",

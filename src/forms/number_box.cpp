@@ -12,7 +12,6 @@ constexpr QRgb kFocusedGreen = qRgb(0, 255, 0);
 constexpr QRgb kRestingWhite = qRgb(255, 255, 255);
 constexpr QRgb kLockedGrey = qRgb(232, 232, 232);
 constexpr QRgb kTextOnBoth = qRgb(16, 16, 16);
-constexpr QRgb kRefusedRed = qRgb(200, 0, 0);
 constexpr int kCharacters = 8;  // wide enough for "4000000" and for "1.234"
 
 }  // namespace

@@ -4,6 +4,9 @@
 
 namespace borvik {
 
+/// The colour of what a form doesn't take.
+inline constexpr QRgb kRefusedRed = qRgb(200, 0, 0);
+
 /// A box for one number. It selects its text on entry, is green while it has the focus and white otherwise, each with
 /// its own dark text so that it reads in a dark theme too. It doesn't judge what is typed: the binder does that.
 class NumberBox : public QLineEdit {
