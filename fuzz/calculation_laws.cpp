@@ -44,7 +44,7 @@ std::string outcome(Session& session, WalkMethod method) {
     const bool finished = Calculate(session, messages, progress, method);
     if (finished != session.Calculated) throw BrokenLaw("a run that has ended has no results, or the other way round");
     if (!finished && messages.texts.empty()) throw BrokenLaw("a calculation is refused without a word");
-    return ResultsJson(session, messages.texts, {}, "");
+    return ResultsJson(session, messages.texts, {}, "", true);
 }
 
 /// Makes all tables and pictures of a run, and its summary.

@@ -29,7 +29,7 @@ bool load(Session& session, const std::string& file, Messages& messages) {
 int outcome(const Session& session, const Options& options) {
     if (!session.Fault.empty()) return kFault;
     if (!session.Calculated) return kRefused;
-    return options.failAbove && LargestRatio(*session.results) > *options.failAbove ? kRatioAbove : kDone;
+    return options.failAbove && verdictOf(*session.results).exceeds(*options.failAbove) ? kRatioAbove : kDone;
 }
 
 int runProject(const Options& options, const ReferenceTables& tables, const std::optional<std::string>& file,

@@ -67,7 +67,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
 }
 
 void Outputs::writeJson(const FinishedRun& run) {
-    const std::string text = ResultsJson(run.session, run.messages, run.file, kProgramAndVersion);
+    const std::string text = ResultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes);
     if (options_.json == "-")
         print(text);
     else
@@ -90,6 +90,8 @@ std::string Outputs::jsonFile(const FinishedRun& run) {
 /// Several projects make one text, each under its name.
 void Outputs::writeTable(const FinishedRun& run) {
     if (!run.session.Calculated || !run.session.results) return;
+    if (!findTable(options_.table)->isAvailable(run.session.project))
+        throw OutputError("this project has no table " + options_.table);
     if (!options_.xlsx.empty()) {
         writeSpreadsheet(run);
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "base/array.h"
@@ -8,12 +9,16 @@ namespace borvik {
 
 /// The texts of one check result, shown as they stand: 1 formula, 2 numbers, 3 ratio by the mask "0.000", 4 limit and
 /// reference, further rows of position data. Rows that nothing writes stay empty.
-/// `Ratio` is the number behind row 3, so that 1.0001 can be marked although it shows as "1.000".
+/// `Ratio` is the number behind row 3, so that 1.0001 can be marked although it shows as "1.000". Where the rows were
+/// chosen from several points by their texts, `LargestOfPoints` is the largest number among these.
 template <int Rows>
 struct RowSet {
     FixedArray<std::string, 1, Rows> Text;
     double Ratio = 0.0;
+    double LargestOfPoints = 0.0;
 
+    /// The largest ratio that stands behind these rows, shown or not.
+    [[nodiscard]] double largest() const { return std::max(LargestOfPoints, Ratio); }
     [[nodiscard]] std::string& operator()(int row) { return Text(row); }
     [[nodiscard]] const std::string& operator()(int row) const { return Text(row); }
     bool operator==(const RowSet&) const = default;
@@ -23,8 +28,14 @@ struct RowSet {
 template <int To, int From>
 void copyRows(RowSet<To>& to, const RowSet<From>& from, int first, int last) {
     for (int row = first; row <= last; ++row) to(row) = from(row);
-    if (first <= 3 && last >= 3) to.Ratio = from.Ratio;
+    if (first > 3 || last < 3) return;
+    to.Ratio = from.Ratio;
+    to.LargestOfPoints = from.LargestOfPoints;
 }
+
+/// True when a ratio shows that its check holds. A negative one does not: the resistance is used up by something else, or a
+/// factor is senseless; nor does what is no number.
+[[nodiscard]] inline bool isSatisfied(double ratio) { return ratio >= 0.0 && ratio <= 1.0; }
 
 /// True when ratio text `a` ranks above `b`: the texts are compared character by character, so that "10.000" ranks below
 /// "9.000". That is meant, here and wherever a governing row is chosen.

@@ -73,11 +73,14 @@ public:
     void run(FatigueResults& results) const {
         Array<RowSet<4>> rows(1, rowCount());
         RowSet<4> governing;
+        double largest = 0.0;
         for (int row = 1; row <= rows.last(); ++row) {
             watched(detail_.name, atSplices() ? 0 : std::min<int>(row, project_.NofSpans),
                     [&] { check(row, rows(row)); });
+            largest = std::max(largest, rows(row).LargestOfPoints);
             if (ranksAbove(rows(row)(3), governing(3))) governing = rows(row);
         }
+        governing.LargestOfPoints = largest;
         results.FatRows(detail_.rows) = std::move(rows);
         results.FatResult(detail_.result) = std::move(governing);
     }
@@ -353,6 +356,7 @@ void DetailCheck::check(int row, RowSet<4>& texts) const {
     for (; place.point <= last; ++place.point) {
         const Damage damage = damageAt(place, local);
         const double ratio = damage.sum();
+        texts.LargestOfPoints = std::max(texts.LargestOfPoints, ratio);
         const std::string IrText = detail_.rankedByFullDigits ? plainText(ratio) : formatNumber(ratio, "0.000");
         if (!ranksAbove(IrText, texts(3))) continue;
         texts(3) = detail_.rankedByFullDigits ? formatNumber(ratio, "0.000") : IrText;

@@ -200,14 +200,15 @@ void MainWindow::goToCheckOf(int note) {
 void MainWindow::showGoverning() {
     const auto notes = static_cast<int>(calculation_->notes.notes.size());
     stateNotes_->setText(notes == 1 ? tr("1 note") : tr("%1 notes").arg(notes));
-    const double largest = LargestRatio(calculation_->results);
-    const QString ratio = QString::fromStdString(formatNumber(largest, "0.000"));
+    const RatioVerdict verdict = verdictOf(calculation_->results);
+    const QString ratio = QString::fromStdString(formatNumber(verdict.largest, "0.000"));
+    const bool over = verdict.largest > 1.0;
     // A sign beside the number, so that the state doesn't rest on colour.
-    stateGoverning_->setText(largest > 1.0 ? tr("\u26a0 Largest ratio %1 > 1").arg(ratio)
-                                           : tr("\u2713 Largest ratio %1").arg(ratio));
-    stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts and details"));
+    stateGoverning_->setText((verdict.exceeds(1.0) ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
+                             (over ? " > 1" : "") + QString::fromStdString(verdict.remark()));
+    stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts, details and points"));
     QFont font = stateCalculated_->font();
-    font.setBold(largest > 1.0);
+    font.setBold(verdict.exceeds(1.0));
     stateGoverning_->setFont(font);
     const double milliseconds = calculation_->results.Seconds * 1000.0;
     stateTime_->setText(milliseconds < 1000.0 ? tr("%1 ms").arg(milliseconds, 0, 'f', 0)

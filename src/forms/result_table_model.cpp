@@ -52,14 +52,15 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
             return shown->number ? QVariant(*shown->number) : QString::fromStdString(shown->text);
         case Qt::ToolTipRole: {
             const QString text = QString::fromStdString(shown->text);
-            if (over) return tr("%1: the ratio is greater than 1").arg(text);
+            if (over && *shown->number > 1.0) return tr("%1: the ratio is greater than 1").arg(text);
+            if (over) return tr("%1: the check does not hold, no resistance is left").arg(text);
             return text.size() > 12 ? QVariant(text) : QVariant();
         }
         case Qt::AccessibleTextRole:
-            return over ? tr("%1, greater than 1").arg(QString::fromStdString(shown->text))
+            return over ? tr("%1, not satisfied").arg(QString::fromStdString(shown->text))
                         : QString::fromStdString(shown->text);
         case Qt::TextAlignmentRole:
-            return int(Qt::AlignVCenter) | int(shown->number ? Qt::AlignRight : Qt::AlignLeft);
+            return int(Qt::AlignVCenter) | int(shown->number && index.column() > 0 ? Qt::AlignRight : Qt::AlignLeft);
         case Qt::FontRole:
             if (over || shown->emphasis == Emphasis::Heading) {
                 QFont font = QApplication::font("QTableView");

@@ -102,9 +102,13 @@ void ResultTableView::showTable(ResultTable table) {
     clearSpans();
     model_.setTable(std::move(table));
     const int columns = model_.columnCount();
-    if (columns > 1)
-        for (int row = 0; row < model_.rowCount(); ++row)
-            if (model_.isLine(row)) setSpan(row, 0, 1, columns);
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        if (!model_.isLine(row)) continue;
+        // The last text of a line runs over the columns behind it; "Note:" before it keeps its own.
+        int last = columns - 1;
+        while (last > 0 && model_.index(row, last).data().toString().isEmpty()) --last;
+        if (last < columns - 1) setSpan(row, last, 1, columns - last);
+    }
     columnsSetByUser_ = false;
     fitColumns();
     scrollToTop();

@@ -10,8 +10,8 @@ namespace {
 
 /// Formula, numbers, ratio, limit and reference: what every check row shows.
 template <int Rows>
-std::vector<TableCell> checkRow(std::string place, const RowSet<Rows>& set) {
-    return {textCell(std::move(place)), textCell(set(1)), textCell(set(2)), ratioCell(set), textCell(set(4))};
+std::vector<TableCell> checkRow(TableCell place, const RowSet<Rows>& set) {
+    return {std::move(place), textCell(set(1)), textCell(set(2)), ratioCell(set), textCell(set(4))};
 }
 
 /// Adds where the cranes stood: rows 5, 6 for wheel 1 and, with two cranes, 7, 8 for wheel 5.
@@ -25,20 +25,20 @@ public:
     StaticRows(ResultTable& table, const Project& project) : table_(table), twoCranes_(project.NofCranes == 2) {}
 
     void section(const Array<RowSet<8>>& sets, int span, double position) {
-        auto row = checkRow(std::to_string(span) + "/" + formatNumber(position, "0"), sets(span));
+        auto row = checkRow(textCell(std::to_string(span) + "/" + formatNumber(position, "0")), sets(span));
         addCranes(row, sets(span), twoCranes_);
         table_.rows.push_back(std::move(row));
     }
     void wholeSpan(const Array<RowSet<8>>& sets, int span) {
-        auto row = checkRow(std::to_string(span), sets(span));
+        auto row = checkRow(numberCell(span, "0"), sets(span));
         addCranes(row, sets(span), twoCranes_);
         table_.rows.push_back(std::move(row));
     }
     void local(const Array<RowSet<4>>& sets, int span) {
-        if (sets.has(span)) table_.rows.push_back(checkRow(std::to_string(span), sets(span)));
+        if (sets.has(span)) table_.rows.push_back(checkRow(numberCell(span, "0"), sets(span)));
     }
     void deflection(const Array<RowSet<5>>& sets, int span) {
-        auto row = checkRow(std::to_string(span), sets(span));
+        auto row = checkRow(numberCell(span, "0"), sets(span));
         row.push_back(textCell(sets(span)(5)));
         table_.rows.push_back(std::move(row));
     }
@@ -91,11 +91,11 @@ ResultTable fatigueTable(const Project& project, const Results& results, std::sp
             {textCell(groupHeading(detail.place), Emphasis::Heading), textCell(detail.name, Emphasis::Heading)});
         const Array<RowSet<4>>* rows = rowsOf(detail, project, results.Fatigue);
         if (rows == nullptr) {  // only the governing row of detail 4 is left where detail 6 took its place
-            table.rows.push_back(checkRow("", *governing));
+            table.rows.push_back(checkRow(textCell(""), *governing));
             continue;
         }
         for (int row = rows->first(); row <= rows->last(); ++row)
-            if (!(*rows)(row)(3).empty()) table.rows.push_back(checkRow(std::to_string(row), (*rows)(row)));
+            if (!(*rows)(row)(3).empty()) table.rows.push_back(checkRow(numberCell(row, "0"), (*rows)(row)));
     }
     return table;
 }

@@ -1,8 +1,10 @@
 #include "results/json.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "notes/notes.h"
+#include "results/ratios.h"
 
 namespace borvik {
 
@@ -216,12 +218,12 @@ Json sections(const Project& project) {
 }  // namespace
 
 std::string ResultsJson(const Session& session, const std::vector<std::string>& messages,
-                        const std::optional<std::string>& file, const std::string& program) {
+                        const std::optional<std::string>& file, const std::string& program, bool withNotes) {
     Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
                            session.Calculated, "Messages", messages);
     document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
     document["Project"] = projectHead(session.project);
-    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"})
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes", "LargestRatio"})
         document[key] = nullptr;
     if (session.Calculated && session.results) {
         const Results& results = *session.results;
@@ -232,7 +234,9 @@ std::string ResultsJson(const Session& session, const std::vector<std::string>& 
         document["Fls"] = stressSets(results.Fatigue);
         document["Steps"] = json(results.Steps);
         document["Fatigue"] = fatigueRows(results.Fatigue);
-        document["Notes"] = notesOf(session);
+        if (withNotes) document["Notes"] = notesOf(session);
+        const double largest = verdictOf(results).largest;
+        document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";

@@ -10,7 +10,7 @@ namespace {
 
 TableCell changedCell(const NoteChange& change, double number) {
     TableCell cell = numberCell(number, change.mask);
-    if (change.ratio && number > 1.0) cell.emphasis = Emphasis::OverLimit;
+    if (change.ratio && !isSatisfied(number)) cell.emphasis = Emphasis::OverLimit;
     return cell;
 }
 

@@ -1,11 +1,23 @@
 #pragma once
 
+#include <string>
+
 #include "calculation/session.h"
 
 namespace borvik {
 
-/// The largest interaction ratio of a run: of every span, part and detail, not of the governing rows only, since those
-/// are ranked by their texts ("10.000" below "9.000").
-[[nodiscard]] double LargestRatio(const Results& results);
+/// What the interaction ratios of a run say together: of every span, part, detail and point, not of the shown rows
+/// only, since those are ranked by their texts ("10.000" below "9.000").
+struct RatioVerdict {
+    double largest = 0.0;     ///< of those that are numbers
+    bool negative = false;    ///< some check has no resistance left
+    bool notANumber = false;  ///< some check has no result
+
+    /// True when a ratio is above the limit, or cannot be held against any.
+    [[nodiscard]] bool exceeds(double limit) const { return largest > limit || negative || notANumber; }
+    /// What has to be said beside the largest ratio: ", some are negative: no resistance is left"; else empty.
+    [[nodiscard]] std::string remark() const;
+};
+[[nodiscard]] RatioVerdict verdictOf(const Results& results);
 
 }  // namespace borvik

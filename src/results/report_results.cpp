@@ -23,7 +23,7 @@ struct CheckRow {
 
 template <int Rows>
 CheckRow checkRow(std::string place, const RowSet<Rows>& set) {
-    return {std::move(place), set(1), set(2), set(3), set(4), "", set.Ratio > 1.0};
+    return {std::move(place), set(1), set(2), set(3), set(4), "", !isSatisfied(set.Ratio)};
 }
 
 /// Rows 5 to 8: span and distance of wheel 1, with two cranes those of wheel 5.

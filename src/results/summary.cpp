@@ -78,9 +78,10 @@ std::string PlainText(const ResultTable& table) {
 
 std::string SummaryText(const Session& session) {
     if (!session.Calculated || !session.results) return projectLine(session.project) + "Not calculated.\n";
-    const double largest = LargestRatio(*session.results);
+    const RatioVerdict verdict = verdictOf(*session.results);
     return projectLine(session.project) + PlainText(ShowSummaryAll(session.project, *session.results)) +
-           "Largest ratio " + formatNumber(largest, "0.000") + (largest > 1.0 ? ", over 1: marked !!\n" : "\n");
+           "Largest ratio " + formatNumber(verdict.largest, "0.000") +
+           (verdict.largest > 1.0 ? ", over 1: marked !!" : "") + verdict.remark() + "\n";
 }
 
 }  // namespace borvik

@@ -16,11 +16,11 @@ inline TableCell numberCell(double number, const char* mask) {
     return {formatNumber(number, mask), Emphasis::None, number, mask};
 }
 
-/// The ratio of a row set: the text as the check wrote it, the number behind it, and the mark where it is strictly
-/// over 1.
+/// The ratio of a row set: the text as the check wrote it, the number behind it, and the mark where it does
+/// not show that the check holds.
 template <int Rows>
 TableCell ratioCell(const RowSet<Rows>& set) {
-    return {set(3), set.Ratio > 1.0 ? Emphasis::OverLimit : Emphasis::None, set.Ratio, "0.000"};
+    return {set(3), isSatisfied(set.Ratio) ? Emphasis::None : Emphasis::OverLimit, set.Ratio, "0.000"};
 }
 
 }  // namespace borvik

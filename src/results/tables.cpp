@@ -99,7 +99,7 @@ constexpr std::array<TableEntry, 13> kEntries{{
     {"CodeStatic", "Static", TableCodeStatic},
     {"CodeFatigue", "Fatigue", codeFatigueByCraneType},
     {"Stress1", "FLS - Crane 1", TableStress1},
-    {"Stress2", "FLS - Crane 2", TableStress2},
+    {"Stress2", "FLS - Crane 2", TableStress2, true},
     {"Steps", "Intermediate steps", TableSteps},
 }};
 
@@ -159,7 +159,7 @@ ResultTable TableStress1(const Project& project, const Results& results) {
 ResultTable TableStress2(const Project& project, const Results& results) {
     ResultTable table = stressTable(project, results.Fatigue.Cr2);
     // Two cranes at a constant distance are walked as one train, and no stress of crane 2 by itself exists.
-    if (!results.Fatigue.Cr2)
+    if (!results.Fatigue.Cr2 && project.NofCranes == 2)
         table.rows.push_back(
             {textCell("Note:", Emphasis::Note),
              textCell("The cranes keep their distance: both are in the stresses of crane 1", Emphasis::Note)});

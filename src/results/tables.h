@@ -14,9 +14,9 @@ namespace borvik {
 enum class Emphasis {
     None,
     Heading,    ///< a line that opens a group
-    OverLimit,  ///< a ratio strictly greater than 1; to be shown in red and with a mark that doesn't rest on colour
-                ///< alone
-    Note,       ///< a remark below the table
+    OverLimit,  ///< a ratio strictly greater than 1, negative or no number: the check does not hold; to be shown in red
+                ///< and with a mark that doesn't rest on colour alone
+    Note,  ///< a remark below the table
 };
 
 /// A cell: the text that is shown and, where it shows a number, that number with its mask, so that a spreadsheet can go
@@ -79,6 +79,9 @@ struct TableEntry {
     const char* name;   ///< such as "MyVz"
     const char* title;  ///< for a window title, a sheet or a list of names
     ResultTable (*fill)(const Project&, const Results&);
+    bool ofTwoCranes = false;  ///< has nothing to tell of a project with one crane
+
+    [[nodiscard]] bool isAvailable(const Project& project) const { return !ofTwoCranes || project.NofCranes == 2; }
 };
 /// All tables in the order of the trees.
 [[nodiscard]] std::span<const TableEntry> tableEntries();

@@ -32,7 +32,7 @@ nlohmann::json calculated(const std::string& name, WalkMethod method) {
     Progress progress;
     Calculate(session, messages, progress, method);
     nlohmann::json results = nlohmann::json::parse(ResultsJson(session, messages.texts, name, "Borvik"));
-    results.erase("Notes");  // which other programs don't have
+    for (const char* ours : {"Notes", "LargestRatio"}) results.erase(ours);  // which other programs don't have
     return results;
 }
 

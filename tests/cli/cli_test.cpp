@@ -247,5 +247,12 @@ TEST_F(CommandLine, drawsADiagramWithoutADisplay) {
     EXPECT_EQ(run("--default --diagram MyVz --png missing/forces.png").exitCode, 5);
 }
 
+TEST_F(CommandLine, crane2HasNoTableWhereThereIsOneCrane) {
+    const Outcome outcome = run("--default --table Stress2");
+    EXPECT_EQ(outcome.exitCode, 5);
+    EXPECT_THAT(outcome.err, HasSubstr("this project has no table Stress2"));
+    EXPECT_EQ(outcome.out, "");
+}
+
 }  // namespace
 }  // namespace borvik

@@ -51,8 +51,8 @@ TEST_P(Examples, calculateAsSavedAndHold) {
     EXPECT_TRUE(example.messages.texts.empty()) << testing::PrintToString(example.messages.texts);
     EXPECT_FALSE(example.loaded.Proj.empty());
     EXPECT_FALSE(example.loaded.Ident.empty());
-    EXPECT_LE(LargestRatio(*example.session.results), 1.0);
-    EXPECT_GE(LargestRatio(*example.session.results), 0.49);
+    EXPECT_LE(verdictOf(*example.session.results).largest, 1.0);
+    EXPECT_GE(verdictOf(*example.session.results).largest, 0.49);
     // They were saved after a run, so another run changes nothing in them: no splice is dropped, no section moves.
     EXPECT_TRUE(example.session.project == example.loaded);
 }
@@ -74,7 +74,7 @@ TEST(ExampleSet, showsEveryKindOfProject) {
         if (p.NofCranes == 2 && p.MinDistConst == 1.0) kinds.insert("constant distance");
         if (p.CraneType == 2) kinds.insert("monorail");
         if (p.SpanSection(1).Id == "Iu" && p.SpanSection(1).Reinforced) kinds.insert("reinforced plate girder");
-        if (largestFatigueRatio(results.Fatigue) == LargestRatio(results)) kinds.insert("governed by fatigue");
+        if (largestFatigueRatio(results.Fatigue) == verdictOf(results).largest) kinds.insert("governed by fatigue");
     }
     EXPECT_EQ(kinds.size(), 6u) << testing::PrintToString(kinds);
 }

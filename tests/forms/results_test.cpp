@@ -400,5 +400,20 @@ TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
     }
 }
 
+TEST_F(ResultsTest, textsBesideAHeadingAreNotCovered) {
+    calculate();
+    for (const char* name : {"CodeStatic", "CodeFatigue"}) {
+        ResultTableView view;
+        view.showTable(findTable(name)->fill(project(), *session.results));
+        for (int row = 0; row < view.model()->rowCount(); ++row)
+            for (int column = 0; column < view.model()->columnCount(); ++column) {
+                const QModelIndex cell = view.model()->index(row, column);
+                if (cell.data().toString().isEmpty()) continue;
+                EXPECT_EQ(view.indexAt(view.visualRect(cell).center()).column(), column)
+                    << name << ": " << cell.data().toString().toStdString();
+            }
+    }
+}
+
 }  // namespace
 }  // namespace borvik

@@ -17,7 +17,7 @@ struct DefaultRun {
     Document document(const std::optional<std::string>& file = std::nullopt) {
         Progress progress;
         Calculate(session, messages, progress);
-        text = ResultsJson(session, messages.texts, file, "Borvik 1.2.3");
+        text = ResultsJson(session, messages.texts, file, "Borvik 1.2.3", true);
         return Document::parse(text);
     }
     Session session;
@@ -46,9 +46,9 @@ using Shape = std::vector<std::size_t>;
 TEST(ResultsJson, keysAndShapesOfTheDefaultProject) {
     DefaultRun run;
     const Document d = run.document();
-    EXPECT_EQ(keysOf(d),
-              (std::vector<std::string>{"Schema", "Program", "File", "Calculated", "Messages", "Fault", "Project",
-                                        "Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"}));
+    EXPECT_EQ(keysOf(d), (std::vector<std::string>{"Schema", "Program", "File", "Calculated", "Messages", "Fault",
+                                                   "Project", "Sections", "Uls", "Sls", "Checks", "Fls", "Steps",
+                                                   "Fatigue", "Notes", "LargestRatio"}));
     EXPECT_EQ(d["Schema"], 1);
     EXPECT_EQ(d["Program"], "Borvik 1.2.3");
     EXPECT_TRUE(d["File"].is_null());
@@ -97,7 +97,7 @@ TEST(ResultsJson, storedNumbersAreShort) {
 TEST(ResultsJson, notesTellTheChangeAndLeaveTheResultsAlone) {
     DefaultRun run;
     Document first = run.document();  // whose notes are made after the results have been written
-    Document second = Document::parse(ResultsJson(run.session, {}, std::nullopt, "Borvik 1.2.3"));
+    Document second = Document::parse(ResultsJson(run.session, {}, std::nullopt, "Borvik 1.2.3", true));
     const Document notes = first["Notes"];
     first.erase("Notes");
     second.erase("Notes");
@@ -122,7 +122,7 @@ TEST(ResultsJson, aRefusedProjectHasMessagesAndNoResults) {
     EXPECT_EQ(d["Calculated"], false);
     EXPECT_EQ(d["Messages"].front(), " First Beam must have a length ");
     EXPECT_EQ(d["File"], "beam.brvk");
-    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes"})
+    for (const char* key : {"Sections", "Uls", "Sls", "Checks", "Fls", "Steps", "Fatigue", "Notes", "LargestRatio"})
         EXPECT_TRUE(d[key].is_null()) << key;
 }
 

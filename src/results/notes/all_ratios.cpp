@@ -7,10 +7,10 @@ namespace {
 template <int Rows, int Gov>
 void add(std::vector<CheckedRatio>& ratios, std::string what, const Array<RowSet<Rows>>& rows,
          const RowSet<Gov>& governing, bool spans = true) {
-    CheckedRatio found{std::move(what), governing.Ratio, governing.Ratio, 0};
+    CheckedRatio found{std::move(what), governing.Ratio, governing.largest(), 0};
     for (int i = rows.first(); i <= rows.last(); ++i)
-        if (rows(i).Ratio > found.largest || (rows(i).Ratio == found.largest && found.at == 0)) {
-            found.largest = rows(i).Ratio;
+        if (rows(i).largest() > found.largest || (rows(i).largest() == found.largest && found.at == 0)) {
+            found.largest = rows(i).largest();
             found.at = spans ? i : 0;
         }
     ratios.push_back(std::move(found));

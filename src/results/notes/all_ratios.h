@@ -12,7 +12,7 @@ namespace borvik {
 struct CheckedRatio {
     std::string what;    ///< "bending"
     double shown = 0;    ///< of the governing row
-    double largest = 0;  ///< of all rows
+    double largest = 0;  ///< of all rows and the points behind them
     int at = 0;          ///< the span of the largest, from 1; 0 where the rows are no spans
 };
 

@@ -4,7 +4,7 @@ namespace borvik {
 
 namespace {
 
-/// The largest of the rows where the governing row is another: the change with the largest growth.
+/// Every check whose governing row hides a larger ratio, in another row or at another point of its own.
 template <class Wanted>
 std::optional<NoteFinding> hiddenRatios(const Session& session, Wanted wanted) {
     std::vector<NoteChange> hidden;
@@ -12,7 +12,8 @@ std::optional<NoteFinding> hiddenRatios(const Session& session, Wanted wanted) {
         if (ratio.largest > ratio.shown && wanted(ratio))
             hidden.push_back(
                 {ratio.at > 0 ? inSpan(ratio.what.c_str(), ratio.at) : ratio.what, ratio.shown, ratio.largest});
-    return worstOf(hidden);
+    if (hidden.empty()) return std::nullopt;
+    return NoteFinding{std::move(hidden), ""};
 }
 
 bool isWheelCheck(const CheckedRatio& ratio) {
