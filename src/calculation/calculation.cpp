@@ -19,17 +19,22 @@ bool hasSection(const Project& project, int span) {
     return project.SpanSection.has(span) && !project.SpanSection(span).DisplayName.empty();
 }
 
-/// The first message that the spans and sections give; null where they are in order.
-const char* refusal(const Project& project) {
+/// What the input check finds first in the spans and their sections, and where.
+struct Refusal {
+    const char* message = nullptr;  ///< null where they are in order
+    int span = 0;
+};
+
+Refusal refusal(const Project& project) {
     for (int i = 2; i <= 29; ++i)
-        if (project.Span(i + 1) != 0 && project.Span(i) == 0) return " An inner beam can't have length = 0 ";
+        if (project.Span(i + 1) != 0 && project.Span(i) == 0) return {" An inner beam can't have length = 0 ", i};
     for (int i = 2; i <= 29; ++i)
-        if (hasSection(project, i + 1) && !hasSection(project, i)) return " An inner beam must have a profile  ";
+        if (hasSection(project, i + 1) && !hasSection(project, i)) return {" An inner beam must have a profile  ", i};
     for (int i = 1; i <= 30; ++i)
-        if (!hasSection(project, i) && project.Span(i) != 0) return " Missing profile  ";
+        if (!hasSection(project, i) && project.Span(i) != 0) return {" Missing profile  ", i};
     for (int i = 1; i <= 30; ++i)
-        if (hasSection(project, i) && project.Span(i) == 0) return " Missing beam length  ";
-    return nullptr;
+        if (hasSection(project, i) && project.Span(i) == 0) return {" Missing beam length  ", i};
+    return {};
 }
 
 /// Whether a splice stands on the beam. A span number below 1, as only a spoilt file has it, is no place on the beam
@@ -152,13 +157,17 @@ bool CheckInput(Project& project, Messages& messages) {
         messages.show(" First Beam must have a length ");
         ok = false;
     }
-    if (const char* text = refusal(project)) {
+    if (const char* text = refusal(project).message) {
         messages.show(text);
         return false;
     }
     dropSplices(project, project.FatR5, project.ChkFatR5Sp, project.FatR5Span, project.FatR5d1);
     dropSplices(project, project.Fat5, project.ChkFat5Sp, project.Fat5Span, project.Fat5d1);
     return ok;
+}
+
+int RefusedSpan(const Project& project) {
+    return project.Span(1) == 0 ? 1 : refusal(project).span;
 }
 
 void TurnReactionsUpward(UlsResults& uls) {

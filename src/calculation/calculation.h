@@ -8,6 +8,8 @@ namespace borvik {
 /// and drops, without a message and for good, fatigue splices that no longer fit the beam. Shows its own messages.
 /// @return false when a message was shown
 [[nodiscard]] bool CheckInput(Project& project, Messages& messages);
+/// The span at which that check stops; 0 where it passes.
+[[nodiscard]] int RefusedSpan(const Project& project);
 
 /// Gives the reactions at the far end, which the walk of the ultimate limit state keeps as shears, the sign of upward
 /// support forces.

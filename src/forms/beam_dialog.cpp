@@ -2,15 +2,16 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
-#include <numeric>
+#include <algorithm>
 
 #include "base/number_text.h"
 #include "calculation/calculation.h"
 #include "forms/dialogs.h"
+#include "forms/section_combo.h"
+#include "forms/span_list.h"
 #include "pictures/beam_picture.h"
 #include "section/section.h"
 
@@ -22,21 +23,28 @@ QString trimmedName(const SectionRecord& section) {
     return QString::fromStdString(section.DisplayName).trimmed();
 }
 
+/// A file may bring fewer rows than the form offers, and another number for the first one. What it brings is shown in its
+/// order from row 1 on.
+void bringRows(Project& project) {
+    Array<SectionRecord>& sections = project.SpanSection;
+    if (sections.first() == 1 && sections.last() >= kMaxSpans) return;
+    Array<SectionRecord> rows(1, std::max(kMaxSpans, sections.size()));
+    std::copy(sections.begin(), sections.end(), rows.begin());
+    sections = std::move(rows);
+}
+
 }  // namespace
 
 BeamDialog::BeamDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmBeam", tr("Beam"), session, messages, std::move(changed), parent) {
-    // A file may bring fewer rows than the form offers.
-    if (project_.SpanSection.size() == 0) project_.SpanSection = Array<SectionRecord>(1, kMaxSpans);
-    while (project_.SpanSection.last() < kMaxSpans) project_.SpanSection.append({});
-
+    bringRows(project_);
     makeList30();
     auto* content = new QGridLayout;
     picture_ = new Picture(beamPicture(project_), 70, 5);
     picture_->setToolTip(tr("The spans to scale, each with its section"));
-    content->addWidget(picture_, 0, 0, 1, 2);
-    content->addWidget(entry().box, 1, 0, 1, 2);
-    content->addWidget(lstViewTill_, 2, 0, 1, 2);
+    content->addWidget(picture_, 0, 0, 1, 4);
+    content->addWidget(entry().box, 1, 0, 1, 4);
+    content->addWidget(lstViewTill_, 2, 0, 1, 4);
     content->setRowStretch(2, 1);
     chkDead_ = makeChoice<QCheckBox>("chkDead", tr("Include deadload of beam "),
                                      tr("The beam's own weight acts as a permanent load, EN 1991-1-1"), [this] {
@@ -45,13 +53,21 @@ BeamDialog::BeamDialog(Session& session, Messages& messages, std::function<void(
                                          inputChanged();
                                      });
     content->addWidget(chkDead_, 3, 0);
+    content->addWidget(makeButton("cmdInsertSpan", tr("Insert span"), tr("Put an empty span before the selected row"),
+                                  [this] { lstViewTill_->insertSpan(); }),
+                       3, 1);
+    content->addWidget(makeButton("cmdRemoveSpan", tr("Remove span"), tr("Take the selected spans out of the beam"),
+                                  [this] { lstViewTill_->removeSpans(); }),
+                       3, 2);
     content->addWidget(closeButton("cmdOK", tr("&Close"), tr("Check the beam and close the form"),
                                    [this] {
                                        bringSectionsUpToDate();
                                        accept();
                                    }),
-                       3, 1, Qt::AlignRight);
+                       3, 3);
+    content->setColumnStretch(0, 1);
     setContent(content);
+    binder_.afterLast = cboProf_;  // length, section, then row after row
     fillSections();
     Write();
 }
@@ -59,14 +75,16 @@ BeamDialog::BeamDialog(Session& session, Messages& messages, std::function<void(
 void BeamDialog::Write() {
     BeamLengthText = generalText(project_.Span(1));
     binder_.show();
-    for (int row = 1; row <= kMaxSpans; ++row) showRow(row);
+    lstViewTill_->showAll();
     chkDead_->setChecked(project_.SelfWeight);
     picture_->update();
 }
 
 bool BeamDialog::mayClose() {
+    if (!lstViewTill_->commitCell()) return false;
     project_.BeamChecked = CheckInput(project_, messages_);
     inputChanged();
+    if (const int span = RefusedSpan(project_); span > 0 && !project_.BeamChecked) lstViewTill_->mark(span);
     return project_.BeamChecked;
 }
 
@@ -86,15 +104,18 @@ Group BeamDialog::entry() {
                                [this](Single length) { BeamLengthText = formatNumber(length, "##0"); }},
                      .mask = "##0",
                      .range = fixed(spanLengthRange()),
-                     .message = " 200 < Beam length L < 2 ",
+                     .message = kLengthLimits,
                      .meaning = tr("Length of a span between its supports; give it to rows by the buttons")});
-    cboProf_ = makeList("cboProf", tr("Section to give to rows by the buttons"), [](int) {});
+    cboProf_ = makeSectionList("cboProf", tr("Section to give to rows by the buttons; type its name"), [](int) {});
+    cboProf_->installEventFilter(this);
     addRow(group.grid, tr("Length ="), txtBeamLength_, tr("mm"));
-    addRow(group.grid, tr("Profile ="), cboProf_);
-    cboProf_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto* profile = new QLabel(tr("Profile ="));
+    profile->setBuddy(cboProf_);
+    group.grid->addWidget(profile, 1, 0);
+    group.grid->addWidget(cboProf_, 1, 1, 1, 2);
     const auto button = [&](const char* name, const QString& text, const QString& tip, bool all, int what, int row,
                             int column) {
-        const auto click = [this, all, what] { apply(all ? rowsInUse() : selectedRows(), what); };
+        const auto click = [this, all, what] { apply(all ? lstViewTill_->rowsInUse() : lstViewTill_->selectedRows(), what); };
         group.grid->addWidget(makeButton(name, text, tip, click), row, column);
     };
     button("Command4", tr("Length → row"), tr("Give the length to the selected row"), false, Length, 0, 3);
@@ -110,52 +131,32 @@ Group BeamDialog::entry() {
 }
 
 void BeamDialog::makeList30() {
-    lstViewTill_ = new QTreeWidget;
-    lstViewTill_->setObjectName(QStringLiteral("lstViewTill"));
-    lstViewTill_->setHeaderLabels({tr("Beam"), tr("Length"), tr("Profile")});
-    lstViewTill_->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-    lstViewTill_->setStyleSheet(QStringLiteral("QTreeView::item { padding: 2px 8px; }"));
-    lstViewTill_->setRootIsDecorated(false);
-    lstViewTill_->setUniformRowHeights(true);
-    lstViewTill_->setAlternatingRowColors(true);
-    lstViewTill_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    lstViewTill_->setToolTip(
-        tr("Enter gives length and section to the row and goes to the next; Delete clears the row; a double "
-           "click on a length or a section takes the one above"));
-    lstViewTill_->installEventFilter(this);
-    lstViewTill_->header()->setSectionsClickable(true);
-    lstViewTill_->header()->setStretchLastSection(true);
-    QFont bold = lstViewTill_->font();
-    bold.setBold(true);
-    for (int row = 1; row <= kMaxSpans; ++row) {
-        auto* item = new QTreeWidgetItem(lstViewTill_, {QString::number(row)});
-        item->setFont(0, bold);
-        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-    }
-    lstViewTill_->setCurrentItem(lstViewTill_->topLevelItem(0));
-    const QFontMetrics metrics = lstViewTill_->fontMetrics();
-    lstViewTill_->setMinimumHeight(metrics.lineSpacing() * 22);
-    connect(lstViewTill_->header(), &QHeaderView::sectionClicked, this, &BeamDialog::selectColumn);
+    lstViewTill_ = new SpanList(project_, messages_);
+    lstViewTill_->setMinimumHeight(lstViewTill_->fontMetrics().lineSpacing() * 22);
+    connect(lstViewTill_, &SpanList::edited, this, [this] {
+        picture_->update();
+        inputChanged();
+    });
+    connect(lstViewTill_, &SpanList::enterPressed, this, [this] {
+        apply(lstViewTill_->selectedRows(), Length | Profile);
+        lstViewTill_->moveDown();
+    });
     connect(lstViewTill_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem*, int column) {
-        if (column > 0) apply(selectedRows(), column == 1 ? Length : Profile);
+        if (column > 0) apply(lstViewTill_->selectedRows(), column == 1 ? Length : Profile);
     });
 }
 
+/// Enter goes on from the section to the list.
 bool BeamDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == lstViewTill_ && event->type() == QEvent::KeyPress) {
+    if (watched == cboProf_ && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Delete) {
-            clearSelected();
-            return true;
-        }
         const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
         if (enter && !key->modifiers().testFlag(Qt::ControlModifier)) {
-            apply(selectedRows(), Length | Profile);
-            moveDown();
+            lstViewTill_->setFocus(Qt::TabFocusReason);  // on leaving, the section typed is chosen
             return true;
         }
     }
-    return QDialog::eventFilter(watched, event);
+    return InputDialog::eventFilter(watched, event);
 }
 
 void BeamDialog::fillSections() {
@@ -164,63 +165,11 @@ void BeamDialog::fillSections() {
     cboProf_->setCurrentIndex(0);
 }
 
-std::vector<int> BeamDialog::selectedRows() const {
-    std::vector<int> rows;
-    for (int row = 1; row <= kMaxSpans; ++row)
-        if (lstViewTill_->topLevelItem(row - 1)->isSelected()) rows.push_back(row);
-    return rows;
-}
-
-std::vector<int> BeamDialog::rowsInUse() const {
-    int last = kMaxSpans;
-    while (last > 0 && project_.Span(last) == 0) --last;
-    const std::vector<int> selected = selectedRows();
-    if (!selected.empty()) last = std::max(last, selected.back());
-    std::vector<int> rows(static_cast<std::size_t>(last));
-    std::iota(rows.begin(), rows.end(), 1);
-    return rows;
-}
-
 void BeamDialog::apply(const std::vector<int>& rows, int what) {
-    const int section = cboProf_->currentIndex();
-    for (const int row : rows) {
-        if ((what & Length) != 0) project_.Span(row) = roundHalfEven(DecimalValue(BeamLengthText));
-        if ((what & Profile) != 0 && project_.SectionList.has(section)) {
-            project_.SpanSection(row) = project_.SectionList(section);
-            project_.SectionList(section).InUse = true;
-        }
-        showRow(row);
-    }
-    picture_->update();
-    inputChanged();
-}
-
-void BeamDialog::clearSelected() {
-    for (const int row : selectedRows()) {
-        project_.Span(row) = 0;
-        project_.SpanSection(row) = SectionRecord();
-        showRow(row);
-    }
-    picture_->update();
-    inputChanged();
-}
-
-void BeamDialog::selectColumn(int column) {
-    for (int row = 1; row <= kMaxSpans; ++row) {
-        QTreeWidgetItem* item = lstViewTill_->topLevelItem(row - 1);
-        item->setSelected(column == 0 || (column == 1 ? project_.Span(row) != 0 : !item->text(2).isEmpty()));
-    }
-}
-
-void BeamDialog::showRow(int row) {
-    QTreeWidgetItem* item = lstViewTill_->topLevelItem(row - 1);
-    item->setText(1, QString::number(project_.Span(row)));
-    item->setText(2, trimmedName(project_.SpanSection(row)));
-}
-
-void BeamDialog::moveDown() {
-    if (QTreeWidgetItem* below = lstViewTill_->itemBelow(lstViewTill_->currentItem()))
-        lstViewTill_->setCurrentItem(below);
+    SpanEntry entry;
+    if ((what & Length) != 0) entry.length = roundHalfEven(DecimalValue(BeamLengthText));
+    if ((what & Profile) != 0) entry.section = cboProf_->currentIndex();
+    lstViewTill_->give(rows, entry);
 }
 
 void BeamDialog::bringSectionsUpToDate() {
@@ -235,9 +184,12 @@ void BeamDialog::openSectionForm() {
     bringSectionsUpToDate();
     sectionForm_ = makeDialog(
         DialogKind::Profile, session_, messages_, [this] { inputChanged(); }, this);
-    connect(sectionForm_.get(), &QDialog::finished, this, [this] {
+    connect(sectionForm_.get(), &QDialog::finished, this, [this, before = project_.SectionList.size()] {
+        const QString chosen = cboProf_->currentText();
         fillSections();
         Write();
+        const int added = project_.SectionList.size() > before ? cboProf_->count() - 1 : cboProf_->named(chosen);
+        cboProf_->setCurrentIndex(std::max(added, 0));
     });
     sectionForm_->open();
 }

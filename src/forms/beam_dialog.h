@@ -5,11 +5,12 @@
 #include "forms/input_dialog.h"
 
 class QCheckBox;
-class QTreeWidgetItem;
 
 namespace borvik {
 
 class Picture;
+class SectionCombo;
+class SpanList;
 
 /// frmBeam: length and section of each of up to 30 spans.
 class BeamDialog : public InputDialog {
@@ -30,20 +31,14 @@ private:
     Group entry();
     void makeList30();
     void fillSections();
-    /// Rows to be changed: the selected ones, or all in use.
-    [[nodiscard]] std::vector<int> selectedRows() const;
-    [[nodiscard]] std::vector<int> rowsInUse() const;
+    /// Gives length, section or both from above the list to rows.
     void apply(const std::vector<int>& rows, int what);
-    void clearSelected();
-    void selectColumn(int column);
-    void showRow(int row);
-    void moveDown();
     void bringSectionsUpToDate();
     void openSectionForm();
 
     std::string BeamLengthText;
-    QTreeWidget* lstViewTill_;
-    QComboBox* cboProf_;
+    SpanList* lstViewTill_;
+    SectionCombo* cboProf_;
     QCheckBox* chkDead_;
     NumberBox* txtBeamLength_;
     Picture* picture_;
