@@ -23,8 +23,8 @@ QString trimmedName(const SectionRecord& section) {
     return QString::fromStdString(section.DisplayName).trimmed();
 }
 
-/// A file may bring fewer rows than the form offers, and another number for the first one. What it brings is shown in its
-/// order from row 1 on.
+/// A file may bring fewer rows than the form offers, and another number for the first one. What it brings is shown in
+/// its order from row 1 on.
 void bringRows(Project& project) {
     Array<SectionRecord>& sections = project.SpanSection;
     if (sections.first() == 1 && sections.last() >= kMaxSpans) return;
@@ -115,7 +115,9 @@ Group BeamDialog::entry() {
     group.grid->addWidget(cboProf_, 1, 1, 1, 2);
     const auto button = [&](const char* name, const QString& text, const QString& tip, bool all, int what, int row,
                             int column) {
-        const auto click = [this, all, what] { apply(all ? lstViewTill_->rowsInUse() : lstViewTill_->selectedRows(), what); };
+        const auto click = [this, all, what] {
+            apply(all ? lstViewTill_->rowsInUse() : lstViewTill_->selectedRows(), what);
+        };
         group.grid->addWidget(makeButton(name, text, tip, click), row, column);
     };
     button("Command4", tr("Length → row"), tr("Give the length to the selected row"), false, Length, 0, 3);

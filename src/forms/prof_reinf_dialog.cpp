@@ -9,6 +9,27 @@
 
 namespace borvik {
 
+namespace {
+
+constexpr const char* kHeightLimits = " 10 < hr < H/2 ";
+constexpr const char* kThicknessLimits = " 0.5 < tr   ";
+
+Range heightRange(const SectionRecord& section) {
+    return {.lowest = 10, .highest = double(section.h) / 2, .withoutLowest = true, .withoutHighest = true};
+}
+
+Range thicknessRange() {
+    return moreThan(0.5);
+}
+
+}  // namespace
+
+const char* plateRefusal(const SectionRecord& section) {
+    if (!section.Reinforced) return nullptr;
+    if (!heightRange(section).holds(section.ReinfD)) return kHeightLimits;
+    return thicknessRange().holds(section.ReinfT) ? nullptr : kThicknessLimits;
+}
+
 ProfReinfDialog::ProfReinfDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmProfReinf", tr("Reinforcement"), session, messages, std::move(changed), parent),
       current_(session.context.CurrentSection) {
@@ -52,14 +73,8 @@ Group ProfReinfDialog::plate() {
            binder_.add({.name = "ihr",
                         .field = current_.ReinfD,
                         .mask = "##0",
-                        .range =
-                            [this] {
-                                return Range{.lowest = 10,
-                                             .highest = double(current_.h) / 2,
-                                             .withoutLowest = true,
-                                             .withoutHighest = true};
-                            },
-                        .message = " 10 < hr < H/2 ",
+                        .range = [this] { return heightRange(current_); },
+                        .message = kHeightLimits,
                         .meaning = tr("Height of a plate, from the middle of the flange down")}),
            tr("mm"));
     addRow(group.grid, tr("b ="),
@@ -74,8 +89,8 @@ Group ProfReinfDialog::plate() {
            binder_.add({.name = "itr",
                         .field = current_.ReinfT,
                         .mask = "##0",
-                        .range = fixed(moreThan(0.5)),
-                        .message = " 0.5 < tr   ",
+                        .range = fixed(thicknessRange()),
+                        .message = kThicknessLimits,
                         .meaning = tr("Thickness of a plate")}),
            tr("mm"));
     return group;
@@ -93,6 +108,13 @@ void ProfReinfDialog::update() {
 }
 
 bool ProfReinfDialog::mayClose() {
+    if (const char* refusal = plateRefusal(current_)) {
+        auto* box = findChild<NumberBox*>(QString::fromUtf8(refusal == kHeightLimits ? "ihr" : "itr"));
+        messages_.show(refusal);
+        box->markRefused(tr("Refused"));
+        box->setFocus(Qt::TabFocusReason);
+        return false;
+    }
     current_.ReinfSuffix =
         current_.Reinforced ? "+PL" + generalText(current_.ReinfD) + "x" + generalText(current_.ReinfT) : std::string();
     SectionRecord named = current_;

@@ -6,13 +6,17 @@ namespace borvik {
 
 class Picture;
 
+/// The message for plates that don't fit their section: height or thickness outside its limits; null for plates that
+/// fit and for none.
+[[nodiscard]] const char* plateRefusal(const SectionRecord& section);
+
 /// frmProfReinf: two plates at the top flange of the section being edited.
 class ProfReinfDialog : public InputDialog {
 public:
     ProfReinfDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 
 protected:
-    /// Names the section after its plates.
+    /// Asks whether the plates fit, and names the section after them.
     bool mayClose() override;
 
 private:

@@ -1,15 +1,18 @@
 #include "forms/profile_dialog.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeWidget>
 
 #include "forms/dialogs.h"
+#include "forms/prof_reinf_dialog.h"
+#include "forms/section_combo.h"
 #include "forms/section_rows.h"
 #include "pictures/section_picture.h"
 #include "section/section.h"
@@ -39,21 +42,39 @@ SectionRecord firstOf(const Project& project, const char* family, const SectionR
     return section;
 }
 
+/// Why no such section can be made, though each dimension is within its limits; empty where it can.
+QString impossible(const SectionRecord& s) {
+    const auto says = [](const char* text) { return ProfileDialog::tr(text); };
+    if (isWelded(s) && s.h - s.tf1 - s.tf2 <= 0) return says("Web height h - tf1 - tf2 <= 0");
+    if (isWelded(s) && s.tw > std::min(s.b1, s.b2)) return says("Web thicker than a flange is wide");
+    if (s.It < 0) return says("Torsion constant It < 0: the plates are too stout");
+    if (const char* refusal = plateRefusal(s)) return says("Plates:") + QString::fromUtf8(refusal);
+    return {};
+}
+
 }  // namespace
 
 ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmProfile", tr("Profile"), session, messages, std::move(changed), parent, "Input string mismatch"),
       current_(session.context.CurrentSection),
+      keptTable_(session.context.BlankSection),
       keptIs_(firstOf(session.project, "Is", session.context.BlankSection)),
       keptIu_(firstOf(session.project, "Iu", session.context.BlankSection)) {
     auto* left = new QVBoxLayout;
     left->addWidget(tabs());
+    lblName_ = new QLabel;
+    lblName_->setObjectName(QStringLiteral("lblName"));
+    lblName_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name doesn't move the form
+    left->addWidget(lblName_);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(makeButton("addtoDBIu", tr("Add to Database"), tr("Add the section shown to the project's list"),
                                   [this] { addToList(); }));
     buttons->addWidget(makeButton("cmdReinfEu", tr("Reinforcement"), tr("Plates at the tips of the top flange"),
                                   [this] { openReinforcement(); }));
     left->addLayout(buttons);
+    left->addWidget(makeButton("cmdReplace", tr("Replace in the list and in its spans"),
+                               tr("The section shown takes the place of the entry shown last"),
+                               [this] { replaceInList(); }));
     left->addWidget(sectionList().box);
     left->addStretch();
 
@@ -67,13 +88,18 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
     results_ = makePropertyList("lstResult");
     results_->setToolTip(tr("Properties and capacities of the section shown; partial factor γM0 included"));
     results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 50);
-    results_->setMinimumHeight(results_->fontMetrics().lineSpacing() * 27);
+    results_->setMinimumHeight(results_->fontMetrics().lineSpacing() * 25);
+    lblWarning_ = new QLabel;
+    lblWarning_->setObjectName(QStringLiteral("lblWarning"));
+    lblWarning_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblWarning_->setStyleSheet(QStringLiteral("color: #c80000; font-weight: bold"));
 
     auto* content = new QGridLayout;
     content->addLayout(left, 0, 0);
     content->addLayout(middle, 0, 1);
     content->addWidget(results_, 0, 2);
     content->setColumnStretch(1, 1);
+    content->addWidget(lblWarning_, 1, 0, 1, 2);
     content->addWidget(closeButton("Command1", tr("Close"), tr("Close the form")), 1, 2, Qt::AlignRight);
     setContent(content);
     binder_.accepted = [this] {
@@ -101,6 +127,65 @@ void ProfileDialog::UpdateResult() {
         fillPropertyList(results_, {{"No section of these dimensions:", "", ""}, {fault.what(), "", ""}});
     }
     picture_->update();
+    showName();
+}
+
+int ProfileDialog::listedRow() const {
+    int row = 0;
+    for (const SectionRecord& section : project_.SectionList) {
+        if (section.DisplayName == current_.DisplayName) return row;
+        ++row;
+    }
+    return -1;
+}
+
+/// What the list shows as chosen is the section shown.
+void ProfileDialog::showName() {
+    const int row = listedRow();
+    const QString name = QString::fromStdString(current_.DisplayName);
+    const QString from = QString::fromStdString(from_);
+    lblName_->setText(name + QLatin1Char('\n') +
+                      (row >= 0        ? tr("in the list")
+                       : from_.empty() ? tr("not in the list")
+                                       : tr("not in the list; can replace %1").arg(from)));
+    lblName_->setToolTip(lblName_->text());
+    lblWarning_->setText(impossible(current_));
+    const QSignalBlocker quiet(lstDatabase_);
+    lstDatabase_->setCurrentRow(row);
+    if (row >= 0) from_ = current_.DisplayName;
+    for (const char* each : {"cmdX", "Cmd_pilupp", "Cmd_pilner"})
+        findChild<QPushButton*>(QString::fromUtf8(each))->setEnabled(row >= 0);
+    findChild<QPushButton*>(QStringLiteral("cmdReplace"))->setEnabled(row < 0 && !from_.empty());
+}
+
+void ProfileDialog::replaceInList() {
+    if (const char* refusal = plateRefusal(current_)) {
+        messages_.show(refusal);
+        return;
+    }
+    const auto take = [this](Array<SectionRecord>& sections) {
+        for (SectionRecord& section : sections) {
+            if (section.DisplayName != from_) continue;
+            const bool inUse = section.InUse;
+            section = current_;
+            section.InUse = inUse;
+        }
+    };
+    take(project_.SpanSection);
+    take(project_.SectionList);
+    writeList(listedRow());
+    showName();
+    inputChanged();
+}
+
+void ProfileDialog::done(int result) {
+    InputDialog::done(result);
+    if (isVisible() || listedRow() >= 0) return;
+    for (QWidget* each = parentWidget(); each != nullptr; each = each->parentWidget())
+        if (auto* window = qobject_cast<QMainWindow*>(each))
+            window->statusBar()->showMessage(
+                tr("%1 was not added to the list of sections").arg(QString::fromStdString(current_.DisplayName)),
+                10000);
 }
 
 void ProfileDialog::WriteSectionResult() {
@@ -131,8 +216,8 @@ QWidget* ProfileDialog::tabs() {
 }
 
 QWidget* ProfileDialog::tableTab() {
-    cboEuprofile_ =
-        makeList("cboEuprofile", tr("Rolled section of the section table"), [this](int row) { chooseTableRow(row); });
+    cboEuprofile_ = makeSectionList("cboEuprofile", tr("Rolled section of the section table; type its name"),
+                                    [this](int row) { chooseTableRow(row); });
     for (const SectionRecord& section : session_.tables.SectionTable)
         cboEuprofile_->addItem(QString::fromStdString(section.TableName));
     auto* page = new QWidget;
@@ -145,8 +230,12 @@ QWidget* ProfileDialog::tableTab() {
 QWidget* ProfileDialog::weldedTab(const std::vector<NumberRow>& rows) {
     auto* page = new QWidget;
     auto* grid = new QGridLayout(page);
-    const QString labels[] = {tr("h ="), tr("tw ="), tr("b1 ="), tr("tf1 ="), tr("b2 ="), tr("tf2 =")};
-    for (std::size_t i = 0; i < rows.size(); ++i) addRow(grid, labels[i], binder_.add(rows[i]), tr("mm"));
+    // Equal flanges go by the names of the sketch.
+    const QStringList labels =
+        rows.size() == 4 ? QStringList{tr("H ="), tr("tw ="), tr("B ="), tr("tf =")}
+                         : QStringList{tr("h ="), tr("tw ="), tr("b1 ="), tr("tf1 ="), tr("b2 ="), tr("tf2 =")};
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        addRow(grid, labels[static_cast<int>(i)], binder_.add(rows[i]), tr("mm"));
     grid->setRowStretch(grid->rowCount(), 1);
     grid->setColumnStretch(2, 1);
     return page;
@@ -167,7 +256,8 @@ Group ProfileDialog::sectionList() {
     lstDatabase_ = new QListWidget;
     lstDatabase_->setObjectName(QStringLiteral("lstDatabase"));
     lstDatabase_->setToolTip(tr("Sections that can be given to spans; choose one to see it"));
-    lstDatabase_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    // room for a long name, so that a new one never moves the form
+    lstDatabase_->setMinimumWidth(lstDatabase_->fontMetrics().averageCharWidth() * 38);
     lstDatabase_->setMinimumHeight(lstDatabase_->fontMetrics().lineSpacing() * 8);
     connect(lstDatabase_, &QListWidget::itemClicked, this, [this] { chooseEntry(lstDatabase_->currentRow()); });
     connect(lstDatabase_, &QListWidget::currentRowChanged, this, [this](int row) { chooseEntry(row); });
@@ -222,6 +312,11 @@ Group ProfileDialog::loadLevel() {
 
 void ProfileDialog::chooseTableRow(int row) {
     const SectionRecord& chosen = session_.tables.SectionTable(row);
+    if (current_.TableName != chosen.TableName) {
+        current_.Reinforced = false;
+        current_.ReinfText.clear();
+        current_.ReinfSuffix.clear();
+    }
     current_.Id = chosen.Id;
     current_.TableName = chosen.TableName;
     UpdateResult();
@@ -231,7 +326,7 @@ void ProfileDialog::chooseTableRow(int row) {
 
 void ProfileDialog::chooseEntry(int row) {
     if (!project_.SectionList.has(row)) return;
-    keepWelded();
+    keepCurrent();
     current_ = project_.SectionList(row);
     {
         const QSignalBlocker quiet(SSTab1_);
@@ -244,8 +339,9 @@ void ProfileDialog::chooseEntry(int row) {
 }
 
 void ProfileDialog::showTab(int tab) {
-    keepWelded();
+    keepCurrent();
     if (tab == TableTab) {
+        current_ = keptTable_;
         chooseTableRow(std::max(cboEuprofile_->currentIndex(), 0));
         return;
     }
@@ -255,7 +351,8 @@ void ProfileDialog::showTab(int tab) {
     inputChanged();
 }
 
-void ProfileDialog::keepWelded() {
+void ProfileDialog::keepCurrent() {
+    if (!isWelded(current_)) keptTable_ = current_;
     if (current_.Id == "Is") keptIs_ = current_;
     if (current_.Id == "Iu") keptIu_ = current_;
 }
@@ -269,6 +366,10 @@ void ProfileDialog::writeList(int current) {
 }
 
 void ProfileDialog::addToList() {
+    if (const char* refusal = plateRefusal(current_)) {
+        messages_.show(refusal);
+        return;
+    }
     for (const SectionRecord& section : project_.SectionList) {
         if (section.DisplayName != current_.DisplayName) continue;
         messages_.show("The Section exists already");
@@ -278,6 +379,7 @@ void ProfileDialog::addToList() {
     added.InUse = false;
     project_.SectionList.append(added);
     writeList(project_.SectionList.last());
+    showName();
     inputChanged();
 }
 
@@ -290,7 +392,10 @@ void ProfileDialog::removeFromList() {
         return;
     }
     project_.SectionList.erase(row);
-    writeList(std::min(row, project_.SectionList.last()));
+    from_.clear();
+    const int next = std::min(row, project_.SectionList.last());
+    writeList(next);
+    chooseEntry(next);
     inputChanged();
 }
 

@@ -4,18 +4,22 @@
 
 #include "forms/input_dialog.h"
 
+class QLabel;
 class QListWidget;
 class QTabWidget;
 
 namespace borvik {
 
 class Picture;
+class SectionCombo;
 
 /// frmProfile: choose or define a section, keep the project's list of sections, set end post and point of load, and see
 /// properties and capacities at once.
 class ProfileDialog : public InputDialog {
 public:
     ProfileDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
+    /// A section left behind that is not in the list is named in the window's status line.
+    void done(int result) override;
 
     /// Fills the input fields from CurrentSection.
     void WriteProfInput();
@@ -36,10 +40,15 @@ private:
     Group loadLevel();
     NumberRow dimension(const char* name, Single& field, const char* mask, double lowest, const char* message,
                         const QString& meaning);
+    /// Plates belong to the section for which they were entered: another row begins without.
     void chooseTableRow(int row);
     void chooseEntry(int row);
     void showTab(int tab);
-    void keepWelded();
+    void keepCurrent();
+    /// The place of the section shown in the project's list; -1 for one that isn't there.
+    [[nodiscard]] int listedRow() const;
+    void showName();
+    void replaceInList();
     void writeList(int current);
     void addToList();
     void removeFromList();
@@ -47,11 +56,13 @@ private:
     void openReinforcement();
 
     SectionRecord& current_;
-    SectionRecord keptIs_, keptIu_;  ///< welded sections as last edited, while another tab is shown
+    SectionRecord keptTable_, keptIs_, keptIu_;  ///< of each kind the section as last edited, while another is shown
+    std::string from_;                           ///< name of the entry of the list that was shown last
     QTabWidget* SSTab1_;
-    QComboBox* cboEuprofile_;
+    SectionCombo* cboEuprofile_;
     QListWidget* lstDatabase_;
     QTreeWidget* results_;
+    QLabel *lblName_, *lblWarning_;
     Picture* picture_;
     std::unique_ptr<QDialog> reinforcement_;
 };

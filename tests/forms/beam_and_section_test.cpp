@@ -1,13 +1,18 @@
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <cstring>
 
 #include "forms/form_support.h"
+#include "forms/span_list.h"
 #include "section/section.h"
 
 namespace borvik {
@@ -38,22 +43,6 @@ TEST_F(BeamForm, ShowsThirtyRowsAndTheFirstLength) {
     EXPECT_EQ(cell(30, 0), "30");
     EXPECT_TRUE(list->topLevelItem(29)->font(0).bold());
     EXPECT_EQ(cell(30, 1), "0");
-}
-
-TEST_F(BeamForm, LengthsFrom200To4000000AreTaken) {
-    openBeam();
-    const struct {
-        const char* text;
-        bool taken;
-    } cases[] = {{"200", true},     {"199", false},     {"201", true},
-                 {"4000000", true}, {"4000001", false}, {"3999999", true}};
-    for (const auto& each : cases) {
-        messages.texts.clear();
-        enter("txtBeamLength", each.text);
-        EXPECT_EQ(messages.texts.empty(), each.taken) << each.text;
-        EXPECT_EQ(lastMessage(), each.taken ? "" : " 200 < Beam length L < 2 ");
-        EXPECT_EQ(shown("txtBeamLength"), each.text);
-    }
 }
 
 TEST_F(BeamForm, ButtonsGiveLengthAndSectionToOneRow) {
@@ -136,16 +125,143 @@ TEST_F(BeamForm, DeleteClearsARowAndAHoleIsRefusedOnClosing) {
     EXPECT_EQ(project.NofSpans, 1);
 }
 
-TEST_F(BeamForm, EnterInTheListFillsRowAfterRow) {
+/// A key of the keyboard, to whatever has the focus.
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QCoreApplication::processEvents();
+}
+void typeKeys(const char* text) {
+    for (const char* each = text; *each != 0; ++each) QTest::keyClick(QApplication::focusWidget(), *each);
+}
+
+TEST_F(BeamForm, TwelveSpansWithThreeSectionsAreAMatterOfFewKeys) {
     openBeam();
-    enter("txtBeamLength", "2500");
-    select(4);
-    for (int i = 0; i < 2; ++i) QTest::keyClick(list, Qt::Key_Return);
-    EXPECT_EQ(project.Span(4), 2500);
-    EXPECT_EQ(project.Span(5), 2500);
-    EXPECT_EQ(project.SpanSection(5).DisplayName, "HEA 300");
-    EXPECT_EQ(project.Span(6), 0);
+    int keys = 0;
+    const auto type = [&keys](const char* text) {
+        typeKeys(text);
+        keys += static_cast<int>(std::strlen(text));
+    };
+    const auto times = [&keys](int n, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        for (int i = 0; i < n; ++i) press(key, modifiers);
+        keys += n;
+    };
+    type("7500");
+    times(2, Qt::Key_Return);  // length, section, list
+    times(12, Qt::Key_Return);
+    times(1, Qt::Key_Up);
+    times(3, Qt::Key_Up, Qt::ShiftModifier);
+    type("is");
+    times(1, Qt::Key_Return);
+    times(5, Qt::Key_Up);
+    times(3, Qt::Key_Up, Qt::ShiftModifier);
+    type("iu");
+    times(1, Qt::Key_Return);
+    EXPECT_LT(keys, 40);
+    for (int row = 1; row <= 12; ++row) {
+        EXPECT_EQ(project.Span(row), 7500) << row;
+        EXPECT_EQ(project.SpanSection(row).Id, row < 5 ? "HEA" : row < 9 ? "Iu" : "Is") << row;
+    }
+    EXPECT_EQ(project.Span(13), 0);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(messages.texts.empty());
+}
+
+TEST_F(BeamForm, ACellTakesALengthOrASectionForAllSelectedRows) {
+    const struct {
+        const char *text, *message;
+        int length;
+    } cases[] = {{"200", "", 200},
+                 {"7500,5", "", 7501},
+                 {"4000000", "", 4000000},
+                 {"199", " 200 < Beam length L < 2 ", 5000},
+                 {"4000001", " 200 < Beam length L < 2 ", 5000},
+                 {"1 850", "Input string mismatch ", 5000},
+                 {"HEB 400", "The project's list has no section of this name", 5000},
+                 {"iu700x300x200x15x25x25", "", 5000}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.text);
+        session = Session(referenceTables());
+        messages.texts.clear();
+        openBeam();
+        list->setFocus();
+        list->clearSelection();
+        list->setCurrentItem(list->topLevelItem(1));
+        list->topLevelItem(2)->setSelected(true);
+        typeKeys(each.text);
+        press(Qt::Key_Return);
+        EXPECT_EQ(lastMessage(), each.message);
+        EXPECT_EQ(project.Span(1), 4000);
+        EXPECT_EQ(project.Span(2), each.length);
+        EXPECT_EQ(project.Span(3) == each.length, *each.message == 0 && each.length != 5000) << project.Span(3);
+        EXPECT_EQ(project.SpanSection(3).Id, each.text[0] == 'i' ? "Iu" : "HEA");
+        const bool open = focused() != "lstViewTill";
+        EXPECT_EQ(open, *each.message != 0);
+        if (open) press(Qt::Key_Escape);
+        EXPECT_TRUE(form->isVisible());
+        form.reset();
+    }
+}
+
+TEST_F(BeamForm, APasteIsTakenAsAWholeOrNotAtAll) {
+    openBeam();
+    const Project before = project;
+    const std::pair<const char*, const char*> refused[] = {
+        {"6000\n150\n", "Row 2 of what is pasted, \"150\":  200 < Beam length L < 2 "},
+        {"6000\n7 000", "Row 2 of what is pasted, \"7 000\": Input string mismatch "},
+        {"6000\tHEB 1\n", "Row 1 of what is pasted, \"6000 HEB 1\": the project's list has no section \"HEB 1\""},
+        {"1\t\t2", "Row 1 of what is pasted, \"1 2\": more than a length and a section"}};
+    auto& spans = dynamic_cast<SpanList&>(*list);
+    select(2);
+    for (const auto& [text, message] : refused) {
+        spans.paste(QString::fromUtf8(text));
+        EXPECT_EQ(lastMessage(), message);
+        EXPECT_EQ(project.Span, before.Span);
+    }
+    spans.paste(QString("300\n").repeated(30));
+    EXPECT_EQ(lastMessage(), "Row 30 of what is pasted lies below the last row of the list");
+    QApplication::clipboard()->setText("6000\tIs 700x300x15x25\r\n7000,4\t\r\nHEA 300\n\n");
+    list->setFocus();
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(project.Span(2), 6000);
+    EXPECT_EQ(project.SpanSection(2).Id, "Is");
+    EXPECT_EQ(project.Span(3), 7000);
+    EXPECT_EQ(project.SpanSection(4).Id, "HEA");
+    EXPECT_EQ(project.Span(1), 4000);
+}
+
+TEST_F(BeamForm, SpansGoInAndOutAndSplicesStayInTheirSpans) {
+    project.ChkFat5Sp(1) = project.ChkFat5Sp(2) = true;
+    project.Fat5Span(1) = 2;
+    project.Fat5Span(2) = 3;
+    openBeam();
+    select(2);
+    QTest::keyClick(list, Qt::Key_Insert);
+    EXPECT_EQ(project.Span(2), 0);
+    EXPECT_EQ(project.Span(3), 5000);
+    EXPECT_EQ(project.Fat5Span(1), Single(3));
+    EXPECT_EQ(project.Fat5Span(2), Single(4));
+    click("cmdOK");
     EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(dynamic_cast<SpanList&>(*list).marked(), 2);
+    list->topLevelItem(2)->setSelected(true);
+    QTest::keyClick(list, Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(project.SpanSection(2).Id, "HEA");
+    EXPECT_EQ(project.Span(3), 0);
+    EXPECT_FALSE(project.ChkFat5Sp(1));
+    EXPECT_EQ(project.Fat5Span(2), Single(2));
+}
+
+TEST_F(BeamForm, SectionsThatStartAtAnotherRowAreShownFromTheFirst) {
+    for (const int first : {2, 31, 1000000}) {
+        Array<SectionRecord> moved(first, first + 2);
+        for (SectionRecord& section : moved) section = project.SectionList(0);
+        project.SpanSection = moved;
+        openBeam();
+        EXPECT_EQ(cell(3, 2), "HEA 300");
+        EXPECT_EQ(cell(4, 2), "");
+        form.reset();
+    }
 }
 
 TEST_F(BeamForm, OwnWeightFollowsItsBoxAndTheSectionFormBringsNewSections) {
@@ -160,6 +276,7 @@ TEST_F(BeamForm, OwnWeightFollowsItsBoxAndTheSectionFormBringsNewSections) {
     sections->findChild<QPushButton*>("addtoDBIu")->click();
     sections->findChild<QPushButton*>("Command1")->click();
     EXPECT_EQ(control<QComboBox>("cboProf").count(), 4);
+    EXPECT_EQ(control<QComboBox>("cboProf").currentIndex(), 3);
     EXPECT_EQ(control<QComboBox>("cboProf").itemText(3).toStdString(), referenceTables().SectionTable(0).TableName);
 }
 
@@ -314,6 +431,75 @@ TEST_F(SectionForm, TheLoadedFlangeIsNamed) {
     open(DialogKind::Profile);
     EXPECT_NE(property("  MzRd = (Bottom flange)"), "");
     EXPECT_EQ(property("  MzRd = (Top flange)"), "");
+}
+
+TEST_F(SectionForm, ATypedNameFindsItsSection) {
+    open(DialogKind::Profile);
+    auto& table = control<QComboBox>("cboEuprofile");
+    const std::pair<const char*, const char*> cases[] = {
+        {"HEB 400", "HEB 400"}, {"HEA 100", "HEA 100"}, {"hea1000", "HEA 1000"}, {"IPE 30", "IPE 300"}, {"XY", "IPE 300"}};
+    for (const auto& [typed, found] : cases) {
+        table.setFocus(Qt::TabFocusReason);
+        table.lineEdit()->selectAll();
+        typeKeys(typed);
+        press(Qt::Key_Return);
+        EXPECT_EQ(current.DisplayName, found);
+        EXPECT_EQ(table.currentText().toStdString(), found);
+    }
+}
+
+TEST_F(SectionForm, PlatesStayWithTheSectionForWhichTheyWereEntered) {
+    open(DialogKind::Profile);
+    const auto choose = [this](const char* name) {
+        auto& table = control<QComboBox>("cboEuprofile");
+        table.setCurrentIndex(FindSection(referenceTables(), name));
+        Q_EMIT table.activated(table.currentIndex());
+    };
+    const auto plates = [this] {
+        click("cmdReinfEu");
+        return form->findChild<QDialog*>("frmProfReinf");
+    };
+    control<QTabWidget>("SSTab1").setCurrentIndex(1);
+    QDialog* reinforcement = plates();
+    reinforcement->findChild<QRadioButton*>("optRePL1")->click();
+    reinforcement->accept();
+    EXPECT_EQ(current.DisplayName, "Is 700x300x15x25+PL100x10");
+    control<QTabWidget>("SSTab1").setCurrentIndex(0);
+    EXPECT_EQ(current.DisplayName, "HEA 300");
+    EXPECT_FALSE(current.Reinforced);
+    choose("IPE 80");
+    reinforcement = plates();
+    reinforcement->findChild<QRadioButton*>("optRePL1")->click();
+    reinforcement->accept();
+    EXPECT_EQ(lastMessage(), " 10 < hr < H/2 ");
+    EXPECT_TRUE(reinforcement->isVisible());
+    click("addtoDBIu");
+    EXPECT_EQ(messages.texts.size(), 2u);
+    EXPECT_EQ(project.SectionList.size(), 3);
+    choose("HEM 200");
+    EXPECT_FALSE(current.Reinforced);
+    control<QTabWidget>("SSTab1").setCurrentIndex(1);
+    EXPECT_EQ(current.DisplayName, "Is 700x300x15x25+PL100x10");
+}
+
+TEST_F(SectionForm, AnEntryIsReplacedInTheListAndInItsSpans) {
+    open(DialogKind::Profile);
+    const auto name = [this] { return control<QLabel>("lblName").text().toStdString(); };
+    EXPECT_EQ(name(), "HEA 300\nin the list");
+    EXPECT_FALSE(control<QPushButton>("cmdReplace").isEnabled());
+    auto& table = control<QComboBox>("cboEuprofile");
+    table.setCurrentIndex(FindSection(referenceTables(), "HEB 400"));
+    Q_EMIT table.activated(table.currentIndex());
+    EXPECT_EQ(name(), "HEB 400\nnot in the list; can replace HEA 300");
+    EXPECT_EQ(control<QListWidget>("lstDatabase").currentRow(), -1);
+    click("cmdReplace");
+    EXPECT_EQ(project.SectionList(0).DisplayName, "HEB 400");
+    EXPECT_EQ(project.SpanSection(3).DisplayName, "HEB 400");
+    EXPECT_EQ(project.SpanSection(4).DisplayName, "");
+    EXPECT_EQ(control<QListWidget>("lstDatabase").currentRow(), 0);
+    control<QTabWidget>("SSTab1").setCurrentIndex(1);
+    enter("isth", "50");
+    EXPECT_EQ(control<QLabel>("lblWarning").text(), "Web height h - tf1 - tf2 <= 0");
 }
 
 TEST_F(SectionForm, ReinforcementNamesTheSectionAndGoesAgain) {
