@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -78,7 +79,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
     left->addWidget(sectionList().box);
     left->addStretch();
 
-    picture_ = new Picture(sectionPicture(current_, project_), 64, 20);
+    picture_ = new Picture(sectionPicture(current_, project_), 56, 20);
     picture_->setToolTip(tr("The section to scale, with the point of load application"));
     auto* middle = new QVBoxLayout;
     middle->addWidget(picture_, 1);
@@ -87,7 +88,7 @@ ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function
 
     results_ = makePropertyList("lstResult");
     results_->setToolTip(tr("Properties and capacities of the section shown; partial factor γM0 included"));
-    results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 50);
+    results_->setMinimumWidth(results_->fontMetrics().averageCharWidth() * 36);
     results_->setMinimumHeight(results_->fontMetrics().lineSpacing() * 25);
     lblWarning_ = new QLabel;
     lblWarning_->setObjectName(QStringLiteral("lblWarning"));
@@ -178,6 +179,11 @@ void ProfileDialog::replaceInList() {
     inputChanged();
 }
 
+void ProfileDialog::showEvent(QShowEvent* event) {
+    InputDialog::showEvent(event);
+    if (!event->spontaneous() && SSTab1_->currentIndex() == TableTab) cboEuprofile_->setFocus(Qt::TabFocusReason);
+}
+
 void ProfileDialog::done(int result) {
     InputDialog::done(result);
     if (isVisible() || listedRow() >= 0) return;
@@ -218,6 +224,7 @@ QWidget* ProfileDialog::tabs() {
 QWidget* ProfileDialog::tableTab() {
     cboEuprofile_ = makeSectionList("cboEuprofile", tr("Rolled section of the section table; type its name"),
                                     [this](int row) { chooseTableRow(row); });
+    cboEuprofile_->setMinimumContentsLength(16);  // names of rolled sections are short
     for (const SectionRecord& section : session_.tables.SectionTable)
         cboEuprofile_->addItem(QString::fromStdString(section.TableName));
     auto* page = new QWidget;
@@ -256,9 +263,11 @@ Group ProfileDialog::sectionList() {
     lstDatabase_ = new QListWidget;
     lstDatabase_->setObjectName(QStringLiteral("lstDatabase"));
     lstDatabase_->setToolTip(tr("Sections that can be given to spans; choose one to see it"));
-    // room for a long name, so that a new one never moves the form
-    lstDatabase_->setMinimumWidth(lstDatabase_->fontMetrics().averageCharWidth() * 38);
+    // a width of its own, so that a new name never moves the form
+    lstDatabase_->setMinimumWidth(lstDatabase_->fontMetrics().averageCharWidth() * 30);
     lstDatabase_->setMinimumHeight(lstDatabase_->fontMetrics().lineSpacing() * 8);
+    lstDatabase_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    lstDatabase_->setWordWrap(true);  // a name longer than that takes two lines
     connect(lstDatabase_, &QListWidget::itemClicked, this, [this] { chooseEntry(lstDatabase_->currentRow()); });
     connect(lstDatabase_, &QListWidget::currentRowChanged, this, [this](int row) { chooseEntry(row); });
     group.grid->addWidget(lstDatabase_, 0, 0, 4, 1);

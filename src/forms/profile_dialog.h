@@ -29,6 +29,9 @@ public:
     /// Fills the list of properties and capacities.
     void WriteSectionResult();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     enum Tab { TableTab = 0, IsTab = 1, IuTab = 2 };
 

@@ -60,6 +60,10 @@ public:
         list_.editor_ = length;
         return length;
     }
+    /// The whole cell, so that nothing of the old text stands beside the new one.
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const override {
+        editor->setGeometry(option.rect);
+    }
     void setEditorData(QWidget*, const QModelIndex&) const override {}
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 

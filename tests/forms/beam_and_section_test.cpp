@@ -436,8 +436,11 @@ TEST_F(SectionForm, TheLoadedFlangeIsNamed) {
 TEST_F(SectionForm, ATypedNameFindsItsSection) {
     open(DialogKind::Profile);
     auto& table = control<QComboBox>("cboEuprofile");
-    const std::pair<const char*, const char*> cases[] = {
-        {"HEB 400", "HEB 400"}, {"HEA 100", "HEA 100"}, {"hea1000", "HEA 1000"}, {"IPE 30", "IPE 300"}, {"XY", "IPE 300"}};
+    const std::pair<const char*, const char*> cases[] = {{"HEB 400", "HEB 400"},
+                                                         {"HEA 100", "HEA 100"},
+                                                         {"hea1000", "HEA 1000"},
+                                                         {"IPE 30", "IPE 300"},
+                                                         {"XY", "IPE 300"}};
     for (const auto& [typed, found] : cases) {
         table.setFocus(Qt::TabFocusReason);
         table.lineEdit()->selectAll();

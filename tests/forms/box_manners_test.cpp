@@ -275,7 +275,7 @@ TEST_F(BoxManners, EveryFormIsWalkedByKeysFromItsFirstBoxToClosing) {
     project.MinAvst = 2000;
     project.V(5) = 20;
     project.RailFix = 3;
-    const char* first[] = {"iLfULS", "txtBeamLength", "txtGangway", "txtPsiV1",  "SSTab1",
+    const char* first[] = {"iLfULS", "txtBeamLength", "txtGangway", "txtPsiV1",  "cboEuprofile",
                            "ihr",    "cboRail",       "optCurve3",  "txtFat1C1", "txtFatR1C1"};
     const DialogKind kinds[] = {DialogKind::Setup,    DialogKind::Beam,      DialogKind::Load, DialogKind::LoadRunway,
                                 DialogKind::Profile,  DialogKind::ProfReinf, DialogKind::Rail, DialogKind::Lateral,
