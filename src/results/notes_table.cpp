@@ -15,7 +15,8 @@ TableCell changedCell(const NoteChange& change, double number) {
 }
 
 std::vector<TableCell> rowOf(const Note& note) {
-    const TableCell effect = textCell(nameOf(note.rule->effect)), text = textCell(noteText(note));
+    const TableCell effect = textCell(nameOf(note.rule->effect));
+    const TableCell text = textCell(std::string(note.rule->key) + ": " + noteText(note));
     if (note.finding.changes.empty())
         return {textCell(nameOf(note.rule->check)), textCell(""), textCell(""), effect, text};
     const NoteChange& first = note.finding.changes.front();
@@ -25,7 +26,7 @@ std::vector<TableCell> rowOf(const Note& note) {
 
 /// The note, then every further number, a line each.
 std::string detailOf(const Note& note) {
-    std::string text = noteText(note);
+    std::string text = std::string(note.rule->key) + ": " + noteText(note);
     for (std::size_t i = 1; i < note.finding.changes.size(); ++i)
         text += "\n" + capitalised(changeText(note.finding.changes[i]));
     return text;
@@ -75,7 +76,7 @@ ResultTable TableNotes(const Notes& notes) {
     std::string all, listed = "Assumptions that hold here:";
     for (const NoteRule* rule : notes.assumptions) {
         all += (all.empty() ? "" : " ") + std::string(rule->says);
-        listed += "\n\u2022 " + noteText({rule, {}});
+        listed += "\n\u2022 " + std::string(rule->key) + ": " + noteText({rule, {}});
     }
     table.rows.push_back({textCell("Assumptions"), textCell(""), textCell(""), textCell(""), textCell(all)});
     table.details.push_back(listed);

@@ -1,5 +1,6 @@
 #include "results/notes_text.h"
 
+#include <algorithm>
 #include <sstream>
 
 #include "notes/notes.h"
@@ -28,9 +29,19 @@ std::string wrapped(const std::string& text, std::string first = kIndent) {
     return lines + line + "\n";
 }
 
+/// The other numbers of a note, the largest growths first.
+std::string furtherChanges(const Note& note) {
+    constexpr std::size_t kMost = 6;
+    const auto& changes = note.finding.changes;
+    std::string lines;
+    for (std::size_t i = 1; i < std::min(changes.size(), kMost); ++i)
+        lines += wrapped(capitalised(changeText(changes[i])));
+    return lines;
+}
+
 std::string paragraph(const Note& note) {
     return std::string(nameOf(note.rule->check)) + ", " + nameOf(note.rule->effect) + " [" + note.rule->key + "]\n" +
-           wrapped(noteText(note));
+           wrapped(noteText(note)) + furtherChanges(note);
 }
 
 }  // namespace
@@ -41,7 +52,8 @@ std::string NotesText(const Session& session) {
     std::string text = "Notes for the checking engineer: " + std::to_string(notes.notes.size()) + "\n";
     for (const Note& note : notes.notes) text += "\n" + paragraph(note);
     if (!notes.assumptions.empty()) text += "\nAssumptions\n";
-    for (const NoteRule* rule : notes.assumptions) text += wrapped(noteText({rule, {}}), "  - ");
+    for (const NoteRule* rule : notes.assumptions)
+        text += wrapped(std::string(rule->key) + ": " + noteText({rule, {}}), "  - ");
     return text;
 }
 

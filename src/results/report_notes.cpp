@@ -22,7 +22,7 @@ struct NoteLines {
 NoteLines linesOf(const ReportPage& page, const Note& note, std::size_t number) {
     const NoteRule& rule = *note.rule;
     const auto& changes = note.finding.changes;
-    NoteLines block{std::to_string(number) + "  " + nameOf(rule.check), nameOf(rule.effect), {}};
+    NoteLines block{std::to_string(number) + "  " + rule.key + "  " + nameOf(rule.check), nameOf(rule.effect), {}};
     const auto add = [&](const std::string& text, TextStyle style = {}) {
         for (std::string& line : page.wrapped(text, page.width() - kIndent, style))
             block.lines.emplace_back(std::move(line), style);
@@ -30,7 +30,11 @@ NoteLines linesOf(const ReportPage& page, const Note& note, std::size_t number) 
     add(rule.says + (note.finding.remark.empty() ? "" : " Here: " + note.finding.remark + "."));
     if (!changes.empty()) add(largestChangeText(note), kBold);
     for (std::size_t i = 1; i < std::min(changes.size(), kMostChanges); ++i) add(capitalised(changeText(changes[i])));
-    if (changes.size() > kMostChanges) add("and " + std::to_string(changes.size() - kMostChanges) + " more");
+    // "and 1 more" would take the line that the one more needs.
+    const std::size_t shown = changes.size() == kMostChanges + 1 ? changes.size() : kMostChanges;
+    for (std::size_t i = kMostChanges; i < std::min(changes.size(), shown); ++i)
+        add(capitalised(changeText(changes[i])));
+    if (changes.size() > shown) add("and " + std::to_string(changes.size() - kMostChanges) + " more");
     if (*rule.clause != '\0') add(rule.clause, kQuiet);
     return block;
 }
@@ -53,7 +57,8 @@ void printAssumptions(ReportPage& page, const std::vector<const NoteRule*>& assu
     page.put(page.ColLeft, "Assumptions that hold for every project of this kind", kBold);
     page.advance(1.3);
     for (const NoteRule* rule : assumptions) {
-        const std::vector<std::string> lines = page.wrapped(noteText({rule, {}}), page.width() - kIndent);
+        const std::vector<std::string> lines =
+            page.wrapped(std::string(rule->key) + ": " + noteText({rule, {}}), page.width() - kIndent);
         page.need(static_cast<double>(lines.size()) + 0.3);
         page.put(page.ColLeft, "-");
         for (const std::string& line : lines) {

@@ -151,6 +151,11 @@ int ReportPage::putBlock(double column, double blockWidth, std::string_view text
     return static_cast<int>(lines.size());
 }
 
+double ReportPage::textWidth(std::string_view text, TextStyle style) const {
+    setStyle(style);
+    return surface().textWidth(text);
+}
+
 std::vector<std::string> ReportPage::wrapped(std::string_view text, double blockWidth, TextStyle style) const {
     setStyle(style);
     const DrawingSurface& paper = surface();

@@ -69,6 +69,8 @@ public:
     int putBlock(double column, double blockWidth, std::string_view text, TextStyle style = {});
     /// Writes a text that ends at a column.
     void putRight(double column, std::string_view text, TextStyle style = {});
+    /// Width of a line, in columns.
+    [[nodiscard]] double textWidth(std::string_view text, TextStyle style = {}) const;
     /// A text broken into lines no wider than `blockWidth`, at blanks where there are some.
     [[nodiscard]] std::vector<std::string> wrapped(std::string_view text, double blockWidth,
                                                    TextStyle style = {}) const;

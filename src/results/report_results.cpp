@@ -67,7 +67,9 @@ public:
 
     /// Formula over numbers, with ratio, limit and reference beside them; kept together on one page.
     void row(const CheckRow& row) {
-        const double equationWidth = ratio_ - 5.0 - equation_;
+        constexpr double kUsual = 5.0;  // a ratio of a few digits; a longer one takes its room from the formula
+        const double ratioWidth = page_.textWidth(row.ratio, row.overLimit ? kFailed : kPlain) + 1.0;
+        const double equationWidth = ratio_ - std::max(kUsual, ratioWidth) - equation_;
         const double referenceWidth = page_.ColRight - reference_;
         const auto count = [this](const std::string& text, double width) {
             return text.empty() ? 0.0 : static_cast<double>(page_.wrapped(text, width).size());

@@ -62,7 +62,7 @@ double flangeShearResistance(const Project& project, const SectionRecord& sectio
 
 /// The largest horizontal shear in the loaded flange, where it is more than a tenth of what that holds.
 std::string horizontalShear(const Session& session) {
-    constexpr double kWorthTelling = 0.1;
+    constexpr double kWorthANote = 0.1;
     const Project& project = session.project;
     const UlsResults& uls = session.results->Uls;
     double worst = 0;
@@ -75,7 +75,7 @@ std::string horizontalShear(const Session& session) {
             at = span;
         }
     }
-    if (!(worst > kWorthTelling)) return "";
+    if (!(worst > kWorthANote)) return "";
     return "the horizontal shear takes " + formatNumber(worst, "0.000") + " of the flange in span " +
            std::to_string(at);
 }

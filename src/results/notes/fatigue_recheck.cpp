@@ -58,13 +58,13 @@ StressSet walked(const Project& project, RunLoads& loads, const History& history
 }  // namespace
 
 FatigueRecheck::FatigueRecheck(const Session& session) : project(session.project), rail(session.context.CurrentRail) {
-    const FatigueResults& told = session.results->Fatigue;
+    const FatigueResults& checked = session.results->Fatigue;
     const StressSet none(project.NofSpans);
-    factors = told.Factors;
-    cranes = told.Summed;
-    Cr1 = told.Cr1.value_or(none);
-    Cr2 = told.Cr2.value_or(none);
-    Cr12 = told.Cr12.value_or(none);
+    factors = checked.Factors;
+    cranes = checked.Summed;
+    Cr1 = checked.Cr1.value_or(none);
+    Cr2 = checked.Cr2.value_or(none);
+    Cr12 = checked.Cr12.value_or(none);
 }
 
 std::vector<DamagePoint> FatigueRecheck::sums(const Detail& detail) const {
@@ -100,8 +100,8 @@ std::optional<NoteChange> growth(const Detail& detail, const std::vector<DamageP
     const std::map<int, double> before = byRows(shown);
     std::optional<NoteChange> largest;
     for (const auto& [row, ratio] : byRows(other)) {
-        const auto told = before.find(row);
-        const double old = told == before.end() ? 0.0 : told->second;
+        const auto found = before.find(row);
+        const double old = found == before.end() ? 0.0 : found->second;
         if (ratio <= old || (largest && ratio <= largest->other)) continue;
         largest = NoteChange{
             "fatigue detail " + std::to_string(detail.result) + ", " + placeOf(detail) + " " + std::to_string(row), old,

@@ -39,16 +39,16 @@ struct FatigueRecheck {
 [[nodiscard]] std::optional<NoteChange> growth(const Detail& detail, const std::vector<DamagePoint>& shown,
                                                const std::vector<DamagePoint>& other);
 
-/// The detail in a recheck against the same detail as told: its growth is added to the finding.
+/// The detail in a recheck against the same detail as it is checked: its growth is added to the finding.
 void addGrowth(const Session& session, const Detail& detail, const std::vector<DamagePoint>& other,
                NoteFinding& finding);
 /// The finding if any ratio grows, else silence.
 [[nodiscard]] std::optional<NoteFinding> grown(NoteFinding finding);
 
-/// One detail in a recheck against the same detail as told.
+/// One detail in a recheck against the same detail as it is checked.
 [[nodiscard]] std::optional<NoteFinding> growthOf(const Session& session, const Detail& detail,
                                                   const std::vector<DamagePoint>& other);
-/// Every checked detail in a recheck against the same detail as told.
+/// Every checked detail in a recheck against the same detail as it is checked.
 [[nodiscard]] std::optional<NoteFinding> growthOfAll(const Session& session, const FatigueRecheck& other);
 
 /// The ratios of two checks at the same points, added.

@@ -50,7 +50,7 @@ std::optional<NoteFinding> oneCraneAlone(const Session& session) {
     return grown(shown, other);
 }
 
-/// Walks that start a little later, so that the wheels stand between the told positions too.
+/// Walks that start a little later, so that the wheels stand between the positions of the walk too.
 std::optional<NoteFinding> betweenTheSteps(const Session& session) {
     constexpr double kShortSpan = 10000;  // mm
     const Project& project = session.project;
@@ -165,7 +165,7 @@ constexpr NoteRule kRules[]{
      "", "EN 1991-3 2.4, Table 2.2", ofOverheadCranes, true},
     {"A2", NoteCheck::General, NoteEffect::Unsafe,
      "With two cranes on the beam neither is walked alone, though the second one can relieve a span.",
-     "with the worse crane alone", "EN 1991-3 2.5.4", oneCraneAlone},
+     "with the worse crane alone", "EN 1991-3 2.5.3", oneCraneAlone},
     {"A3", NoteCheck::General, NoteEffect::Unsafe,
      "The cranes move in steps of 200 mm and forces are taken at 21 points of a span, so that a wheel can stand beside "
      "the worst place.",

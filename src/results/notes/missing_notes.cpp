@@ -25,9 +25,10 @@ std::optional<NoteFinding> beyond(const Session& session, const char* what, doub
     return matters(true, std::string(what) + " " + formatNumber(worst, "0.0") + " in span " + std::to_string(at));
 }
 
-/// sigma_x, sigma_oz and tau at the web's top where My is largest, as part of the yield strength; told from 0.8 on.
+/// sigma_x, sigma_oz and tau at the web's top where My is largest, as part of the yield strength; spoken of from 0.8
+/// on.
 std::optional<NoteFinding> stressUnderWheel(const Session& session) {
-    constexpr double kWorthTelling = 0.8;
+    constexpr double kWorthANote = 0.8;
     const Project& project = session.project;
     if (project.CraneType != 1) return std::nullopt;
     const RailRecord& rail = session.context.CurrentRail;
@@ -45,7 +46,7 @@ std::optional<NoteFinding> stressUnderWheel(const Session& session) {
         const double tau = records(span, 2) / (section.Hw * section.tw);
         const double sum = std::sqrt(x * x + z * z - x * z + 3 * tau * tau) / (project.fyk / project.GammaM0);
         const double shown = session.results->Checks.BendSpan(span).Ratio;
-        if (sum > kWorthTelling && sum > shown) finding.changes.push_back({inSpan("bending", span), shown, sum});
+        if (sum > kWorthANote && sum > shown) finding.changes.push_back({inSpan("bending", span), shown, sum});
     }
     return worstOf(finding.changes);
 }

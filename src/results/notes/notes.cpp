@@ -17,14 +17,16 @@ std::string written(const NoteChange& change, double number) {
     return formatNumber(number, change.mask);
 }
 
-/// Finite, and different in the digits that are shown.
-bool shows(const NoteChange& change) {
-    return std::isfinite(change.shown) && std::isfinite(change.other) &&
-           written(change, change.shown) != written(change, change.other);
+/// Finite, different in the digits that are shown, and of a ratio at least `least` or across 1.
+bool shows(const NoteChange& change, double least) {
+    if (!std::isfinite(change.shown) || !std::isfinite(change.other)) return false;
+    if (written(change, change.shown) == written(change, change.other)) return false;
+    const bool crossesOne = (change.shown > 1.0) != (change.other > 1.0);
+    return !change.ratio || crossesOne || std::abs(change.growth()) >= least;
 }
 
 /// What the rule finds, in order; nullopt where none of its numbers shows a difference.
-std::optional<NoteFinding> found(const NoteRule& rule, const Session& session) {
+std::optional<NoteFinding> found(const NoteRule& rule, const Session& session, double least) {
     std::optional<NoteFinding> finding;
     try {
         watched("Notes", 0, [&] { finding = rule.find(session); });
@@ -33,7 +35,7 @@ std::optional<NoteFinding> found(const NoteRule& rule, const Session& session) {
     }
     if (!finding || finding->changes.empty()) return finding;
     auto& changes = finding->changes;
-    std::erase_if(changes, [](const NoteChange& change) { return !shows(change); });
+    std::erase_if(changes, [least](const NoteChange& change) { return !shows(change, least); });
     if (changes.empty()) return std::nullopt;
     std::stable_sort(changes.begin(), changes.end(),
                      [](const NoteChange& a, const NoteChange& b) { return a.growth() > b.growth(); });
@@ -102,11 +104,11 @@ const char* nameOf(NoteEffect effect) {
     return "";
 }
 
-Notes ProjectNotes(const Session& session) {
+Notes ProjectNotes(const Session& session, double least) {
     Notes notes;
     if (!session.Calculated || !session.results) return notes;
     for (const NoteRule& rule : noteRules()) {
-        std::optional<NoteFinding> finding = found(rule, session);
+        std::optional<NoteFinding> finding = found(rule, session, least);
         if (!finding) continue;
         if (rule.assumption) {
             notes.assumptions.push_back(&rule);

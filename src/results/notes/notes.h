@@ -50,7 +50,7 @@ struct NoteRule {
     /// copies with the other assumption. nullopt: it does not matter here.
     std::optional<NoteFinding> (*find)(const Session& session);
     bool assumption =
-        false;  ///< holds for every project of its kind: told with the others of its sort in one closing row
+        false;  ///< holds for every project of its kind: listed with the others of its sort in one closing row
 };
 
 /// A note that matters in a project.
@@ -74,10 +74,14 @@ struct Notes {
 /// "unsafe", "either", "information".
 [[nodiscard]] const char* nameOf(NoteEffect effect);
 
+/// Less of a ratio is of no use to a reader.
+inline constexpr double kLeastGrowth = 0.01;
+
 /// All notes that matter for the last results of the session; none without results. The session is only read: its
-/// results stay as they are, to the bit. A rule that ends in an arithmetic fault under its other assumption is told
-/// without a number. Changes that don't show in the written digits are left out, and so is a note that had no other.
-[[nodiscard]] Notes ProjectNotes(const Session& session);
+/// results stay as they are, to the bit. A rule that ends in an arithmetic fault under its other assumption stands
+/// without a number. Changes that don't show in the written digits, or
+/// that move a ratio by less than `least` without crossing 1, are left out, and so is a note that had no other.
+[[nodiscard]] Notes ProjectNotes(const Session& session, double least = kLeastGrowth);
 
 /// A change in words: "patch load, span 2: 0.084 instead of 0.057".
 [[nodiscard]] std::string changeText(const NoteChange& change);

@@ -28,6 +28,29 @@ std::optional<NoteFinding> lastTwoSpans(const Session& session) {
     return hiddenRatios(session, isWheelCheck);
 }
 
+/// Checks whose ratio says nothing, because of what the load is divided by.
+std::optional<NoteFinding> noSoundRatio(const Session& session) {
+    const auto unsound = [](const auto& rows) { return !(rows.Ratio >= 0.0); };
+    const CheckResults& checks = session.results->Checks;
+    std::string all;
+    const auto add = [&all](const std::string& what) { all += (all.empty() ? "" : "; ") + what; };
+    const auto spans = [&](const char* what, const auto& rows) {
+        for (int span = rows.first(); span <= rows.last(); ++span)
+            if (unsound(rows(span))) add(inSpan(what, span));
+    };
+    spans("shear", checks.ShearSpan);
+    spans("bending", checks.BendSpan);
+    spans("lateral torsional buckling", checks.LtbSpan);
+    spans(session.project.CraneType == 1 ? "patch load" : "flange bending", checks.LocalSpan);
+    spans("von Mises stress", checks.VonMisesSpan);
+    spans("vertical deflection", checks.DefZSpan);
+    spans("horizontal deflection", checks.DefYSpan);
+    for (int detail = 1; detail <= 6; ++detail)
+        if (const auto& row = session.results->Fatigue.FatResult(detail); row && unsound(*row))
+            add("fatigue detail " + std::to_string(detail));
+    return matters(!all.empty(), all);
+}
+
 /// Above the limit by less than what three decimals show.
 std::optional<NoteFinding> justAboveOne(const Session& session) {
     for (const CheckedRatio& ratio : allRatios(session))
@@ -42,7 +65,8 @@ std::optional<NoteFinding> sharedRows(const Session& session) {
 
 constexpr NoteRule kRules[]{
     {"H1", NoteCheck::General, NoteEffect::Unsafe,
-     "The governing row of a check is the one whose ratio ranks highest as text, so that 10.000 ranks below 2.000.",
+     "The governing point and row of a check are those whose ratio ranks highest as text, so that 10.000 ranks below "
+     "2.000.",
      "by number", "", rankedAsText},
     {"H2", NoteCheck::WheelLoad, NoteEffect::Unsafe,
      "The governing row of the wheel load checks is the larger of the last two spans; an earlier span has more.",
@@ -52,6 +76,10 @@ constexpr NoteRule kRules[]{
     {"H6", NoteCheck::Fatigue, NoteEffect::Information,
      "The rows of detail 4 are not listed point by point when detail 6 is checked too; its governing row stands.", "",
      "", sharedRows},
+    {"H8", NoteCheck::General, NoteEffect::Unsafe,
+     "A ratio that is negative or no number shows that no resistance is left, or that a factor is senseless; the check "
+     "is not satisfied.",
+     "", "", noSoundRatio},
 };
 
 }  // namespace

@@ -46,7 +46,7 @@ std::optional<NoteFinding> thickFlanges(const Session& session) {
             {inSpan("lateral torsional buckling", span), shown.LtbSpan(span).Ratio, other.LtbSpan(span).Ratio});
     }
     if (changes.empty()) return std::nullopt;
-    return worstOf(changes, "a flange is " + formatNumber(thickest, "0.#") + " mm thick");
+    return worstOf(changes, "a flange is " + generalText(Single(thickest)) + " mm thick");
 }
 
 /// The bending ratio of a span where each of its two positions has a section of its own making.
@@ -60,9 +60,9 @@ std::optional<NoteFinding> withResistance(const Session& session, Changed change
         double shown = 0, other = 0;
         for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan}) {
             const SectionForces forces = forcesAt(*records, span);
-            const BendingResistance told(project, section, forces);
-            const BendingResistance otherwise = changed(section, forces, told);
-            shown = std::max<double>(shown, BendingRatio(forces, told, section.ClassPos));
+            const BendingResistance asChecked(project, section, forces);
+            const BendingResistance otherwise = changed(section, forces, asChecked);
+            shown = std::max<double>(shown, BendingRatio(forces, asChecked, section.ClassPos));
             other = std::max<double>(other, BendingRatio(forces, otherwise, section.ClassPos));
         }
         changes.push_back({inSpan("bending", span), shown, other});
@@ -160,7 +160,7 @@ constexpr NoteRule kRules[]{
      "with the elastic one", "EN 1993-1-1 6.2.9", elasticFlangeHogging},
     {"B13", NoteCheck::VonMises, NoteEffect::Either,
      "The local stresses of a tapered IPN flange are taken with the coefficients of a parallel one.", "",
-     "EN 1993-6 Table 5.3", taperedFlanges},
+     "EN 1993-6 Table 5.2", taperedFlanges},
     {"B15", NoteCheck::Section, NoteEffect::Unsafe,
      "The plastic modulus of a welded section with equal flanges is taken by a short formula, a little above the exact "
      "one.",
