@@ -8,7 +8,7 @@
 
 #include "forms/combination_list.h"
 #include "forms/info_picture.h"
-#include "forms/load_check.h"
+#include "calculation/load_check.h"
 #include "pictures/crane_pictures.h"
 #include "pictures/info_pictures.h"
 

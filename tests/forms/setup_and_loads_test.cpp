@@ -7,7 +7,7 @@
 #include <QRadioButton>
 
 #include "forms/form_support.h"
-#include "forms/load_check.h"
+#include "calculation/load_check.h"
 
 namespace borvik {
 namespace {

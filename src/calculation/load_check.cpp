@@ -1,4 +1,4 @@
-#include "forms/load_check.h"
+#include "calculation/load_check.h"
 
 #include <initializer_list>
 #include <span>
