@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "calculation/calculation.h"
+#include "calculation/load_check.h"
 #include "console.h"
 #include "exit_codes.h"
 #include "output.h"
@@ -40,6 +41,9 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     Calculate(session, console, console, options.walk);
     int exitCode = outcome(session, options);
     const std::vector<std::string> messages = console.texts();
+    // Not among the messages of the run, which is done as if the loads were sound.
+    const std::string onLoads = session.Calculated ? LoadRemark(session.project) : std::string();
+    if (!onLoads.empty()) console.show(onLoads);
     try {
         for (const std::string& remark : outputs.write({session, messages, file})) console.show(remark);
     } catch (const OutputError& error) {

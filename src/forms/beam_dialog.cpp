@@ -23,14 +23,18 @@ QString trimmedName(const SectionRecord& section) {
     return QString::fromStdString(section.DisplayName).trimmed();
 }
 
-/// A file may bring fewer rows than the form offers, and another number for the first one. What it brings is shown in
-/// its order from row 1 on.
+/// A file may bring fewer rows than the form offers.
 void bringRows(Project& project) {
-    Array<SectionRecord>& sections = project.SpanSection;
-    if (sections.first() == 1 && sections.last() >= kMaxSpans) return;
-    Array<SectionRecord> rows(1, std::max(kMaxSpans, sections.size()));
-    std::copy(sections.begin(), sections.end(), rows.begin());
-    sections = std::move(rows);
+    if (project.SpanSection.size() == 0) project.SpanSection = Array<SectionRecord>(1, kMaxSpans);
+    while (project.SpanSection.last() < kMaxSpans) project.SpanSection.append({});
+}
+
+void updateSections(const ReferenceTables& tables, Project& project, ProjectContext& context) {
+    try {
+        UpdateSections(tables, project, context);
+    } catch (const RuntimeFault&) {
+        // A beam still being laid out, such as a span without its section: the input check says so on closing.
+    }
 }
 
 }  // namespace
@@ -78,6 +82,20 @@ void BeamDialog::Write() {
     lstViewTill_->showAll();
     chkDead_->setChecked(project_.SelfWeight);
     picture_->update();
+}
+
+void BeamDialog::showInput() {
+    fillSections();
+    Write();
+}
+
+void BeamDialog::settle(Project& project) const {
+    bringRows(project);
+    MessageList unheard;
+    if (!CheckInput(project, unheard)) return;
+    MarkSectionsInUse(project);
+    ProjectContext context = session_.context;
+    updateSections(session_.tables, project, context);
 }
 
 bool BeamDialog::mayClose() {
@@ -175,11 +193,7 @@ void BeamDialog::apply(const std::vector<int>& rows, int what) {
 }
 
 void BeamDialog::bringSectionsUpToDate() {
-    try {
-        UpdateSections(session_.tables, project_, session_.context);
-    } catch (const RuntimeFault&) {
-        // A beam still being laid out, such as a span without its section: the input check says so on closing.
-    }
+    updateSections(session_.tables, project_, session_.context);
 }
 
 void BeamDialog::openSectionForm() {

@@ -22,6 +22,9 @@ public:
 
 protected:
     bool mayClose() override;
+    void showInput() override;
+    void settle(Project& project) const override;
+    [[nodiscard]] bool boxesShowRecord() const override { return false; }
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,7 +45,7 @@ private:
     QCheckBox* chkDead_;
     NumberBox* txtBeamLength_;
     Picture* picture_;
-    std::unique_ptr<QDialog> sectionForm_;
+    std::unique_ptr<InputDialog> sectionForm_;
 };
 
 }  // namespace borvik

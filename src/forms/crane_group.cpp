@@ -20,7 +20,39 @@ std::string numbered(const std::string& stem, int number) {
     return stem + std::to_string(number);
 }
 
+QString boxOf(const LoadFault& fault) {
+    switch (fault.item) {
+        case LoadItem::Load:
+            return (fault.number <= 4 ? "txtV" : "txtv") + QString::number(fault.number);
+        case LoadItem::Distance:
+            return (fault.number <= 3 ? "txtAvst" : "txtavst") + QString::number(fault.number);
+        case LoadItem::Position:
+            return "txtPosition";
+        case LoadItem::MinDistance:
+            return "txtMinAvst";
+        case LoadItem::Nothing:
+            break;
+    }
+    return {};
+}
+
 }  // namespace
+
+bool mayCloseLoads(QWidget& form, Project& project, Messages& messages, LoadForm kind) {
+    const LoadFault fault = LoadRefusal(project, kind);
+    if (fault.message.empty()) {
+        SettleLoads(project, kind);
+        return true;
+    }
+    messages.show(fault.message);
+    if (!fault.mendable) return true;
+    if (auto* box = form.findChild<NumberBox*>(boxOf(fault))) {
+        box->setFocus(Qt::OtherFocusReason);
+        box->selectAll();
+        box->markRefused(QString::fromStdString(fault.message).trimmed());
+    }
+    return false;
+}
 
 CraneGroup::CraneGroup(FormBinder& binder, Project& project, int crane, const CraneGroupText& text,
                        std::int16_t& craneClass, const char* gapMask, const std::function<void()>& changed)

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "calculation/load_check.h"
 #include "forms/input_dialog.h"
 
 namespace borvik {
@@ -40,6 +41,11 @@ private:
     QComboBox* class_;
     std::int16_t& craneClass_;
 };
+
+/// The closing test of both load forms. A refusal is shown, the box that is to be mended marked and given the focus, and
+/// the form stays; unless nothing in the form can mend it, since then nobody could ever leave.
+/// @return true when the form may close
+[[nodiscard]] bool mayCloseLoads(QWidget& form, Project& project, Messages& messages, LoadForm kind);
 
 /// The box of the fixed position, with its two options around it, as both load forms have it.
 class PositionGroup {

@@ -18,15 +18,15 @@ namespace {
 using Changed = std::function<void()>;
 
 template <class Form>
-std::unique_ptr<QDialog> make(Session& session, Messages& messages, Changed changed, QWidget* parent) {
+std::unique_ptr<InputDialog> make(Session& session, Messages& messages, Changed changed, QWidget* parent) {
     return std::make_unique<Form>(session, messages, std::move(changed), parent);
 }
 
 }  // namespace
 
-std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages, Changed changed,
+std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messages& messages, Changed changed,
                                     QWidget* parent) {
-    using Maker = std::unique_ptr<QDialog> (*)(Session&, Messages&, Changed, QWidget*);
+    using Maker = std::unique_ptr<InputDialog> (*)(Session&, Messages&, Changed, QWidget*);
     const auto maker = [kind]() -> Maker {
         switch (kind) {
             case DialogKind::Setup:

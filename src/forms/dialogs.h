@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <functional>
 #include <memory>
 
 #include "calculation/session.h"
+#include "forms/input_dialog.h"
 #include "platform/messages.h"
 
 namespace borvik {
@@ -28,7 +28,7 @@ enum class DialogKind {
 /// @param messages  where refusals go; must outlive the form
 /// @param changed  called after each field that the form has written, so that the window's sketch can follow
 /// @return the form, or nothing when the program was built without it
-[[nodiscard]] std::unique_ptr<QDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
-                                                  std::function<void()> changed, QWidget* parent);
+[[nodiscard]] std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
+                                                      std::function<void()> changed, QWidget* parent);
 
 }  // namespace borvik

@@ -79,10 +79,14 @@ Fatigue2Dialog::Fatigue2Dialog(Session& session, Messages& messages, std::functi
            .note = tr("Note 1) FW = Fillet Weld FP = Full Penetration Weld")});
 }
 
-void Fatigue2Dialog::accept() {
-    const auto& used = project_.ChkFatR5Sp;
+void Fatigue2Dialog::settle(Project& project) const {
+    const auto& used = project.ChkFatR5Sp;
     // It is the flag of the overhead crane that falls here; the input check clears that of the monorail.
-    if (!used(1) && !used(2) && !used(3) && !used(4)) project_.Fat5 = false;
+    if (!used(1) && !used(2) && !used(3) && !used(4)) project.Fat5 = false;
+}
+
+void Fatigue2Dialog::accept() {
+    settle(project_);
     FatigueDialog::accept();
 }
 

@@ -11,6 +11,9 @@ public:
 
     /// cmdOK, as against the other ways of closing the form.
     void accept() override;
+
+protected:
+    void settle(Project& project) const override;
 };
 
 }  // namespace borvik

@@ -84,6 +84,7 @@ protected:
                   std::function<void()> changed, QWidget* parent);
     /// Puts the form together; called once, by the constructor of the form.
     void build(FatigueForm form);
+    void showInput() override { WriteSetup(); }
 
 private:
     Group details();

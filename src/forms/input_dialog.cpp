@@ -1,5 +1,6 @@
 #include "forms/input_dialog.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
@@ -10,8 +11,10 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <map>
 
 namespace borvik {
@@ -48,11 +51,22 @@ InputDialog::InputDialog(const std::string& name, const QString& title, Session&
       project_(session.project),
       messages_(messages),
       binder_(session.project, messages, std::move(mismatch), this),
-      changed_(std::move(changed)) {
+      changed_(std::move(changed)),
+      atFirst_(project_) {
     setObjectName(QString::fromStdString(name));
     setWindowTitle(title);
     setModal(true);
     binder_.accepted = [this] { inputChanged(); };
+    const auto addKeys = [this](const char* command, const QList<QKeySequence>& keys,
+                                const State& (Steps<State>::*step)()) {
+        auto* action = new QAction(this);
+        action->setObjectName(QString::fromUtf8(command));
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, [this, step] { standAt(step); });
+        addAction(action);
+    };
+    addKeys("undo", undoKeys(), &Steps<State>::back);
+    addKeys("redo", redoKeys(), &Steps<State>::forward);
 }
 
 void InputDialog::done(int result) {
@@ -63,15 +77,70 @@ void InputDialog::done(int result) {
         refusedAtClosing_ = box;
         return;
     }
+    // What the closing settles is not among the user's changes.
+    changes_ =
+        spanChanges(atFirst_, project_) + sectionChanges(atFirst_, project_) + shownAtFirst_.changesTo(controls());
     if (!mayClose()) return;
     inputChanged();
     QDialog::done(result);
+    if (auto* openedFrom = qobject_cast<InputDialog*>(parentWidget())) openedFrom->takeStep();
+}
+
+bool InputDialog::edited() const {
+    Project before = atFirst_, now = project_;
+    settle(before);
+    settle(now);
+    return !(before == now);
+}
+
+QString InputDialog::whatChanged() const {
+    if (changes_.size() < 2) return changes_.join(QString());
+    return tr("%1 and %2 more").arg(changes_.constFirst()).arg(changes_.size() - 1);
+}
+
+InputDialog::State InputDialog::state() const {
+    return {project_, editsSection() ? session_.context.CurrentSection : SectionRecord()};
 }
 
 void InputDialog::inputChanged() {
     session_.inputChanged();
     binder_.refresh();
+    if (steps_.empty()) return;  // still being filled
+    takeStep();
     if (changed_) changed_();
+    if (takesSteps()) steps_.present() = state();  // what the window derives from an edit belongs to it
+}
+
+/// Not while a form opened from this one is still being edited.
+bool InputDialog::takesSteps() const {
+    const auto forms = findChildren<InputDialog*>();
+    return !steps_.empty() &&
+           std::none_of(forms.begin(), forms.end(), [](const InputDialog* form) { return form->isVisible(); });
+}
+
+void InputDialog::takeStep() {
+    if (restoring_ || !takesSteps()) return;
+    if (State now = state(); !(now == steps_.present())) steps_.add(std::move(now));
+}
+
+/// Undo and redo, once the box being edited has nothing more of its own to take back.
+void InputDialog::standAt(const State& (Steps<State>::*step)()) {
+    if (steps_.empty() || binder_.refusalPending()) return;
+    takeStep();  // a refused value is stored, but was no step until now
+    const State& stand = (steps_.*step)();
+    QWidget* focus = focusWidget();
+    if (auto* box = qobject_cast<NumberBox*>(focus)) {
+        const QSignalBlocker untested(box);  // what it holds is about to be another value
+        box->clearFocus();
+    }
+    restoring_ = true;
+    project_ = stand.project;
+    if (editsSection()) session_.context.CurrentSection = stand.section;
+    FollowProject(session_.tables, project_, session_.context);
+    showInput();
+    inputChanged();
+    restoring_ = false;
+    if (focus != nullptr && focus->isEnabled()) focus->setFocus(Qt::OtherFocusReason);
 }
 
 QPushButton* InputDialog::closeButton(const std::string& name, const QString& text, const QString& tip,
@@ -97,11 +166,16 @@ void InputDialog::setContent(QLayout* content) {
     // Enter moves on from box to box and must never press a button that doesn't have the focus.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     joinOptions(this);
+    for (QLineEdit* box : findChildren<QLineEdit*>()) undoKeys_.watch(box);
 }
 
 void InputDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
         resize(sizeHint().boundedTo(screen()->availableSize() - kWindowFrame));
+        if (steps_.empty()) {
+            steps_.add(state());
+            shownAtFirst_ = controls();
+        }
     }
     QDialog::showEvent(event);
     if (event->spontaneous()) return;

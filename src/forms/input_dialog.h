@@ -8,7 +8,10 @@
 #include <vector>
 
 #include "calculation/session.h"
+#include "forms/change_names.h"
 #include "forms/form_binder.h"
+#include "forms/undo_keys.h"
+#include "project/steps.h"
 
 class QComboBox;
 class QPushButton;
@@ -18,7 +21,8 @@ namespace borvik {
 
 /// What all input forms have in common: they write straight into the project, so there is no cancel; every way of
 /// closing (button, Esc, Ctrl+Enter, the window's cross) first stores the box being edited and then asks the form's
-/// closing rule; a closed form leaves the results out of reach until the next calculation.
+/// closing rule; a closed form leaves the results out of reach until the next calculation. While it is open, undo and redo
+/// take its own edits back and make them again, one by one.
 class InputDialog : public QDialog {
     Q_OBJECT
 
@@ -27,14 +31,29 @@ public:
     /// so that nobody is ever locked in. The form's closing rule is asked all the same.
     void done(int result) override;
 
+    /// Whether the record differs by an edit of the user from what it was when the form was made. What the form itself
+    /// settles, such as computed values, is no edit.
+    [[nodiscard]] bool edited() const;
+    /// What the user has changed, when the form was last asked to close: "V3 175 → 0 and 2 more"; empty where no
+    /// control tells.
+    [[nodiscard]] QString whatChanged() const;
+
 protected:
     InputDialog(const std::string& name, const QString& title, Session& session, Messages& messages,
                 std::function<void()> changed, QWidget* parent, std::string mismatch = "Input string mismatch ");
 
     /// The last guard. @return false to stay open
     virtual bool mayClose() { return true; }
+    /// Fills all controls from the record and from the section being worked on.
+    virtual void showInput() = 0;
+    /// Brings a record to what opening and closing this form, without an edit, makes of it. Harmless a second time.
+    virtual void settle(Project&) const {}
+    /// Whether number boxes and lists show the record itself, rather than something to be given to it by a button.
+    [[nodiscard]] virtual bool boxesShowRecord() const { return true; }
+    /// Whether the form edits the section being worked on, beside the record.
+    [[nodiscard]] virtual bool editsSection() const { return false; }
 
-    /// The input has changed: results are out of reach and the main window's sketch follows.
+    /// The input has changed: results are out of reach, undo has one more step, the main window's sketch follows.
     void inputChanged();
     /// The button that closes the form: Alt+C presses it, Enter in the last box goes to it.
     /// @param clicked  what it does; left out: accept()
@@ -52,7 +71,26 @@ protected:
     FormBinder binder_;
 
 private:
+    /// What undo takes back: the record, and the section being worked on where the form edits it.
+    struct State {
+        Project project;
+        SectionRecord section;
+        bool operator==(const State&) const = default;
+    };
+
+    [[nodiscard]] State state() const;
+    [[nodiscard]] bool takesSteps() const;
+    [[nodiscard]] ControlTexts controls() const { return {*this, binder_, boxesShowRecord()}; }
+    void takeStep();
+    void standAt(const State& (Steps<State>::*step)());
+
     std::function<void()> changed_;
+    Project atFirst_;
+    Steps<State> steps_;  ///< from when the form is shown; a visit to a form opened from this one is one step
+    ControlTexts shownAtFirst_;
+    QStringList changes_;
+    UndoKeys undoKeys_;
+    bool restoring_ = false;
     const NumberBox* refusedAtClosing_ = nullptr;
 };
 

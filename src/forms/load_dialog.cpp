@@ -8,7 +8,6 @@
 
 #include "forms/combination_list.h"
 #include "forms/info_picture.h"
-#include "calculation/load_check.h"
 #include "pictures/crane_pictures.h"
 #include "pictures/info_pictures.h"
 
@@ -79,14 +78,7 @@ void LoadDialog::Write() {
 }
 
 bool LoadDialog::CheckLoads() {
-    const std::string refusal = LoadRefusal(project_, LoadForm::Overhead);
-    if (refusal.empty()) {
-        SettleLoads(project_, LoadForm::Overhead);
-        return true;
-    }
-    messages_.show(refusal);
-    inputChanged();
-    return false;
+    return mayCloseLoads(*this, project_, messages_, LoadForm::Overhead);
 }
 
 Group LoadDialog::gangway() {

@@ -27,6 +27,8 @@ public:
 
 protected:
     bool mayClose() override { return CheckLoads(); }
+    void showInput() override { Write(); }
+    void settle(Project& project) const override { SettleLoads(project, LoadForm::Overhead); }
 
 private:
     Group gangway();

@@ -5,7 +5,6 @@
 
 #include "forms/combination_list.h"
 #include "forms/info_picture.h"
-#include "calculation/load_check.h"
 #include "pictures/crane_pictures.h"
 #include "pictures/info_pictures.h"
 
@@ -44,15 +43,14 @@ void LoadRunwayDialog::Write() {
     lstCombination_->write(project_, CombinationText::CraneLoadsOnly);
 }
 
+void LoadRunwayDialog::showInput() {
+    Write();
+    wheels_->update();
+    flange_->update();
+}
+
 bool LoadRunwayDialog::CheckLoads() {
-    const std::string refusal = LoadRefusal(project_, LoadForm::Monorail);
-    if (refusal.empty()) {
-        SettleLoads(project_, LoadForm::Monorail);
-        return true;
-    }
-    messages_.show(refusal);
-    inputChanged();
-    return false;
+    return mayCloseLoads(*this, project_, messages_, LoadForm::Monorail);
 }
 
 Group LoadRunwayDialog::runway() {

@@ -23,6 +23,8 @@ public:
 
 protected:
     bool mayClose() override { return CheckLoads(); }
+    void showInput() override;
+    void settle(Project& project) const override { SettleLoads(project, LoadForm::Monorail); }
 
 private:
     Group runway();

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "calculation/load_check.h"
 #include "forms/frm_detailed_result.h"
 #include "forms/help.h"
 #include "forms/icons.h"
@@ -167,6 +168,12 @@ void MainWindow::buildStatusBar() {
     stateNotes_->setAutoRaise(true);
     stateNotes_->setToolTip(tr("What the checks assume or leave out, where it matters in this project"));
     connect(stateNotes_, &QToolButton::clicked, this, &MainWindow::showNotes);
+    // Temporary messages cover it and give it free again, so that it can't vanish unread.
+    stateRemark_ = new QLabel;
+    stateRemark_->setObjectName("stateRemark");
+    stateRemark_->setMargin(4);
+    stateRemark_->setMinimumWidth(1);  // never widens the window
+    statusBar()->addWidget(stateRemark_, 1);
     for (QLabel* label : {stateRanges_, stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_})
         label->setMargin(4);
     for (QWidget* state : std::initializer_list<QWidget*>{stateRanges_, stateUnsaved_, stateGoverning_, stateNotes_,
@@ -187,6 +194,7 @@ void MainWindow::WritefrmInput() {
 
 void MainWindow::projectChanged(const QString& what, bool resultsStand) {
     if (!resultsStand) session_.inputChanged();
+    splicesDropped_ = false;
     picBalk_->showSketch(session_.project);
     panel_->showProject();
     remember(what);
@@ -196,18 +204,22 @@ void MainWindow::projectChanged(const QString& what, bool resultsStand) {
 
 void MainWindow::showState() {
     const bool current = session_.Calculated;
+    // An open form puts the results out of reach, but out of date only by an edit.
+    const bool looking = !current && form_ != nullptr && inputIsCalculated();
     cmdCalc_->setEnabled(!current);
     tree_->setResultsReachable(current);
-    picRes_->setOutOfDate(!current);
-    results_->setOutOfDate(!current);
+    picRes_->setOutOfDate(!current && !looking);
+    results_->setOutOfDate(!current && !looking);
     stateUnsaved_->setText(hasUnsavedChanges() ? tr("Unsaved changes") : QString());
     stateCalculated_->setText(current        ? tr("Calculated")
+                              : looking      ? tr("Form open")
                               : calculation_ ? tr("Out of date: calculate again")
                                              : tr("Not calculated"));
     showRanges();
     stateGoverning_->setVisible(current);
     stateTime_->setVisible(current);
     stateNotes_->setVisible(current);
+    showRemark();
     showHistory();
 }
 
@@ -220,6 +232,15 @@ void MainWindow::showRanges() {
     stateRanges_->setText(all.size() == 1 ? tr("\u26a0 %1").arg(all.first())
                                           : tr("\u26a0 %1, and %2 more").arg(all.first()).arg(all.size() - 1));
     stateRanges_->setToolTip(tr("The calculation takes these values as they stand:\n%1").arg(all.join('\n')));
+}
+
+void MainWindow::showRemark() {
+    QStringList remarks;
+    if (splicesDropped_) remarks.append(tr("Splices that no longer fit the beam have been left out"));
+    if (session_.Calculated && calculation_) remarks.append(QString::fromStdString(LoadRemark(calculation_->project)));
+    remarks.removeAll(QString());
+    stateRemark_->setText(remarks.join("; "));
+    stateRemark_->setToolTip(stateRemark_->text());
 }
 
 bool MainWindow::event(QEvent* event) {

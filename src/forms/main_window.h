@@ -112,10 +112,15 @@ private:
     // Input forms
     void openForm(DialogKind kind, const QString& what);
     void openForm(const std::string& node);
+    void formChanged(const QString& what);
+    void takeOver(const InputDialog& form, DialogKind kind, const QString& what);
     void openRail(const char* refusal);
 
     // Results
     void calculate();
+    [[nodiscard]] bool inputIsCalculated() const;
+    void followInput();
+    void showRemark();
     void showNode(const TreeNode& node, bool byWalking);
     void showTable(const std::string& name);
     void showNotes();
@@ -135,6 +140,9 @@ private:
     RecoveryCopies recovery_;
     bool copyRefused_ = false;  ///< the user has been told that no copy can be kept
     CalculationPtr calculation_;
+    const InputDialog* form_ = nullptr;  ///< the one that is open
+    bool splicesDropped_ = false;        ///< by the input check, since the last edit
+    std::string loadFaultTold_;          ///< so that it is told once
     bool shownNotes_ = false;  ///< the table shown is that of the notes
     bool running_ = false;
     std::unique_ptr<FrmProgress> progress_;
@@ -150,6 +158,7 @@ private:
     QAction* printNotes_ = nullptr;
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
+    QLabel* stateRemark_ = nullptr;
     QLabel* stateCalculated_ = nullptr;
     QLabel* stateRanges_ = nullptr;
     QLabel* stateGoverning_ = nullptr;

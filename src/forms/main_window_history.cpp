@@ -8,7 +8,8 @@
 namespace borvik {
 
 bool MainWindow::hasUnsavedChanges() const {
-    return history_.unsaved(session_.project);
+    const bool asRemembered = form_ != nullptr && !form_->edited();
+    return history_.unsaved(asRemembered ? history_.present().project : session_.project);
 }
 
 /// A change of the project becomes a step of the history, and is safe from then on.
@@ -54,7 +55,8 @@ void MainWindow::standAt(const ProjectStep& step, const QString& told, bool anot
     session_.context.FileName = step.document->FileName;
     session_.context.FileTitle = step.document->FileTitle;
     FollowProject(session_.tables, session_.project, session_.context);
-    session_.inputChanged();
+    splicesDropped_ = false;
+    followInput();
     if (another) {
         projectShown();
     } else {

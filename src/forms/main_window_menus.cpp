@@ -7,6 +7,7 @@
 #include "forms/icons.h"
 #include "forms/main_window.h"
 #include "forms/printing.h"
+#include "forms/undo_keys.h"
 
 namespace borvik {
 
@@ -113,8 +114,8 @@ void MainWindow::buildMenus() {
                 {"mnuRedo", "&Redo", {}, themeIcon("edit-redo", QStyle::SP_ArrowForward), [this] { redo(); }}});
     undo_ = edit->actions().at(0);
     redo_ = edit->actions().at(1);
-    undo_->setShortcut(QKeySequence::Undo);
-    redo_->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    undo_->setShortcuts(undoKeys());
+    redo_->setShortcuts(redoKeys());
 
     QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
     setup->setObjectName("mnuSetup");

@@ -102,6 +102,8 @@ void MainWindow::projectReplaced(const std::string& step) {
 void MainWindow::projectShown() {
     session_.inputChanged();
     calculation_.reset();
+    loadFaultTold_.clear();
+    splicesDropped_ = false;
     picRes_->clear();
     results_->clear();
     WritefrmInput();

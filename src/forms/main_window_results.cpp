@@ -1,9 +1,11 @@
 #include <QApplication>
 #include <QStatusBar>
 #include <algorithm>
+#include <utility>
 
 #include "base/number_text.h"
 #include "calculation/calculation.h"
+#include "calculation/load_check.h"
 #include "forms/frm_detailed_result.h"
 #include "forms/icons.h"
 #include "forms/main_window.h"
@@ -64,19 +66,66 @@ void MainWindow::openRail(const char* refusal) {
 
 void MainWindow::openForm(DialogKind kind, const QString& what) {
     if (running_ || !panel_->commit()) return;
-    const auto changed = [this, what] { projectChanged(what); };
+    const auto changed = [this, what] { formChanged(what); };
     const auto form = makeDialog(kind, session_, services_.messages, changed, this);
     if (!form) {
         statusBar()->showMessage(tr("This version has no form for: %1").arg(what), 6000);
         return;
     }
     // The setup form knows itself whether it has changed anything; after all others the results count as out of date.
-    const bool always = kind != DialogKind::Setup;
-    if (always) session_.inputChanged();
+    if (kind != DialogKind::Setup) session_.inputChanged();
+    form_ = form.get();
+    showState();
     form->exec();
-    if (always) session_.inputChanged();
-    remember(what);
+    form_ = nullptr;
+    takeOver(*form, kind, what);
+}
+
+/// An edit within the form that is open: shown in the sketch and kept for recovery at once, a step of the history when
+/// the form closes, since only then its last guard is asked.
+void MainWindow::formChanged(const QString& what) {
+    picBalk_->showSketch(session_.project);
+    panel_->showProject();
+    showState();
+    if (form_ == nullptr) return;
+    keepCopy();
+    if (form_->edited()) {
+        statusBar()->showMessage(tr("Changed: %1").arg(what), 4000);
+    } else {
+        statusBar()->clearMessage();
+    }
+}
+
+/// What a form has made of the project, settled by its closing, is one step. Results that still belong to the input are
+/// in reach again.
+void MainWindow::takeOver(const InputDialog& form, DialogKind kind, const QString& what) {
+    const bool dropped =
+        kind == DialogKind::Beam && splicesInUse(session_.project) < splicesInUse(history_.present().project);
+    const QString changes = form.whatChanged();
+    if (form.edited()) {
+        remember(changes.isEmpty() ? what : what + ": " + changes);
+        splicesDropped_ = dropped;
+    } else {
+        history_.settled(session_.project);
+        splicesDropped_ = splicesDropped_ || dropped;
+    }
+    keepCopy();
+    followInput();
     WritefrmInput();
+}
+
+/// Whether the results shown are those of the input as it stands; names change no result.
+bool MainWindow::inputIsCalculated() const {
+    if (!calculation_) return false;
+    Project input = session_.project;
+    input.Proj = calculation_->project.Proj;
+    input.Ident = calculation_->project.Ident;
+    return input == calculation_->project;
+}
+
+/// After a change that may have led back to what was calculated.
+void MainWindow::followInput() {
+    session_.Calculated = inputIsCalculated();
 }
 
 void MainWindow::calculate() {
@@ -102,11 +151,8 @@ void MainWindow::calculate() {
         services_.messages.show(std::string("Run-time error. ") + error.what());
     }
     running_ = false;
-    if (splicesInUse(session_.project) == splices) {
-        history_.settled(session_.project);
-    } else {
-        remember(tr("Calculate"));
-    }
+    history_.settled(session_.project);
+    splicesDropped_ = splicesDropped_ || splicesInUse(session_.project) < splices;
     if (!done) {
         progress_.reset();
         WritefrmInput();
@@ -123,8 +169,8 @@ void MainWindow::calculate() {
     picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
     showTable("Summary");
     showGoverning();
-    if (splicesInUse(session_.project) != splices)
-        statusBar()->showMessage(tr("Splices that no longer fit the beam have been left out"), 10000);
+    const std::string fault = LoadRemark(session_.project);
+    if (fault != std::exchange(loadFaultTold_, fault) && !fault.empty()) services_.messages.show(fault);
 }
 
 void MainWindow::ShowTreeView() {
@@ -203,8 +249,9 @@ void MainWindow::showGoverning() {
     const RatioVerdict verdict = verdictOf(calculation_->results);
     const QString ratio = QString::fromStdString(formatNumber(verdict.largest, "0.000"));
     const bool over = verdict.largest > 1.0;
-    // A sign beside the number, so that the state doesn't rest on colour.
-    stateGoverning_->setText((verdict.exceeds(1.0) ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
+    // A sign beside the number, so that the state doesn't rest on colour. Loads that are not in order let no tick stand.
+    const bool warns = verdict.exceeds(1.0) || !LoadRemark(calculation_->project).empty();
+    stateGoverning_->setText((warns ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
                              (over ? " > 1" : "") + QString::fromStdString(verdict.remark()));
     stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts, details and points"));
     QFont font = stateCalculated_->font();

@@ -44,6 +44,14 @@ ProfReinfDialog::ProfReinfDialog(Session& session, Messages& messages, std::func
     content->addWidget(closeButton("Command1", tr("Close"), tr("Close the form")), 3, 1, Qt::AlignRight);
     setContent(content);
     binder_.accepted = [this] { update(); };
+    showInput();
+}
+
+void ProfReinfDialog::showInput() {
+    const int arrangement = !current_.Reinforced ? 0 : current_.ReinfText == "PL1" ? 1 : 2;
+    arrangements_[arrangement]->setChecked(true);
+    binder_.show();
+    picture_->update();
 }
 
 Group ProfReinfDialog::arrangement() {
@@ -60,8 +68,7 @@ Group ProfReinfDialog::arrangement() {
         auto* option = makeChoice<QRadioButton>(
             each.name, each.caption, tr("Two plates, one at each side"),
             [this, reinforced = each.reinforced, text = each.text] { arrange(reinforced, text); });
-        option->setChecked(current_.Reinforced == each.reinforced &&
-                           (!each.reinforced || current_.ReinfText == each.text));
+        arrangements_[group.grid->count()] = option;
         addWide(group.grid, option);
     }
     return group;

@@ -2,6 +2,8 @@
 
 #include "forms/input_dialog.h"
 
+class QRadioButton;
+
 namespace borvik {
 
 class Picture;
@@ -18,6 +20,8 @@ public:
 protected:
     /// Asks whether the plates fit, and names the section after them.
     bool mayClose() override;
+    void showInput() override;
+    [[nodiscard]] bool editsSection() const override { return true; }
 
 private:
     Group arrangement();
@@ -26,6 +30,7 @@ private:
     void update();
 
     SectionRecord& current_;
+    QRadioButton* arrangements_[3];  ///< none, at the tips, under the flange
     Picture* picture_;
 };
 

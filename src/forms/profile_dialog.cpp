@@ -16,7 +16,6 @@
 #include "forms/section_combo.h"
 #include "forms/section_rows.h"
 #include "pictures/section_picture.h"
-#include "section/section.h"
 
 namespace borvik {
 
@@ -297,6 +296,7 @@ Group ProfileDialog::endPost() {
             inputChanged();
         });
         option->setChecked(project_.StiffenerMode == each.mode);
+        endPosts_.emplace_back(option, each.mode);
         group.grid->addWidget(option, 0, group.grid->count());
     }
     return group;
@@ -314,6 +314,7 @@ Group ProfileDialog::loadLevel() {
                 inputChanged();
             });
         option->setChecked(project_.LoadLevel == level);
+        loadLevels_.emplace_back(option, level);
         group.grid->addWidget(option, (level - 1) / 2, (level - 1) % 2);
     }
     return group;
@@ -337,14 +338,30 @@ void ProfileDialog::chooseEntry(int row) {
     if (!project_.SectionList.has(row)) return;
     keepCurrent();
     current_ = project_.SectionList(row);
+    showSection(isWelded(current_) ? IuTab : TableTab);
+    inputChanged();
+}
+
+/// Shows the section being worked on under that tab.
+void ProfileDialog::showSection(int tab) {
     {
         const QSignalBlocker quiet(SSTab1_);
-        SSTab1_->setCurrentIndex(isWelded(current_) ? IuTab : TableTab);
+        SSTab1_->setCurrentIndex(tab);
     }
     cboEuprofile_->setCurrentIndex(FindSection(session_.tables, current_.TableName));
     UpdateResult();
     WriteProfInput();
-    inputChanged();
+}
+
+void ProfileDialog::showInput() {
+    int listed = lstDatabase_->currentRow();
+    for (int row = 0; row <= project_.SectionList.last(); ++row)
+        if (project_.SectionList(row).DisplayName == current_.DisplayName) listed = row;
+    writeList(std::min(listed, project_.SectionList.last()));
+    for (const auto& [option, mode] : endPosts_) option->setChecked(project_.StiffenerMode == mode);
+    for (const auto& [option, level] : loadLevels_) option->setChecked(project_.LoadLevel == level);
+    const bool asIs = SSTab1_->currentIndex() == IsTab && current_.Id == "Is";
+    showSection(asIs ? IsTab : isWelded(current_) ? IuTab : TableTab);
 }
 
 void ProfileDialog::showTab(int tab) {

@@ -3,9 +3,11 @@
 #include <memory>
 
 #include "forms/input_dialog.h"
+#include "section/section.h"
 
 class QLabel;
 class QListWidget;
+class QRadioButton;
 class QTabWidget;
 
 namespace borvik {
@@ -30,7 +32,10 @@ public:
     void WriteSectionResult();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void showInput() override;
+    void settle(Project& project) const override { MarkSectionsInUse(project); }
+    [[nodiscard]] bool boxesShowRecord() const override { return false; }
+    [[nodiscard]] bool editsSection() const override { return true; }
 
 private:
     enum Tab { TableTab = 0, IsTab = 1, IuTab = 2 };
@@ -43,7 +48,7 @@ private:
     Group loadLevel();
     NumberRow dimension(const char* name, Single& field, const char* mask, double lowest, const char* message,
                         const QString& meaning);
-    /// Plates belong to the section for which they were entered: another row begins without.
+    void showSection(int tab);
     void chooseTableRow(int row);
     void chooseEntry(int row);
     void showTab(int tab);
@@ -65,9 +70,9 @@ private:
     SectionCombo* cboEuprofile_;
     QListWidget* lstDatabase_;
     QTreeWidget* results_;
-    QLabel *lblName_, *lblWarning_;
+    std::vector<std::pair<QRadioButton*, std::int16_t>> endPosts_, loadLevels_;  ///< each with its value in the record
     Picture* picture_;
-    std::unique_ptr<QDialog> reinforcement_;
+    std::unique_ptr<InputDialog> reinforcement_;
 };
 
 }  // namespace borvik

@@ -36,6 +36,7 @@ ProjectPanel::ProjectPanel(Session& session, Messages& messages, QWidget* parent
     layout->addWidget(materialBox());
     layout->addWidget(craneTypeBox());
     joinOptions(this);
+    for (QLineEdit* box : findChildren<QLineEdit*>()) undoKeys_.watch(box);
 }
 
 QWidget* ProjectPanel::namesBox() {

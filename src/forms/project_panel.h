@@ -8,6 +8,7 @@
 
 #include "calculation/session.h"
 #include "forms/form_binder.h"
+#include "forms/undo_keys.h"
 #include "platform/messages.h"
 
 namespace borvik {
@@ -51,6 +52,7 @@ private:
 
     Session& session_;
     FormBinder binder_;
+    UndoKeys undoKeys_;
     QLineEdit* iproj_ = nullptr;
     QLineEdit* iident_ = nullptr;
     QComboBox* cbofyk_ = nullptr;

@@ -22,7 +22,13 @@ RailDialog::RailDialog(Session& session, Messages& messages, std::function<void(
     content->setColumnStretch(1, 1);
     content->addWidget(closeButton("cmdOK", tr("Close"), tr("Close the form")), 2, 1, Qt::AlignRight);
     setContent(content);
+    showInput();
+}
+
+void RailDialog::showInput() {
     cboRail_->setCurrentIndex(FindRail(session_.tables, project_.RailName));
+    chkRail_->setChecked(project_.RailOn);
+    for (std::int16_t fix = 1; fix <= 3; ++fix) fixes_[fix - 1]->setChecked(project_.RailFix == fix);
     writeList();
 }
 
@@ -36,7 +42,6 @@ Group RailDialog::choice() {
                                          picture_->update();
                                          inputChanged();
                                      });
-    chkRail_->setChecked(project_.RailOn);
     list_ = makePropertyList("lstRail");
     list_->setToolTip(tr("Properties of the rail; k is the width of the head"));
     addWide(group.grid, cboRail_);
@@ -56,7 +61,7 @@ Group RailDialog::fastening() {
             picture_->update();
             inputChanged();
         });
-        option->setChecked(project_.RailFix == fix);
+        fixes_[fix - 1] = option;
         addWide(group.grid, option);
     }
     return group;

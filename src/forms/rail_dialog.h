@@ -14,6 +14,9 @@ class RailDialog : public InputDialog {
 public:
     RailDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 
+protected:
+    void showInput() override;
+
 private:
     Group choice();
     Group fastening();
@@ -22,6 +25,7 @@ private:
 
     QComboBox* cboRail_;
     QCheckBox* chkRail_;
+    QRadioButton* fixes_[3];
     QTreeWidget* list_;
     Picture* picture_;
 };

@@ -19,7 +19,7 @@ void ResultTableModel::setOutOfDate(bool outOfDate) {
     if (outOfDate == outOfDate_) return;
     outOfDate_ = outOfDate;
     if (rowCount() > 0 && columnCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole, Qt::DecorationRole});
 }
 
 int ResultTableModel::rowCount(const QModelIndex& parent) const {
@@ -70,15 +70,17 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
             return {};
         case Qt::ForegroundRole: {
             const QPalette palette = QApplication::palette();
-            if (over) return overLimitColour(palette);
             if (outOfDate_) return palette.color(QPalette::Disabled, QPalette::Text);
+            if (over) return overLimitColour(palette);
             return {};
         }
         case Qt::BackgroundRole:
             if (shown->emphasis == Emphasis::Heading) return QApplication::palette().color(QPalette::Button);
             return {};
         case Qt::DecorationRole:
-            return over ? QVariant(pictureIcon(Picture::OverLimit)) : QVariant();
+            if (!over) return {};
+            return outOfDate_ ? pictureIcon(Picture::OverLimit).pixmap(16, QIcon::Disabled)
+                              : QVariant(pictureIcon(Picture::OverLimit));
         default:
             return {};
     }

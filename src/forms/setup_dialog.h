@@ -15,6 +15,9 @@ public:
     /// Fills all controls from the record and builds the three combination texts anew.
     void WriteSetup();
 
+protected:
+    void showInput() override { WriteSetup(); }
+
 private:
     Group loadFactors();
     Group deflectionLimits();

@@ -19,8 +19,18 @@ VippingDialog::VippingDialog(Session& session, Messages& messages, std::function
     content->addWidget(closeButton("ok", tr("Close"), tr("Close the form; all values are stored already")), 2, 0,
                        Qt::AlignRight);
     setContent(content);
+    showInput();
+}
+
+void VippingDialog::showInput() {
+    curves_[0]->setChecked(project_.LtbCurve == 2);
+    curves_[1]->setChecked(project_.LtbCurve == 3);
     chkDefaultCfactor_->setChecked(project_.DefaultCfactor);
     useDefaultFactors(project_.DefaultCfactor);
+}
+
+void VippingDialog::settle(Project& project) const {
+    if (project.DefaultCfactor) DefaultCFactors(project);
 }
 
 Group VippingDialog::method() {
@@ -37,7 +47,7 @@ Group VippingDialog::method() {
             project_.LtbCurve = curve;
             inputChanged();
         });
-        option->setChecked(project_.LtbCurve == each.curve);
+        curves_[each.curve == 2 ? 0 : 1] = option;
         addWide(group.grid, option);
     }
     return group;

@@ -12,6 +12,10 @@ class VippingDialog : public InputDialog {
 public:
     VippingDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 
+protected:
+    void showInput() override;
+    void settle(Project& project) const override;
+
 private:
     Group method();
     Group factors();
@@ -19,6 +23,7 @@ private:
     NumberBox* factor(const char* name, Single& field, int order);
 
     QCheckBox* chkDefaultCfactor_;
+    QRadioButton* curves_[2];  ///< of the general case, of rolled and equivalent welded sections
     std::vector<NumberBox*> boxes_;
 };
 

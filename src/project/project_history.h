@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "project/project.h"
+#include "project/steps.h"
 
 namespace borvik {
 
@@ -22,13 +21,10 @@ struct ProjectStep {
     std::shared_ptr<ProjectDocument> document;  ///< never null
 };
 
-/// Every state of the project since the program started, whole records, so that no change needs a way back of its own.
-/// One step for one accepted entry or one command; opening another project is a step like any other.
+/// Every state of the project since the program started. One step for one accepted entry of the window, for one visit
+/// to an input form or for one command; opening another project is a step like any other.
 class ProjectHistory {
 public:
-    /// Steps kept; the oldest is forgotten first. A record takes some 50 kB.
-    static constexpr std::size_t kSteps = 200;
-
     ProjectHistory(const Project& project, const ProjectContext& context);
 
     /// Takes down a change of the present project; what was undone before it is forgotten.
@@ -45,7 +41,7 @@ public:
     void saved(const Project& project, const std::string& path);
 
     [[nodiscard]] bool unsaved(const Project& project) const { return !(project == present().document->saved); }
-    [[nodiscard]] const ProjectStep& present() const { return steps_[present_]; }
+    [[nodiscard]] const ProjectStep& present() const { return steps_.present(); }
 
     /// The change that undo would take back and that redo would make again; null where there is none.
     [[nodiscard]] const std::string* undoName() const;
@@ -55,10 +51,7 @@ public:
     const ProjectStep& redo();
 
 private:
-    void add(ProjectStep step);
-
-    std::vector<ProjectStep> steps_;
-    std::size_t present_ = 0;
+    Steps<ProjectStep> steps_;
 };
 
 }  // namespace borvik

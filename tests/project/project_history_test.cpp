@@ -55,8 +55,8 @@ TEST_F(History, knowsTheSavedStateOfEachProject) {
 }
 
 TEST_F(History, isBounded) {
-    for (std::size_t i = 1; i <= ProjectHistory::kSteps + 50; ++i) change(std::to_string(i));
-    for (std::size_t i = 1; i < ProjectHistory::kSteps; ++i) (void)undone();
+    for (std::size_t i = 1; i <= Steps<ProjectStep>::kSteps + 50; ++i) change(std::to_string(i));
+    for (std::size_t i = 1; i < Steps<ProjectStep>::kSteps; ++i) (void)undone();
     EXPECT_NE(history.undoName(), nullptr);
     EXPECT_EQ(undone(), "50");
     EXPECT_EQ(history.undoName(), nullptr);
