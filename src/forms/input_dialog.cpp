@@ -80,7 +80,11 @@ void InputDialog::done(int result) {
     // What the closing settles is not among the user's changes.
     changes_ =
         spanChanges(atFirst_, project_) + sectionChanges(atFirst_, project_) + shownAtFirst_.changesTo(controls());
-    if (!mayClose()) return;
+    settling_ = true;
+    const bool closes = mayClose();
+    settling_ = false;
+    if (!steps_.empty()) steps_.present() = state();
+    if (!closes) return;
     inputChanged();
     QDialog::done(result);
     if (auto* openedFrom = qobject_cast<InputDialog*>(parentWidget())) openedFrom->takeStep();
@@ -119,7 +123,7 @@ bool InputDialog::takesSteps() const {
 }
 
 void InputDialog::takeStep() {
-    if (restoring_ || !takesSteps()) return;
+    if (settling_ || !takesSteps()) return;
     if (State now = state(); !(now == steps_.present())) steps_.add(std::move(now));
 }
 
@@ -133,13 +137,13 @@ void InputDialog::standAt(const State& (Steps<State>::*step)()) {
         const QSignalBlocker untested(box);  // what it holds is about to be another value
         box->clearFocus();
     }
-    restoring_ = true;
+    settling_ = true;
     project_ = stand.project;
     if (editsSection()) session_.context.CurrentSection = stand.section;
     FollowProject(session_.tables, project_, session_.context);
     showInput();
     inputChanged();
-    restoring_ = false;
+    settling_ = false;
     if (focus != nullptr && focus->isEnabled()) focus->setFocus(Qt::OtherFocusReason);
 }
 

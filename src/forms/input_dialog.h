@@ -90,7 +90,7 @@ private:
     ControlTexts shownAtFirst_;
     QStringList changes_;
     UndoKeys undoKeys_;
-    bool restoring_ = false;
+    bool settling_ = false;  ///< what changes now is no edit: a step put back, or what closing derives
     const NumberBox* refusedAtClosing_ = nullptr;
 };
 

@@ -3,14 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QRegularExpression>
 #include <QTimer>
-#include <array>
 #include <filesystem>
-#include <random>
 
-#include "calculation/calculation.h"
-#include "calculation/load_check.h"
 #include "project/project_file.h"
 #include "window_support.h"
 
@@ -29,70 +24,6 @@ protected:
     }
     [[nodiscard]] bool marked() { return !control<QLabel>("stateUnsaved").text().isEmpty(); }
 };
-
-/// Whether the forms' last guards would let the project pass, with nothing left to be settled.
-bool accepted(const Project& project) {
-    const LoadForm form = project.CraneType == 1 ? LoadForm::Overhead : LoadForm::Monorail;
-    Project settled = project;
-    SettleLoads(settled, form);
-    MessageList messages;
-    return LoadRefusal(project, form).message.empty() && CheckInput(settled, messages) && settled == project;
-}
-
-TEST_F(UndoTest, putsBackOnlyWhatTheFormsHaveAccepted) {
-    std::mt19937 random(7);
-    const auto below = [&](auto count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
-    const auto edit = [&](QWidget& form) {
-        const auto boxes = form.findChildren<NumberBox*>();
-        const auto buttons = form.findChildren<QAbstractButton*>(QRegularExpression("^(opt|chk|Command[4-7]$)"));
-        NumberBox* box = boxes.at(below(boxes.size()));
-        if (box->isEnabled()) {
-            box->setFocus(Qt::TabFocusReason);
-            QTest::keyClicks(box, QStringList{"0", "12", "900", "1000", "9000"}.at(below(5)));
-            QTest::keyClick(box, Qt::Key_Return);
-        }
-        if (below(3) == 0 && !buttons.empty()) buttons.at(below(buttons.size()))->click();
-        if (auto* rows = form.findChild<QTreeWidget*>("lstViewTill"); rows != nullptr && below(2) == 0) {
-            rows->setCurrentItem(rows->topLevelItem(below(4)));
-            QTest::keyClick(rows, Qt::Key_Delete);
-        }
-        QCoreApplication::processEvents();
-    };
-    int refused = 0;
-    const auto visit = [&](const char* form) {
-        QTimer::singleShot(0, &window, [&] {
-            auto* open = QApplication::activeModalWidget();
-            const int edits = below(5);
-            for (int i = 0; i < edits; ++i) edit(*open);
-            open->close();
-            for (int i = 0; open->isVisible() && i < 20; ++i) {  // the way out of what the guard has refused
-                ++refused;
-                open->findChild<QAction*>("undo")->trigger();
-                QCoreApplication::processEvents();
-                open->close();
-            }
-            ASSERT_FALSE(open->isVisible());
-        });
-        trigger(form);
-    };
-    std::vector<Project> states{project()};
-    for (int i = 0; i < 60; ++i) {
-        visit(std::array{"mnuLoad", "mnuBeam", "mnuSetup"}.at(static_cast<std::size_t>(below(3))));
-        if (!(project() == states.back())) states.push_back(project());
-    }
-    EXPECT_GT(states.size(), 20U);
-    EXPECT_GT(refused, 10);
-    const auto expectStates = [&](const char* action, auto first, auto last) {
-        for (; first != last; ++first) {
-            EXPECT_TRUE(project() == *first) << caption(action);
-            EXPECT_TRUE(accepted(project())) << caption(action);
-            trigger(action);
-        }
-        EXPECT_EQ(caption(action), "");
-    };
-    expectStates("mnuUndo", states.rbegin(), states.rend());
-    expectStates("mnuRedo", states.begin(), states.end());
-}
 
 TEST_F(UndoTest, leadsBackToTheProjectThatWasOpen) {
     questions.toSave.push_back(folder.file("a.brvk"));
