@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "forms/icons.h"
@@ -25,11 +26,26 @@ bool showsInPlace(const TreeNode& node) {
     return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::Notes;
 }
 
+constexpr int kOutOfReach = Qt::UserRole;
+
+/// Greys a node that is out of reach, also when it is the chosen one.
+class NodeDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(kOutOfReach).toBool()) option->state &= ~QStyle::State_Enabled;
+    }
+};
+
 }  // namespace
 
 ResultTreeView::ResultTreeView(const QString& name, QWidget* parent) : QTreeWidget(parent) {
     setObjectName(name);
     setHeaderHidden(true);
+    setItemDelegate(new NodeDelegate(this));
     setUniformRowHeights(true);
     setColumnCount(1);
     setAccessibleName(tr("Input and results"));
@@ -65,9 +81,11 @@ void ResultTreeView::showTree(const TreeNode& root) {
 
 void ResultTreeView::setResultsReachable(bool reachable) {
     for (auto entry = nodes_.cbegin(); entry != nodes_.cend(); ++entry)
-        if (showsResults(*entry.value()))
+        if (showsResults(*entry.value())) {
             entry.key()->setForeground(
                 0, palette().color(reachable ? QPalette::Active : QPalette::Disabled, QPalette::Text));
+            entry.key()->setData(0, kOutOfReach, !reachable);
+        }
 }
 
 QTreeWidgetItem* ResultTreeView::itemOf(const QString& text) const {
