@@ -1,10 +1,13 @@
 #include <QDir>
 #include <QIcon>
+#include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 #include <iostream>
 #include <optional>
 #include <string_view>
 
+#include "forms/dialog_frames.h"
 #include "forms/guarded_application.h"
 #include "forms/help.h"
 #include "forms/main_window.h"
@@ -33,6 +36,12 @@ std::optional<QString> projectArgument(const QStringList& arguments) {
     return files.value(0);
 }
 
+/// Cuts a window to what its screen has room for, its frame included.
+void fitOnScreen(QWidget& window) {
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    window.resize(window.size().boundedTo(window.screen()->availableSize() - QSize(0, title)));
+}
+
 }  // namespace
 
 /// The desktop program. Takes one project file as its argument.
@@ -53,6 +62,8 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon::fromTheme("borvik"));
     WheelGuard wheelGuard;
     application.installEventFilter(&wheelGuard);
+    DialogFrames dialogFrames;
+    application.installEventFilter(&dialogFrames);
 
     QtQuestions questions;
     QtSettings settings;
@@ -65,6 +76,7 @@ int main(int argc, char** argv) {
         Session session(LoadTables(data));
         const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
         MainWindow window(session, {messages, questions, settings, (own + "/recovery").toStdString()});
+        fitOnScreen(window);
         window.show();
         if (!project->isEmpty()) window.openProject(project->toStdString());
         window.offerRecovery();

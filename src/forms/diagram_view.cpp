@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "base/fault.h"
@@ -58,9 +61,8 @@ void DiagramView::setOutOfDate(bool outOfDate) {
 
 void DiagramView::contentChanged() {
     drawn_ = {};
-    mouse_.reset();
-    if (!reading_.isEmpty()) Q_EMIT readingChanged({});
-    reading_.clear();
+    stopReading();
+    setFocusPolicy(diagrams_.empty() ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(title());
     updateGeometry();
     update();
@@ -139,46 +141,155 @@ void DiagramView::paintEvent(QPaintEvent*) {
         painter.resetTransform();
     }
     if (!reading_.isEmpty()) drawReading(painter);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }
 
+/// The values in a box beside the point, on the side that has room for it.
 void DiagramView::drawReading(QPainter& painter) const {
+    constexpr double kAway = 10.0;
+    const Place point = pictureFrame(diagrams_).pointOf(readAt_, width(), height());
     painter.setPen(QPen(QColor(90, 90, 90), 1, Qt::DashLine));
-    painter.drawLine(QPointF(mouse_->x(), 0), QPointF(mouse_->x(), height()));
-    const QSizeF text = fontMetrics().size(Qt::TextSingleLine, reading_) + QSize(10, 6);
-    const double left = std::clamp(mouse_->x() + 8, 0.0, std::max(0.0, width() - text.width()));
-    const QRectF box(QPointF(left, height() - text.height() - 2), text);
+    painter.drawLine(QPointF(point.x, 0), QPointF(point.x, height()));
+    // The place, and below it a line for each value.
+    const QString lines = reading_.section(": ", 0, 0) + '\n' + reading_.section(": ", 1).replace(", ", "\n");
+    const QSizeF text = fontMetrics().size(0, lines) + QSize(12, 8);
+    const double left = point.x + kAway + text.width() <= width() ? point.x + kAway : point.x - kAway - text.width();
+    const double top = point.y - kAway - text.height() >= 0.0 ? point.y - kAway - text.height() : point.y + 2.0 * kAway;
+    const QRectF box(QPointF(std::max(0.0, left), std::clamp(top, 0.0, std::max(0.0, height() - text.height() - 1))),
+                     text);
     painter.setPen(palette().color(QPalette::ToolTipText));
     painter.setBrush(palette().color(QPalette::ToolTipBase));
     painter.drawRect(box);
-    painter.drawText(box, Qt::AlignCenter, reading_);
+    painter.setFont(font());
+    painter.drawText(box.adjusted(6, 4, -6, -4), Qt::AlignLeft | Qt::AlignVCenter, lines);
 }
 
 Place DiagramView::toLogical(QPointF place) const {
     return pictureFrame(diagrams_).placeOf(place.x(), place.y(), std::max(1, width()), std::max(1, height()));
 }
 
-void DiagramView::mouseMoveEvent(QMouseEvent* event) {
-    if (!calculation_) return;
-    constexpr double kSupportReach = 3.0;  // pixels on either side of a support that count as the support
-    const double reach = toLogical({kSupportReach, 0.0}).x - toLogical({0.0, 0.0}).x;
-    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, toLogical(event->position()), reach);
-    mouse_ = event->position();
+void DiagramView::read(Place place, double reach) {
+    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, place, reach);
+    readAt_ = place;
     reading_ = found ? QString::fromStdString(found->text()) : QString();
+    setAccessibleDescription(reading_);
     Q_EMIT readingChanged(reading_);
     update();
 }
 
-void DiagramView::leaveEvent(QEvent*) {
+void DiagramView::stopReading() {
     if (reading_.isEmpty()) return;
     reading_.clear();
+    setAccessibleDescription({});
     Q_EMIT readingChanged({});
     update();
 }
 
+void DiagramView::mouseMoveEvent(QMouseEvent* event) {
+    if (takesClicksAt(event->position())) {
+        setCursor(Qt::PointingHandCursor);
+    } else {
+        unsetCursor();
+    }
+    if (!calculation_) return;
+    constexpr double kSupportReach = 3.0;  // pixels on either side of a support that count as the support
+    read(toLogical(event->position()), toLogical({kSupportReach, 0.0}).x - toLogical({0.0, 0.0}).x);
+}
+
+/// Moves the reading by a key.
+/// @return false for a key that moves nothing
+bool DiagramView::walk(int key, bool bySupports) {
+    const std::vector<double> stops = readingStops(*project_, bySupports);
+    const bool first = reading_.isEmpty();
+    if (stops.empty()) return false;
+    std::size_t shown = 0;
+    std::vector<double> middles;  // of the diagrams, from the top
+    double bottom = 0.0;
+    for (const Diagram diagram : diagrams_) {
+        const double height = diagramHeight(diagram, DiagramMode::Screen);
+        if (readAt_.y > bottom) shown = middles.size();
+        middles.push_back(bottom + height / 2.0);
+        bottom += height;
+    }
+    constexpr double kSame = 1e-6;
+    Place to = first ? Place{stops.front(), middles.front()} : readAt_;
+    const auto next = std::upper_bound(stops.begin(), stops.end(), to.x + kSame);
+    const auto here = std::lower_bound(stops.begin(), stops.end(), to.x - kSame);
+    switch (key) {
+        case Qt::Key_Right:
+            if (!first && next != stops.end()) to.x = *next;
+            break;
+        case Qt::Key_Left:
+            if (here != stops.begin()) to.x = *(here - 1);
+            break;
+        case Qt::Key_Home:
+            to.x = stops.front();
+            break;
+        case Qt::Key_End:
+            to.x = stops.back();
+            break;
+        case Qt::Key_Up:
+            if (!first) to.y = middles[shown == 0 ? 0 : shown - 1];
+            break;
+        case Qt::Key_Down:
+            if (!first) to.y = middles[std::min(shown + 1, middles.size() - 1)];
+            break;
+        default:
+            return false;
+    }
+    read(to, 0.0);
+    const Place point = pictureFrame(diagrams_).pointOf(to, width(), height());
+    Q_EMIT readingMoved(QPointF(point.x, point.y).toPoint());
+    return true;
+}
+
+void DiagramView::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && clickTo_ > clickFrom_) {
+        Q_EMIT clicked();
+    } else if (!calculation_ || !walk(event->key(), event->modifiers().testFlag(Qt::ControlModifier))) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void DiagramView::focusInEvent(QFocusEvent*) {
+    update();
+}
+
+void DiagramView::focusOutEvent(QFocusEvent*) {
+    stopReading();
+    update();
+}
+
+void DiagramView::leaveEvent(QEvent*) {
+    stopReading();
+}
+
+void DiagramView::setClickArea(double from, double to, const QString& tip) {
+    clickFrom_ = from;
+    clickTo_ = to;
+    setToolTip(tip);
+}
+
+bool DiagramView::takesClicksAt(QPointF point) const {
+    const double x = toLogical(point).x;
+    return x >= clickFrom_ && x < clickTo_;
+}
+
+bool DiagramView::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && !takesClicksAt(static_cast<QHelpEvent*>(event)->pos())) {
+        QToolTip::hideText();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void DiagramView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    const Place place = toLogical(event->position());
-    Q_EMIT clicked(place.x, place.y);
+    if (event->button() == Qt::LeftButton && takesClicksAt(event->position())) Q_EMIT clicked();
 }
 
 void DiagramView::contextMenuEvent(QContextMenuEvent* event) {
@@ -189,13 +300,18 @@ void DiagramView::contextMenuEvent(QContextMenuEvent* event) {
     const QAction* copy = menu.addAction(themeIcon("edit-copy", QStyle::SP_FileIcon), tr("Copy picture"));
     const QAction* chosen = menu.exec(event->globalPos());
     if (chosen == save) savePictureAs();
-    if (chosen == copy)
-        QApplication::clipboard()->setImage(
-            renderPicture([this](DrawingSurface& surface) { drawSaved(surface); },
-                          {kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size())}));
+    if (chosen == copy) copyPicture();
+}
+
+void DiagramView::copyPicture() const {
+    if (diagrams_.empty()) return;
+    QApplication::clipboard()->setImage(
+        renderPicture([this](DrawingSurface& surface) { drawSaved(surface); },
+                      {kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size())}));
 }
 
 void DiagramView::savePictureAs() {
+    if (diagrams_.empty()) return;
     const auto path = services_.questions.fileToSave(std::string(diagramName(diagrams_.front())) + ".png",
                                                      "PNG (*.png);;SVG (*.svg)", "png");
     if (!path) return;

@@ -11,8 +11,9 @@
 
 namespace borvik {
 
-/// Shows a picture of diagrams, laid over the whole widget. The mouse reads out values; a context menu saves or copies
-/// the picture.
+/// Shows a picture of diagrams, laid over the whole widget. The mouse and the arrow keys read out values: left and
+/// right go from point to point, with Ctrl from support to support, up and down to the next diagram. A context menu
+/// saves or copies the picture.
 class DiagramView : public QWidget {
     Q_OBJECT
 
@@ -32,18 +33,29 @@ public:
     [[nodiscard]] bool outOfDate() const { return outOfDate_; }
     [[nodiscard]] Place toLogical(QPointF place) const;
 
+    /// Between two units across a click, or Enter anywhere, does something.
+    /// @param tip  what it does; shown there only
+    void setClickArea(double from, double to, const QString& tip);
+
     void savePictureAs();
+    void copyPicture() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// A click, in logical units.
-    void clicked(double x, double y);
-    /// What stands under the mouse; empty where nothing does.
+    /// A click in the area for it, or Enter.
+    void clicked();
+    /// What stands under the mouse or was reached by the keys; empty where nothing does.
     void readingChanged(const QString& text);
+    /// The keys have moved the reading to this point of the widget.
+    void readingMoved(QPoint to);
 
 protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -52,6 +64,10 @@ protected:
 
 private:
     void contentChanged();
+    void read(Place place, double reach);
+    void stopReading();
+    bool walk(int key, bool bySupports);
+    [[nodiscard]] bool takesClicksAt(QPointF point) const;
     void draw(DrawingSurface& surface) const;
     void drawNotice(DrawingSurface& surface) const;
     void drawSaved(DrawingSurface& surface) const;
@@ -65,8 +81,9 @@ private:
     CalculationPtr calculation_;
     bool outOfDate_ = false;
     QPixmap drawn_;  ///< the picture without the read-out; null when it has to be drawn anew
-    std::optional<QPointF> mouse_;
+    Place readAt_{};
     QString reading_;
+    double clickFrom_ = 0.0, clickTo_ = 0.0;  ///< units across
 };
 
 }  // namespace borvik

@@ -31,7 +31,7 @@ constexpr double kBarGap = 0.14;
 constexpr double kOverlineGap = 0.09;
 constexpr double kRootGap = 0.12;
 constexpr double kLimitGap = 0.1;
-constexpr double kScriptGap = 0.15;
+constexpr double kScriptGap = 0.22;
 
 // Shifts of baselines, in em.
 constexpr double kPowerRise = 0.42;

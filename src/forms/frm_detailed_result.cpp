@@ -2,8 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "forms/printing.h"
 
@@ -37,7 +39,6 @@ FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent
     splitter->addWidget(tree_);
     splitter->addWidget(pane_);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({220, 700});
     splitter->setChildrenCollapsible(false);
 
     cmdDetailedResult_ = new QPushButton("Export to Excel");
@@ -53,14 +54,35 @@ FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(splitter, 1);
     layout->addLayout(buttons);
-    resize(generousSize(parent));
     connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::showNode);
+
+    // Wide enough for the widest table, where the screen is.
+    constexpr int kTreeWidth = 220, kMargins = 40;
+    const TreeNode nodes = detailedTree(calculation_->project);
+    const int table = widestTable(nodes);
+    const QSize size = generousSize(parent);
+    const int most = screen()->availableSize().width() - kMargins;
+    resize(std::max(size.width(), std::min(kTreeWidth + table + kMargins, most)), size.height());
+    splitter->setSizes({kTreeWidth, width() - kTreeWidth});
+    if (const TreeNode* first = findNode(nodes, "MyVz max/min")) showNode(*first);
+}
+
+int FrmDetailedResult::widestTable(const TreeNode& node) const {
+    int widest = 0;
+    if (const TableEntry* entry = findTable(node.name)) {
+        pane_->list()->showTable(entry->fill(calculation_->project, calculation_->results));
+        widest = pane_->list()->wantedWidth();
+    }
+    for (const TreeNode& child : node.children) widest = std::max(widest, widestTable(child));
+    return widest;
 }
 
 void FrmDetailedResult::showNode(const TreeNode& node) {
-    if (node.needsLoadsY && !calculation_->project.HasLoadsY) return;
     const TableEntry* entry = findTable(node.name);
     if (entry == nullptr) return;
+    if (!node.needsLoadsY || calculation_->project.HasLoadsY) shown_ = QString::fromStdString(node.text);
+    tree_->setCurrentItem(tree_->itemOf(shown_));
+    if (shown_.toStdString() != node.text) return;  // without horizontal loads there is nothing to show
     pane_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
     cmdDetailedResult_->setEnabled(canExportTable());
 }

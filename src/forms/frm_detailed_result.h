@@ -18,10 +18,12 @@ public:
 
 private:
     void showNode(const TreeNode& node);
+    [[nodiscard]] int widestTable(const TreeNode& node) const;
 
     CalculationPtr calculation_;
     ResultTreeView* tree_;
     ResultTablePane* pane_;
+    QString shown_;  ///< the node of the table that is shown
     QPushButton* cmdDetailedResult_;
 };
 

@@ -1,12 +1,13 @@
 #include "forms/help_library.h"
 
 #include <QFile>
-#include <QImageReader>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextTable>
 #include <algorithm>
+#include <cmath>
 
 #include "forms/formula_object.h"
 
@@ -14,8 +15,7 @@ namespace borvik {
 
 namespace {
 
-constexpr int kPictureWidth = 640;  // pixels; wider pictures are shown at this width
-constexpr int kTitleWeight = 100;   // a word in the title outweighs as many in the text
+constexpr int kTitleWeight = 100;  // a word in the title outweighs as many in the text
 
 // Formulas wait between two private characters while the rest is read as Markdown.
 constexpr char16_t kFormulaStart = 0xE000;
@@ -59,23 +59,6 @@ void putFormulasBack(QTextDocument& document, const QStringList& formulas) {
     }
 }
 
-void fitPictures(QTextDocument& document, const QDir& folder) {
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
-            if (!picture.isValid()) continue;
-            const int width = QImageReader(folder.absoluteFilePath(picture.name())).size().width();
-            if (width <= kPictureWidth) continue;
-            picture.setWidth(kPictureWidth);
-            QTextCursor at(&document);
-            at.setPosition(part.fragment().position());
-            at.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
-            at.setCharFormat(picture);
-            break;  // the fragments are new now; a picture stands in a paragraph of its own
-        }
-    }
-}
-
 void frameTables(QTextDocument& document) {
     const auto frames = document.rootFrame()->childFrames();
     for (QTextFrame* frame : frames) {
@@ -101,7 +84,7 @@ qsizetype occurrences(const QString& text, const QString& word) {
 
 }  // namespace
 
-void setManualText(QTextDocument& document, const QString& markdown, const QDir& folder) {
+void setManualText(QTextDocument& document, const QString& markdown) {
     QStringList formulas;
     if (document.findChild<FormulaObject*>() == nullptr) new FormulaObject(document);
     QTextCursor whole(&document);
@@ -110,9 +93,33 @@ void setManualText(QTextDocument& document, const QString& markdown, const QDir&
     whole.endEditBlock();
     whole.beginEditBlock();  // now tables are known
     putFormulasBack(document, formulas);
-    fitPictures(document, folder);
     frameTables(document);
     whole.endEditBlock();
+}
+
+void fitPictures(QTextDocument& document, const QDir& folder, int width, double density) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
+            if (!picture.isValid()) continue;
+            const QImage full(folder.absoluteFilePath(picture.name()));
+            if (full.isNull()) continue;
+            const double shown = std::min(width, full.width());
+            const double height = std::round(shown * full.height() / full.width());
+            const QSize pixels = (QSizeF(shown, height) * density).toSize();
+            document.addResource(QTextDocument::ImageResource, QUrl(picture.name()),
+                                 pixels.width() < full.width()
+                                     ? full.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                     : full);
+            picture.setWidth(shown);
+            picture.setHeight(height);
+            QTextCursor at(&document);
+            at.setPosition(part.fragment().position());
+            at.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
+            at.setCharFormat(picture);
+            break;  // the fragments are new now; a picture stands in a paragraph of its own
+        }
+    }
 }
 
 HelpLibrary::HelpLibrary(const QString& folder) : folder_(folder) {
@@ -160,7 +167,7 @@ QList<HelpText> HelpLibrary::search(const QString& words) const {
 bool HelpLibrary::show(const QString& file, QTextDocument& document) const {
     const QString path = folder_.filePath(file);
     const QString markdown = textOf(path);
-    setManualText(document, markdown, QFileInfo(path).dir());
+    setManualText(document, markdown);
     return !markdown.isEmpty();
 }
 

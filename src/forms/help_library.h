@@ -28,7 +28,7 @@ public:
     /// first: words in the title count most, then those that stand often.
     [[nodiscard]] QList<HelpText> search(const QString& words) const;
 
-    /// Fills a document with a page: formulas typeset, pictures no wider than a page.
+    /// Fills a document with a page, formulas typeset.
     /// @return false when the file can't be read
     bool show(const QString& file, QTextDocument& document) const;
 
@@ -39,7 +39,11 @@ private:
 };
 
 /// Fills a document from Markdown with formulas between dollar signs.
+void setManualText(QTextDocument& document, const QString& markdown);
+
+/// Gives the pictures of a document their own size, those that are wider the given width.
 /// @param folder  from which pictures are found
-void setManualText(QTextDocument& document, const QString& markdown, const QDir& folder);
+/// @param width   in pixels of the document; those of the screen are `density` times as many
+void fitPictures(QTextDocument& document, const QDir& folder, int width, double density);
 
 }  // namespace borvik

@@ -1,18 +1,17 @@
 #include "forms/help_window.h"
 
+#include <QApplication>
 #include <QDesktopServices>
-#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QStyle>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
-#include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
-#include "forms/formula_object.h"
+#include "forms/help_page_view.h"
 
 namespace borvik {
 
@@ -26,20 +25,6 @@ QTreeWidgetItem* itemOf(const QTreeWidget* tree, const QString& file) {
         if ((*at)->data(0, kFileRole).toString() == file) return *at;
     return nullptr;
 }
-
-/// The page. What is copied from it has its formulas as text.
-class PageView : public QTextBrowser {
-protected:
-    QMimeData* createMimeDataFromSelection() const override {
-        QTextDocument copied;
-        QTextCursor(&copied).insertFragment(textCursor().selection());
-        putFormulasOnOneLine(copied);
-        auto* copy = new QMimeData;
-        copy->setText(copied.toPlainText());
-        copy->setHtml(copied.toHtml());
-        return copy;
-    }
-};
 
 }  // namespace
 
@@ -61,15 +46,16 @@ void HelpWindow::buildLayout() {
     bar->addAction(tr("Print"), this, &HelpWindow::print)->setShortcut(QKeySequence::Print);
     auto* close = new QAction(this);
     close->setShortcut(Qt::Key_Escape);
-    connect(close, &QAction::triggered, this, &QWidget::close);
-    auto* find = new QAction(this);
-    find->setShortcut(QKeySequence::Find);
-    connect(find, &QAction::triggered, this, &HelpWindow::goToSearch);
-    addActions({close, find});
+    connect(close, &QAction::triggered, this, &HelpWindow::escape);
+    auto* search = new QAction(this);
+    search->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+    connect(search, &QAction::triggered, this, &HelpWindow::goToSearch);
+    addActions({close, search});
+    buildFinder(bar);
 
     search_ = new QLineEdit;
     search_->setObjectName("helpSearch");
-    search_->setPlaceholderText(tr("Search"));
+    search_->setPlaceholderText(tr("Search all pages (Ctrl+Shift+F)"));
     search_->setClearButtonEnabled(true);
     connect(search_, &QLineEdit::textChanged, this, &HelpWindow::fillContents);
     connect(search_, &QLineEdit::returnPressed, this, [this] {
@@ -84,7 +70,7 @@ void HelpWindow::buildLayout() {
         const QString file = item->data(0, kFileRole).toString();
         if (!file.isEmpty()) showPage(file);
     });
-    page_ = new PageView;
+    page_ = new HelpPageView;
     page_->setObjectName("helpPage");
     page_->setOpenLinks(false);
     page_->document()->setDocumentMargin(16);
@@ -104,6 +90,84 @@ void HelpWindow::buildLayout() {
     layout->setContentsMargins(6, 0, 6, 6);
     layout->addWidget(bar);
     layout->addWidget(halves, 1);
+}
+
+/// The search in the page: a box, its neighbours and how many there are.
+void HelpWindow::buildFinder(QToolBar* bar) {
+    auto* room = new QWidget;
+    room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    found_ = new QLabel;
+    found_->setObjectName("helpFound");
+    found_->setMargin(6);
+    find_ = new QLineEdit;
+    find_->setObjectName("helpFind");
+    find_->setPlaceholderText(tr("Find in page (Ctrl+F)"));
+    find_->setClearButtonEnabled(true);
+    find_->setMaximumWidth(220);
+    bar->addWidget(room);
+    bar->addWidget(found_);
+    bar->addWidget(find_);
+    QAction* previous = bar->addAction(style()->standardIcon(QStyle::SP_ArrowUp), tr("Previous (Shift+F3)"), this,
+                                       [this] { goToHit(-1); });
+    previous->setShortcut(QKeySequence::FindPrevious);
+    QAction* next =
+        bar->addAction(style()->standardIcon(QStyle::SP_ArrowDown), tr("Next (F3)"), this, [this] { goToHit(1); });
+    next->setShortcut(QKeySequence::FindNext);
+    auto* find = new QAction(this);
+    find->setShortcut(QKeySequence::Find);
+    connect(find, &QAction::triggered, this, [this] {
+        find_->setFocus(Qt::ShortcutFocusReason);
+        find_->selectAll();
+    });
+    addAction(find);
+    connect(find_, &QLineEdit::textChanged, this, &HelpWindow::markHits);
+    connect(find_, &QLineEdit::returnPressed, this,
+            [this] { goToHit(QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier) ? -1 : 1); });
+}
+
+/// Looks for the words in the page anew.
+void HelpWindow::markHits() {
+    const QString words = find_->text();
+    hits_.clear();
+    hit_ = -1;
+    if (!words.isEmpty())
+        for (QTextCursor at = page_->document()->find(words); !at.isNull(); at = page_->document()->find(words, at))
+            hits_.append(at);
+    goToHit(0);
+}
+
+/// Shows another hit, the last beside the first. @param step  0 only marks them, and shows the first after new words
+void HelpWindow::goToHit(int step) {
+    const int count = static_cast<int>(hits_.size());
+    if (count > 0 && (step != 0 || (hit_ < 0 && find_->hasFocus()))) {
+        hit_ = (std::max(hit_, step < 0 ? 0 : -1) + (step == 0 ? 1 : step) + count) % count;
+        QTextCursor shown = hits_[hit_];
+        shown.setPosition(shown.selectionStart());
+        page_->setTextCursor(shown);
+        page_->ensureCursorVisible();
+    }
+    QList<QTextEdit::ExtraSelection> marks;
+    for (int i = 0; i < count; ++i) {
+        QTextEdit::ExtraSelection mark{hits_[i], {}};
+        mark.format.setBackground(i == hit_ ? QColor(0xff, 0xa6, 0x33) : QColor(0xff, 0xee, 0x88));
+        mark.format.setForeground(Qt::black);
+        marks.append(mark);
+    }
+    page_->setExtraSelections(marks);
+    found_->setText(find_->text().isEmpty() ? QString()
+                    : count == 0            ? tr("Not in this page")
+                    : hit_ < 0              ? tr("%1 places").arg(count)
+                                            : tr("%1 of %2").arg(hit_ + 1).arg(count));
+}
+
+/// Escape ends the search in the page, and then the help.
+void HelpWindow::escape() {
+    if (find_->text().isEmpty()) {
+        close();
+        return;
+    }
+    find_->clear();
+    page_->setFocus();
 }
 
 /// The table of contents, or with words to search for the pages found, best first.
@@ -179,7 +243,9 @@ void HelpWindow::display() {
     page_->setSearchPaths({QFileInfo(library_.folder().filePath(file)).absolutePath()});
     if (!library_.show(file, *page_->document()))
         page_->setPlainText(tr("The page %1 is missing.").arg(library_.folder().filePath(file)));
+    page_->fitPicturesToPage(true);
     page_->moveCursor(QTextCursor::Start);
+    markHits();
     const QSignalBlocker still(contents_);
     contents_->setCurrentItem(itemOf(contents_, file));
     setWindowTitle(tr("Borvik Help") +
@@ -190,6 +256,7 @@ void HelpWindow::display() {
 
 void HelpWindow::print() {
     QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(windowTitle());  // and so the name proposed for a file
     if (QPrintDialog(&printer, this).exec() == QDialog::Accepted) page_->document()->print(&printer);
 }
 

@@ -29,8 +29,8 @@ void drawSign(QPainter& painter, const QColor& colour) {
 }
 
 /// Draws on a field of 16 by 16.
-void draw(QPainter& painter, Picture picture) {
-    painter.setPen(QPen(kInk, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+void draw(QPainter& painter, Picture picture, const QColor& ink) {
+    painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     switch (picture) {
         case Picture::Form:
             painter.drawRoundedRect(QRectF(2, 2, 12, 12), 1.5, 1.5);
@@ -52,6 +52,11 @@ void draw(QPainter& painter, Picture picture) {
             painter.drawPath(curve);
             break;
         }
+        case Picture::Printer:
+            painter.drawRect(QRectF(4.5, 2, 7, 4));
+            painter.drawRoundedRect(QRectF(1.5, 6, 13, 5.5), 1, 1);
+            painter.drawRect(QRectF(4.5, 9.5, 7, 4.5));
+            break;
         case Picture::OverLimit: drawSign(painter, kFail); break;
         case Picture::OutOfDate: drawSign(painter, kWarning); break;
         case Picture::Good:
@@ -71,7 +76,9 @@ public:
         if (mode == QIcon::Disabled) painter->setOpacity(0.4);
         painter->translate(rect.topLeft());
         painter->scale(rect.width() / 16.0, rect.height() / 16.0);
-        draw(*painter, picture_);
+        // On the bar of a chosen row or menu entry, blue like the ink, the picture takes the colour of the words.
+        const bool chosen = mode == QIcon::Selected || mode == QIcon::Active;
+        draw(*painter, picture_, chosen ? QApplication::palette().color(QPalette::HighlightedText) : kInk);
         painter->restore();
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {

@@ -6,7 +6,7 @@
 namespace borvik {
 
 /// What the program's own small pictures stand for.
-enum class Picture { Form, Table, Diagram, OverLimit, OutOfDate, Good };
+enum class Picture { Form, Table, Diagram, Printer, OverLimit, OutOfDate, Good };
 
 /// Drawn for the density of the screen, readable on light and dark ground.
 [[nodiscard]] QIcon pictureIcon(Picture picture);

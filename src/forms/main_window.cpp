@@ -1,5 +1,6 @@
 #include "forms/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QGridLayout>
@@ -52,6 +53,10 @@ MainWindow::MainWindow(Session& session, const Services& services, QWidget* pare
     WritefrmInput();
 }
 
+MainWindow::~MainWindow() {
+    disconnect(qApp, nullptr, this, nullptr);  // the focus leaves one widget after another while they go
+}
+
 void MainWindow::buildCentre() {
     auto* right = new QSplitter(Qt::Vertical);
     right->setObjectName("splitterResults");
@@ -64,8 +69,8 @@ void MainWindow::buildCentre() {
     centre->setObjectName("splitterMain");
     centre->addWidget(inputColumn());
     centre->addWidget(right);
-    centre->setStretchFactor(0, 0);
-    centre->setStretchFactor(1, 1);
+    centre->setStretchFactor(0, 1);  // on a wide screen long names get some of the room
+    centre->setStretchFactor(1, 8);
     centre->setChildrenCollapsible(false);
     centre->setContentsMargins(6, 6, 6, 0);
     setCentralWidget(centre);
@@ -117,17 +122,16 @@ QWidget* MainWindow::inputColumn() {
 QWidget* MainWindow::pictureFrame() {
     picBalk_ = new DiagramView(services_);
     picBalk_->setObjectName("picBalk");
-    picBalk_->setToolTip(tr("A click opens the loads"));
-    connect(picBalk_, &DiagramView::clicked, this, [this](double x) {
-        if (x >= 100.0 && x < 800.0) openForm("Loads");
-    });
+    picBalk_->setClickArea(100.0, 800.0, tr("A click opens the loads"));
+    connect(picBalk_, &DiagramView::clicked, this, [this] { openForm("Loads"); });
     picRes_ = new DiagramView(services_);
     picRes_->setObjectName("picRes");
-    connect(picRes_, &DiagramView::readingChanged, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
     auto* scrolled = new QScrollArea;  // several diagrams below each other keep a legible height
     scrolled->setWidgetResizable(true);
     scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);  // the picture in it has the focus
+    connect(picRes_, &DiagramView::readingMoved, scrolled,
+            [scrolled](QPoint to) { scrolled->ensureVisible(to.x(), to.y(), 50, 120); });
     scrolled->setWidget(picRes_);
     auto* pictures = new QSplitter(Qt::Vertical);
     pictures->setObjectName("splitterPictures");

@@ -38,6 +38,7 @@ class MainWindow : public QMainWindow {
 public:
     /// @param session, services  must outlive the window
     MainWindow(Session& session, const Services& services, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     /// Refreshes everything that shows the project. Runs each time the window is activated, so that every closed input
     /// form is reflected.
@@ -86,6 +87,7 @@ private:
     void buildRecentEntries(QMenu* menu);
     void buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4],
                            PrintCommand command);
+    DiagramView& chosenPicture();
 
     // Projects
     void newProject();
@@ -151,6 +153,8 @@ private:
     ResultTreeView* tree_ = nullptr;
     DiagramView* picBalk_ = nullptr;
     DiagramView* picRes_ = nullptr;
+    bool sketchChosen_ = false;  ///< picBalk has the focus, or had it before a menu took it
+    QString chosenNode_;         ///< the tree's node of what was chosen last to be seen
     ResultTablePane* results_ = nullptr;
     QPushButton* cmdCalc_ = nullptr;
     QAction* undo_ = nullptr;

@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStatusBar>
 
 #include "forms/frm_about.h"
 #include "forms/help.h"
@@ -43,6 +45,7 @@ QMenu* MainWindow::menu(QMenu* parent, const char* name, const char* caption) {
 }
 
 void MainWindow::buildRecentEntries(QMenu* menu) {
+    menu->setToolTipsVisible(true);  // the whole path of an entry that is cut
     recentSeparator_ = menu->addSeparator();
     recentSeparator_->setObjectName("mnuMRU0");
     for (int i = 0; i < RescentFile::kEntries; ++i) {
@@ -70,15 +73,21 @@ void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], c
                                    PrintCommand command) {
     for (int i = 0; i < 4; ++i) {
         const int scope = i + 1;
-        fill(menu,
-             {{names[i], captions[i], {}, themeIcon("document-print", QStyle::SP_FileIcon), [this, scope, command] {
-                   print(scope, command);
-               }}});
+        fill(menu, {{names[i],
+                     captions[i],
+                     {},
+                     QIcon::fromTheme("document-print", pictureIcon(Picture::Printer)),
+                     [this, scope, command] { print(scope, command); }}});
         if (!canPrint()) {
             menu->actions().constLast()->setEnabled(false);
             menu->actions().constLast()->setStatusTip(tr("This version can't print"));
         }
     }
+}
+
+/// The picture that the menu's commands are for: the sketch where it has the focus or stands alone, else the results.
+DiagramView& MainWindow::chosenPicture() {
+    return sketchChosen_ || picRes_->diagrams().empty() ? *picBalk_ : *picRes_;
 }
 
 void MainWindow::buildMenus() {
@@ -134,6 +143,19 @@ void MainWindow::buildMenus() {
     QAction* calc = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
     calc->setObjectName("mnuCalc");
     calc->setShortcut(Qt::Key_F5);
+
+    fill(menu(nullptr, "mnuDiagram", "&Diagram"),
+         {{"mnuSavePicture", "&Save picture...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+           themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { chosenPicture().savePictureAs(); }},
+          {"mnuCopyPicture", "&Copy picture", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+           themeIcon("edit-copy", QStyle::SP_FileIcon), [this] {
+               chosenPicture().copyPicture();
+               statusBar()->showMessage(tr("Copied: %1").arg(chosenPicture().accessibleName()), 4000);
+           }}});
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        const bool inMenu = now == menuBar() || qobject_cast<const QMenu*>(now) != nullptr;
+        if (now != nullptr && !inMenu) sketchChosen_ = now == picBalk_;
+    });
 
     QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
     buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},

@@ -10,6 +10,7 @@ namespace borvik {
 namespace {
 
 constexpr const char* kPattern = "*.brvk";
+constexpr int kWidestEntry = 480;  // pixels; longer paths of recent files are cut in their middle
 
 /// The recent list holds full paths, so that an entry still leads to its file from another folder.
 std::string fullPath(const std::string& path) {
@@ -26,8 +27,11 @@ void MainWindow::ShowRecentFiles() {
         const bool has = i < static_cast<int>(captions.size());
         QAction* entry = recentEntries_[i];
         entry->setVisible(has);
-        if (has)  // a "&" of the path is no mnemonic
-            entry->setText(QString::fromStdString(captions[static_cast<std::size_t>(i)]).replace("&", "&&"));
+        if (!has) continue;
+        const QString caption = QString::fromStdString(captions[static_cast<std::size_t>(i)]);
+        const QString cut = fontMetrics().elidedText(caption, Qt::ElideMiddle, kWidestEntry);
+        entry->setText(QString(cut).replace("&", "&&"));  // a "&" of the path is no mnemonic
+        entry->setToolTip(QString::fromStdString(RescentFile::pathOf(caption.toStdString())));
     }
 }
 

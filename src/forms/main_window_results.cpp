@@ -167,6 +167,7 @@ void MainWindow::calculate() {
     showState();
     picBalk_->showSketch(session_.project);
     picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
+    chosenNode_ = "My + Vz";
     showTable("Summary");
     showGoverning();
     const std::string fault = LoadRemark(session_.project);
@@ -191,15 +192,20 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
         return;
     }
     const bool nothingThere = node.needsLoadsY && !session_.project.HasLoadsY;
-    if (byWalking && (!session_.Calculated || nothingThere)) return;
+    if (byWalking && (!session_.Calculated || nothingThere)) {
+        if (session_.Calculated) statusBar()->showMessage(kNoLoadsY, 6000);
+        return;
+    }
     if (!session_.Calculated) {
         services_.messages.show(kCalculateFirst);
         return;
     }
     if (nothingThere) {
         services_.messages.show(kNoLoadsY);
+        tree_->setCurrentItem(tree_->itemOf(chosenNode_));  // what is still shown
         return;
     }
+    if (node.opens != NodeOpens::DetailedResults) chosenNode_ = QString::fromStdString(node.text);
     switch (node.opens) {
         case NodeOpens::Table:
             showTable(node.name);

@@ -17,6 +17,7 @@ namespace {
 /// A text that is there already, or is just being typed, is left alone; a new one is shown from its beginning.
 void showName(QLineEdit* box, const std::string& name) {
     const QString text = QString::fromStdString(name);
+    box->setToolTip(text + (text.isEmpty() ? "" : "\n") + box->whatsThis());  // a long name is cut in its box
     if (box->text() == text || (box->hasFocus() && box->isModified())) return;
     box->setText(text);
     box->setCursorPosition(0);
@@ -42,10 +43,10 @@ ProjectPanel::ProjectPanel(Session& session, Messages& messages, QWidget* parent
 QWidget* ProjectPanel::namesBox() {
     iproj_ = new QLineEdit;
     iproj_->setObjectName("iproj");
-    iproj_->setToolTip(tr("Title of the project, stands in the head of the report"));
+    iproj_->setWhatsThis(tr("Title of the project, stands in the head of the report"));
     iident_ = new QLineEdit;
     iident_->setObjectName("iident");
-    iident_->setToolTip(tr("Identification of the girder"));
+    iident_->setWhatsThis(tr("Identification of the girder"));
     for (QLineEdit* box : {iproj_, iident_}) box->installEventFilter(this);
     auto* names = new QWidget;
     auto* form = new QFormLayout(names);

@@ -130,6 +130,12 @@ int ResultTableView::contentWidth(int column) const {
     return width;
 }
 
+int ResultTableView::wantedWidth() const {
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < model_.columnCount(); ++column) width += contentWidth(column);
+    return width;
+}
+
 /// Gives each column what its texts need. Where that is too much for the window and the widest one can give way without
 /// becoming unreadable, it does; else the list scrolls. Where there is room to spare all get some of it.
 void ResultTableView::fitColumns() {

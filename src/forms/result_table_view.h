@@ -28,6 +28,8 @@ public:
     [[nodiscard]] QString wholeText() const;
     /// Makes a row the current one, in view.
     void selectRow(int row);
+    /// Width in which every column of the table has what its texts need.
+    [[nodiscard]] int wantedWidth() const;
 
 Q_SIGNALS:
     /// A double click on a row, or Enter on it. Counts from 0.

@@ -176,6 +176,10 @@ Place PictureFrame::placeOf(double x, double y, double width, double height) con
     return {left + x / width * (right - left), top + y / height * (bottom - top)};
 }
 
+Place PictureFrame::pointOf(Place place, double width, double height) const {
+    return {(place.x - left) / (right - left) * width, (place.y - top) / (bottom - top) * height};
+}
+
 void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data) {
     const auto [left, top, right, bottom] = pictureFrame(diagrams);
     surface.scale(left, top, right, bottom);
@@ -231,6 +235,21 @@ std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, con
     if (support > 1) read(support - 1, data.project.Span(support - 1));
     if (support <= last) read(support, 0.0);
     return reading;
+}
+
+std::vector<double> readingStops(const Project& project, bool supportsOnly) {
+    constexpr int kParts = 20;
+    double total = 0.0, start = 0.0;
+    for (int span = 1; span <= project.NofSpans; ++span) total += project.Span(span);
+    if (total <= 0.0) return {};
+    std::vector<double> stops{50.0};
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const double length = project.Span(span);
+        for (int part = supportsOnly ? kParts : 1; part <= kParts; ++part)
+            stops.push_back(50.0 + 900.0 * (start + length * part / kParts) / total);
+        start += length;
+    }
+    return stops;
 }
 
 std::string DiagramReading::text() const {

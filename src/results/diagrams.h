@@ -83,6 +83,8 @@ struct PictureFrame {
     double left, top, right, bottom;
     /// The logical place of a point of a surface. @param width, height  of the surface, in the units of the point
     [[nodiscard]] Place placeOf(double x, double y, double width, double height) const;
+    /// The point of a surface that shows a logical place: the inverse of placeOf.
+    [[nodiscard]] Place pointOf(Place place, double width, double height) const;
 };
 [[nodiscard]] PictureFrame pictureFrame(std::span<const Diagram> diagrams);
 
@@ -111,5 +113,10 @@ struct DiagramReading {
 /// @return nothing left and right of the beam, or without results
 [[nodiscard]] std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data,
                                                         Place place, double reach = 0.0);
+
+/// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each
+/// span.
+/// @return nothing for a beam without length
+[[nodiscard]] std::vector<double> readingStops(const Project& project, bool supportsOnly);
 
 }  // namespace borvik

@@ -139,7 +139,7 @@ TEST(FormulaObject, writtenOnOneLineIsTheTextOfTheWholeFormula) {
 TEST(FormulaObject, aLineIsHighEnoughForTheFormulaInIt) {
     const QString tex = "\\frac{f_{yk}}{\\sum_{i} W}";
     QTextDocument document;
-    setManualText(document, "a $" + tex + "$ b", QDir());
+    setManualText(document, "a $" + tex + "$ b");
     document.setTextWidth(400);
     const QTextLine line = document.begin().layout()->lineAt(0);
     const FormulaBox box = layFormula(readFormula(tex), document.defaultFont(), nullptr, FormulaStyle::Inline);

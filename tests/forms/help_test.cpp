@@ -9,6 +9,7 @@
 #include <QImageReader>
 #include <QMimeData>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTest>
 #include <functional>
@@ -90,7 +91,7 @@ TEST(HelpLibrary, aMissingFolderHasNoPages) {
 
 TEST(ManualText, formulasAreSetAndCodeIsLeftAlone) {
     QTextDocument document;
-    setManualText(document, "Take $\\bar\\lambda_{LT}$ of `$HOME`:\n\n$$\\frac{W f_{yk}}{M_{cr}}$$\n", QDir());
+    setManualText(document, "Take $\\bar\\lambda_{LT}$ of `$HOME`:\n\n$$\\frac{W f_{yk}}{M_{cr}}$$\n");
     EXPECT_EQ(plain(document), "Take λ\u0304LT of $HOME:\n(Wfyk)/Mcr");
 }
 
@@ -246,6 +247,36 @@ TEST_F(HelpInTheProgram, theMenuOpensContentsSearchAndTheory) {
     EXPECT_EQ(contents->topLevelItem(0)->text(0), "Reinforcement");
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_EQ(help->currentPage(), "reinforcement.md");
+}
+
+TEST_F(HelpInTheProgram, thePageIsSearchedAndItsPicturesFitIt) {
+    HelpWindow help(kFolder, nullptr);
+    help.setAttribute(Qt::WA_DeleteOnClose, false);
+    help.show();
+    help.showPage("rail.md");
+    auto* page = help.findChild<QTextBrowser*>("helpPage");
+    const auto found = [&] { return help.findChild<QLabel*>("helpFound")->text().toStdString(); };
+    auto* find = help.findChild<QLineEdit*>("helpFind");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+    find->setFocus();
+    QTest::keyClicks(find, "rail");
+    const auto marks = page->extraSelections().size();
+    ASSERT_GT(marks, 2);
+    EXPECT_EQ(found(), "1 of " + std::to_string(marks));
+    QTest::keyClick(find, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(found(), std::to_string(marks) + " of " + std::to_string(marks)) << "round to the last one";
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(found(), "1 of " + std::to_string(marks));
+    find->setText("xyzzy");
+    EXPECT_EQ(found(), "Not in this page");
+    QTest::keyClick(&help, Qt::Key_Escape);
+    EXPECT_TRUE(help.isVisible() && find->text().isEmpty()) << "the first Escape ends the search only";
+
+    for (const int width : {700, 1500}) {
+        help.resize(width, 700);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(page->horizontalScrollBar()->isVisible()) << width;
+    }
 }
 
 TEST_F(HelpInTheProgram, whatIsCopiedHasItsFormulasAsText) {

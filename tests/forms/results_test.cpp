@@ -67,101 +67,101 @@ TEST_F(ResultsTest, aCalculationShowsSketchDiagramAndSummary) {
             << "one crane needs no progress window";
 }
 
-TEST_F(ResultsTest, everyNodeShowsItsTableOrPicture) {
+TEST_F(ResultsTest, everyNodeShowsWhatItNamesWhileTheResultsStand) {
     openExample("turbine-hall-tandem-lift.brvk");
     calculate();
-    const std::pair<const char*, const char*> tables[] = {{"ULS + SLS", "FLS - Fatigue Control"},
-                                                          {"ULS", "SLS - Deflection Control"}};
-    const auto hasRow = [this](const char* text) {
+    const auto hasRow = [this](const std::string& text) {
         const auto& rows = list().table().rows;
         return std::any_of(rows.begin(), rows.end(), [&](const auto& row) { return row.at(0).text == text; });
     };
-    for (const auto& [node, absent] : tables) {
+    struct Shown {
+        const char *node, *picture, *row, *noRow;
+    };
+    const Shown nodes[] = {{"ULS + SLS", "", "SLS - Deflection Control", "FLS - Fatigue Control"},
+                           {"ULS", "", "", "SLS - Deflection Control"},
+                           {"ULS + SLS + FLS", "", "FLS - Fatigue  Control", ""},
+                           {"Summary", "", "SLS - Deflection Control", ""},
+                           {"My + Vz", "MyVz", "", ""},
+                           {"Mz + Vy", "MzVy", "", ""},
+                           {"Uz + Uy", "Uz", "", ""},
+                           {"Cr1-Point 1", "Cr1Sp1", "", ""},
+                           {"Cr1-Point 2", "Cr1Sp2", "", ""},
+                           {"Cr1-Point 3", "Cr1Sp3", "", ""},
+                           {"Cr2-Point 1", "Cr2Sp1", "", ""},
+                           {"Cr2-Point 2", "Cr2Sp2", "", ""},
+                           {"Cr2-Point 3", "Cr2Sp3", "", ""},
+                           {"Reactions", "CrRz", "", ""},
+                           {"Notes", "", "", ""}};
+    for (const auto& [node, picture, row, noRow] : nodes) {
+        SCOPED_TRACE(node);
         clickNode(node);
-        EXPECT_FALSE(hasRow(absent)) << node;
-    }
-    clickNode("ULS + SLS + FLS");
-    EXPECT_TRUE(hasRow("FLS - Fatigue  Control"));
-    clickNode("Summary");
-    EXPECT_TRUE(hasRow("SLS - Deflection Control"));
-
-    const std::pair<const char*, const char*> pictures[] = {
-        {"My + Vz", "MyVz"},       {"Mz + Vy", "MzVy"},       {"Uz + Uy", "Uz"},         {"Cr1-Point 1", "Cr1Sp1"},
-        {"Cr1-Point 2", "Cr1Sp2"}, {"Cr1-Point 3", "Cr1Sp3"}, {"Cr2-Point 1", "Cr2Sp1"}, {"Cr2-Point 2", "Cr2Sp2"},
-        {"Cr2-Point 3", "Cr2Sp3"}, {"Reactions", "CrRz"}};
-    for (const auto& [node, picture] : pictures) {
-        clickNode(node);
-        EXPECT_EQ(picRes().diagrams(), pictureDiagrams(picture, project())) << node;
-        EXPECT_FALSE(picRes().diagrams().empty()) << node;
-        EXPECT_FALSE(picRes().grab().isNull());
+        EXPECT_TRUE(*row == '\0' || hasRow(row));
+        EXPECT_TRUE(*noRow == '\0' || !hasRow(noRow));
+        EXPECT_TRUE(*picture == '\0' || picRes().diagrams() == pictureDiagrams(picture, project()));
+        EXPECT_FALSE(picRes().diagrams().empty() || picRes().grab().isNull());
     }
     EXPECT_EQ(nameOfModal([this] { clickNode("Detailed Results"); }), "frmDetailedResult");
     EXPECT_TRUE(messages.texts.empty());
-}
 
-TEST_F(ResultsTest, noResultWithoutACalculation) {
-    calculate();
     click("chkStartStop");
-    for (const char* node : {"ULS", "ULS + SLS", "ULS + SLS + FLS", "Summary", "My + Vz", "Mz + Vy", "Uz + Uy",
-                             "Cr1-Point 1", "Cr1-Point 2", "Cr1-Point 3", "Reactions", "Detailed Results", "Notes"}) {
-        messages.texts.clear();
-        const auto shown = picRes().diagrams();
-        clickNode(node);
-        EXPECT_EQ(messages.texts, std::vector<std::string>{" Calculate before results can be presented "}) << node;
-        EXPECT_EQ(picRes().diagrams(), shown) << node;
-    }
-    for (const char* node : {"Borvik", "Input", "Results", "Diagram"}) {
-        messages.texts.clear();
-        clickNode(node);
-        EXPECT_TRUE(messages.texts.empty()) << node;
-    }
+    const auto shown = picRes().diagrams();
+    const std::size_t rows = list().table().rows.size();
+    for (const Shown& each : nodes) clickNode(each.node);
+    clickNode("Detailed Results");
+    EXPECT_EQ(messages.texts,
+              std::vector<std::string>(std::size(nodes) + 1, " Calculate before results can be presented "));
+    for (const char* head : {"Borvik", "Input", "Results", "Diagram"}) clickNode(head);
+    EXPECT_EQ(messages.texts.size(), std::size(nodes) + 1);
+    EXPECT_EQ(picRes().diagrams(), shown);
+    EXPECT_EQ(list().table().rows.size(), rows);
 }
 
-TEST_F(ResultsTest, withoutHorizontalLoadsThereIsNoHorizontalDiagram) {
+TEST_F(ResultsTest, withoutHorizontalLoadsTreeAndPictureStayWithTheVerticalOnes) {
     project().H = {};
     project().HasLoadsY = false;
     calculate();
-    clickNode("Mz + Vy");
-    EXPECT_EQ(lastMessage(), " No loads in y-direction");
-    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("MyVz", project()));
+    EXPECT_FALSE(hasNode("Cr2-Point 1"));
     clickNode("Uz + Uy");
     EXPECT_EQ(picRes().diagrams(), std::vector<Diagram>{Diagram::SlsUz});
-
-    FrmDetailedResult detailed(window.calculation(), nullptr);
-    auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
-    auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
-    Q_EMIT tree->itemClicked(tree->itemOf("MzVy max/min"), 0);
-    EXPECT_TRUE(shown->table().columns.empty());
+    clickNode("Mz + Vy");
+    EXPECT_EQ(lastMessage(), " No loads in y-direction");
+    EXPECT_EQ(picRes().diagrams(), std::vector<Diagram>{Diagram::SlsUz});
+    EXPECT_EQ(control<ResultTreeView>("TreeView1").currentItem()->text(0), "Uz + Uy");
 }
 
-TEST_F(ResultsTest, detailedResultsOfTwoCranes) {
+TEST_F(ResultsTest, detailedResultsShowEveryTableAndOpenWideEnough) {
+    const auto open = [this](std::initializer_list<std::pair<const char*, std::size_t>> nodes) {
+        FrmDetailedResult detailed(window.calculation(), &window);
+        detailed.show();
+        auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
+        auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
+        EXPECT_EQ(tree->currentItem()->text(0), "MyVz max/min");
+        EXPECT_EQ(shown->table().rows.size(), 21U * static_cast<std::size_t>(project().NofSpans));
+        for (const auto& [node, columns] : nodes) {
+            ASSERT_NE(tree->itemOf(node), nullptr) << node;
+            Q_EMIT tree->itemClicked(tree->itemOf(node), 0);
+            EXPECT_EQ(tree->currentItem()->text(0) == node, columns > 0) << node;
+            EXPECT_TRUE(columns == 0 || shown->table().columns.size() == columns) << node;
+            EXPECT_FALSE(shown->table().rows.empty()) << node;
+        }
+        EXPECT_EQ(tree->itemOf("FLS - Crane 2") != nullptr, project().NofCranes == 2);
+        QTest::mouseClick(detailed.findChild<QPushButton*>("cmbOk"), Qt::LeftButton);
+        EXPECT_FALSE(detailed.isVisible());
+    };
+    project().H = {};
+    project().HasLoadsY = false;
+    calculate();
+    open({{"MzVy max/min", 0}});
     openExample("assembly-hall-two-cranes.brvk");
     calculate();
-    FrmDetailedResult detailed(window.calculation(), nullptr);
-    detailed.show();
-    auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
-    auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
-    const std::pair<const char*, std::size_t> nodes[] = {{"MyVz max/min", 5},  {"MzVy max/min", 5}, {"Reactions", 5},
-                                                         {"Uz/Uy", 3},         {"Static", 7},       {"Fatigue", 5},
-                                                         {"FLS - Crane 1", 8}, {"FLS - Crane 2", 8}};
-    for (const auto& [node, columns] : nodes) {
-        ASSERT_NE(tree->itemOf(node), nullptr) << node;
-        Q_EMIT tree->itemClicked(tree->itemOf(node), 0);
-        EXPECT_EQ(shown->table().columns.size(), columns) << node;
-        EXPECT_FALSE(shown->table().rows.empty()) << node;
-    }
-    Q_EMIT tree->itemClicked(tree->itemOf("MyVz max/min"), 0);
-    EXPECT_EQ(shown->table().rows.size(), 21U * static_cast<std::size_t>(project().NofSpans));
-    QTest::mouseClick(detailed.findChild<QPushButton*>("cmbOk"), Qt::LeftButton);
-    EXPECT_FALSE(detailed.isVisible());
-}
-
-TEST_F(ResultsTest, oneCraneHasNoNodesOfASecond) {
-    calculate();
-    EXPECT_TRUE(hasNode("Cr1-Point 3"));
-    EXPECT_FALSE(hasNode("Cr2-Point 1"));
-    FrmDetailedResult detailed(window.calculation(), nullptr);
-    EXPECT_EQ(detailed.findChild<ResultTreeView*>("TreeView1")->itemOf("FLS - Crane 2"), nullptr);
+    open({{"MyVz max/min", 5},
+          {"MzVy max/min", 5},
+          {"Reactions", 5},
+          {"Uz/Uy", 3},
+          {"Static", 7},
+          {"Fatigue", 5},
+          {"FLS - Crane 1", 8},
+          {"FLS - Crane 2", 8}});
 }
 
 TEST_F(ResultsTest, twoCranesShowTheirProgress) {
@@ -273,12 +273,39 @@ TEST_F(ResultsTest, anInputFormPutsResultsOutOfReachUntilItClosesWithoutAnEdit) 
     EXPECT_TRUE(hasNode("Summary"));
 }
 
-TEST_F(ResultsTest, theMouseReadsTheDiagram) {
+TEST_F(ResultsTest, theArrowKeysReadThePicture) {
     calculate();
-    QSignalSpy spy(&picRes(), &DiagramView::readingChanged);
-    QTest::mouseMove(&picRes(), QPoint(picRes().width() / 2, 40));
-    ASSERT_FALSE(spy.isEmpty());
-    EXPECT_TRUE(spy.last().at(0).toString().startsWith("Span 2, x = ")) << spy.last().at(0).toString().toStdString();
+    QSignalSpy read(&picRes(), &DiagramView::readingChanged);
+    const auto press = [&](std::initializer_list<int> keys, Qt::KeyboardModifiers with = {}) {
+        for (const int key : keys) QTest::keyClick(&picRes(), static_cast<Qt::Key>(key), with);
+        return read.last().at(0).toString().section(':', 0, 0).toStdString();
+    };
+    const int half = static_cast<int>(double(project().Span(1)) / 2.0), part = half / 10;
+    EXPECT_EQ(press({Qt::Key_Right}), "Span 1, x = 0 mm");
+    EXPECT_EQ(press({Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}), "Span 1, x = " + std::to_string(part) + " mm");
+    EXPECT_EQ(press({Qt::Key_Right}, Qt::ControlModifier), "Support 2");
+    EXPECT_EQ(press({Qt::Key_End, Qt::Key_Right}), "Span 3, x = " + formatNumber(project().Span(3), "0") + " mm");
+    EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}, Qt::ControlModifier), "Support 2");
+    const auto quantity = [&] { return read.last().at(0).toString().section(": ", 1).left(3).toStdString(); };
+    picRes().showResults({Diagram::UlsMyVz, Diagram::SlsUz}, window.calculation());
+    press({Qt::Key_Home});
+    EXPECT_EQ(quantity(), "My ");
+    press({Qt::Key_Down});
+    EXPECT_EQ(quantity().front(), 'U');
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&control<DiagramView>("picBalk"), Qt::Key_Return); }), "frmLoad");
+}
+
+TEST_F(ResultsTest, theMenuCopiesThePictureThatHasTheFocus) {
+    const auto copied = [this] {
+        trigger("mnuCopyPicture");
+        return QApplication::clipboard()->image().height();
+    };
+    EXPECT_EQ(copied(), 500) << "the sketch, as there are no results";
+    calculate();
+    picRes().showResults({Diagram::UlsMyVz, Diagram::SlsUz}, window.calculation());
+    EXPECT_EQ(copied(), 1000);
+    control<DiagramView>("picBalk").setFocus();
+    EXPECT_EQ(copied(), 500);
 }
 
 TEST_F(ResultsTest, theKeyboardWalksOverResultsAndOpensNoWindow) {
