@@ -5,6 +5,8 @@
 #include <cmath>
 #include <iostream>
 
+#include "base/shown_text.h"
+
 namespace borvik {
 
 namespace {
@@ -27,7 +29,7 @@ const char* nameOf(Walk walk) {
 }  // namespace
 
 Console::Console(std::string name, bool withProgress)
-    : name_(std::move(name)),
+    : name_(withoutControls(std::move(name))),
       withProgress_(withProgress && isatty(STDERR_FILENO) != 0),
       nextProgress_(Clock::now() + kFirstProgress) {}
 
@@ -38,7 +40,7 @@ Console::~Console() {
 void Console::show(const std::string& text) {
     wipeProgress();
     texts_.push_back(text);
-    std::cerr << name_ << ": " << text << std::endl;
+    std::cerr << name_ << ": " << withoutControls(text, "\n") << std::endl;
 }
 
 void Console::position(Walk walk, double percent) {

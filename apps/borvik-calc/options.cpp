@@ -109,6 +109,12 @@ bool sameFile(const std::string& one, const std::string& other) {
     return one == other || fs::equivalent(one, other, notThere);
 }
 
+/// What takes outputs without becoming a file: a device or a pipe.
+bool isDevice(const std::string& path) {
+    std::error_code unknown;
+    return fs::is_other(path, unknown);
+}
+
 bool endsWith(std::string text, std::string_view ending) {
     std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
     return text.ends_with(ending);
@@ -129,16 +135,19 @@ void checkOutputs(const Options& options) {
     for (const Output& output : outputs) {
         if (output.file.empty() || output.file == "-") continue;
         const bool isProject = output.option == std::string_view("--save");
-        if (!isProject && endsWith(output.file, ".brvk"))
+        std::error_code unknown;
+        const std::string behindLinks = fs::weakly_canonical(output.file, unknown).string();
+        if (!isProject && (endsWith(output.file, ".brvk") || endsWith(behindLinks, ".brvk")))
             throw CLI::ValidationError(output.option, "would overwrite the project " + output.file);
         for (const std::string& input : options.files)
             if (sameFile(output.file, input))
                 throw CLI::ValidationError(output.option, "would overwrite its input " + input);
         for (const Output& other : outputs)
-            if (&other < &output && !other.file.empty() && sameFile(other.file, output.file))
+            if (&other < &output && !other.file.empty() && sameFile(other.file, output.file) && !isDevice(output.file))
                 throw CLI::ValidationError(output.option, "is the same file as that of " + std::string(other.option));
     }
-    if (!options.picture.empty() && !endsWith(options.picture, ".png") && !endsWith(options.picture, ".svg"))
+    if (!options.picture.empty() && !isDevice(options.picture) && !endsWith(options.picture, ".png") &&
+        !endsWith(options.picture, ".svg"))
         throw CLI::ValidationError("--png", options.picture + " ends in neither .png nor .svg");
 }
 

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "base/shown_text.h"
 #include "base/whole_file.h"
 #include "pictures.h"
 #include "platform/version.h"
@@ -25,7 +26,7 @@ void writeText(const std::string& path, const std::string& text) {
     try {
         replaceFile(path, text);
     } catch (const std::system_error& error) {
-        throw OutputError("can't write " + path + ": " + error.code().message());
+        throw OutputError("can't write " + path + ": " + reasonOf(error));
     }
 }
 
@@ -68,10 +69,15 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
 
 void Outputs::writeJson(const FinishedRun& run) {
     const std::string text = ResultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes);
-    if (options_.json == "-")
+    if (options_.json == "-") {
         print(text);
-    else
-        writeText(jsonFile(run), text);
+        return;
+    }
+    const std::string file = jsonFile(run);
+    std::error_code notThere;
+    for (const std::string& input : options_.files)
+        if (fs::equivalent(file, input, notThere)) throw OutputError("would overwrite its input " + file);
+    writeText(file, text);
 }
 
 /// With several projects, or where a folder is named: a file in that folder, named as the project. Projects of the same
@@ -116,7 +122,8 @@ void Outputs::writeNotes(const FinishedRun& run) {
 }
 
 void Outputs::printText(const FinishedRun& run, const std::string& text) {
-    print((textPrinted_ ? "\n" : "") + (run.file ? *run.file + "\n" : "") + text);
+    print((textPrinted_ ? "\n" : "") + (run.file ? withoutControls(*run.file) + "\n" : "") +
+          withoutControls(text, "\n"));
     textPrinted_ = true;
 }
 

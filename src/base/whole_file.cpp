@@ -23,7 +23,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kLongestRead = std::size_t{64} << 20;
+constexpr std::size_t kLongestRead = std::size_t{16} << 20;
+
+constexpr int kNoFile = ENOTSUP;  // what is refused here, and no answer of the system to opening or writing
 
 [[noreturn]] void fail(int error) {
     throw std::system_error(error, std::generic_category());
@@ -41,10 +43,14 @@ fs::path behindLinks(fs::path path) {
 
 }  // namespace
 
+std::string reasonOf(const std::system_error& error) {
+    return error.code().value() == kNoFile ? "it is no file but a pipe or a device" : error.code().message();
+}
+
 std::string readFile(const std::string& path) {
     std::error_code unknown;
     const fs::file_status status = fs::status(path, unknown);
-    if (fs::exists(status) && !fs::is_regular_file(status)) fail(fs::is_directory(status) ? EISDIR : EINVAL);
+    if (fs::exists(status) && !fs::is_regular_file(status)) fail(fs::is_directory(status) ? EISDIR : kNoFile);
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
     if (!file) fail(errno);
     std::string bytes;
@@ -165,22 +171,18 @@ void removeLeftovers(const fs::path& folder) {
     }
 }
 
-}  // namespace
-
-namespace {
-
 enum class Tail { Keep, Drop };
 
-void writeWhole(const std::string& path, const std::string& bytes, Tail tail) {
+void writeWhole(const std::string& path, const std::string& bytes, Tail tail, Readers readers = Readers::Usual) {
     const fs::path target = behindLinks(path);
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     struct stat old {};
     const bool exists = ::stat(target.c_str(), &old) == 0;
     if (exists && S_ISDIR(old.st_mode)) fail(EISDIR);
-    if (exists && !S_ISREG(old.st_mode)) fail(EINVAL);  // a device must not be replaced by a file
+    if (exists && !S_ISREG(old.st_mode)) fail(kNoFile);  // a device must not be replaced by a file
     if (exists && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) fail(errno);
 
-    TemporaryFile file(folder, exists ? kPrivate : kUsual);
+    TemporaryFile file(folder, exists || readers == Readers::UserOnly ? kPrivate : kUsual);
     file.write(bytes.data(), bytes.size());
     if (exists) {
         if (tail == Tail::Keep) file.writeTail(target, bytes.size());
@@ -199,10 +201,10 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     writeWhole(path, bytes, Tail::Keep);
 }
 
-void replaceFile(const std::string& path, const std::string& bytes) {
+void replaceFile(const std::string& path, const std::string& bytes, Readers readers) {
     struct stat present {};
     if (::stat(path.c_str(), &present) != 0 || S_ISREG(present.st_mode) || S_ISDIR(present.st_mode)) {
-        writeWhole(path, bytes, Tail::Drop);
+        writeWhole(path, bytes, Tail::Drop, readers);
         return;
     }
     Descriptor open(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
@@ -240,7 +242,7 @@ void overwriteFile(const std::string& path, const std::string& bytes) {
     writeWhole(path, bytes, Tail::Keep);
 }
 
-void replaceFile(const std::string& path, const std::string& bytes) {
+void replaceFile(const std::string& path, const std::string& bytes, Readers) {
     writeWhole(path, bytes, Tail::Drop);
 }
 

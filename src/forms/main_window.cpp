@@ -214,7 +214,10 @@ void MainWindow::showState() {
     tree_->setResultsReachable(current);
     picRes_->setOutOfDate(!current && !looking);
     results_->setOutOfDate(!current && !looking);
-    stateUnsaved_->setText(hasUnsavedChanges() ? tr("Unsaved changes") : QString());
+    stateUnsaved_->setText(!hasUnsavedChanges()     ? QString()
+                           : copyTrouble_.isEmpty() ? tr("Unsaved changes")
+                                                    : tr("Unsaved changes, no copy kept"));
+    stateUnsaved_->setToolTip(copyTrouble_);
     stateCalculated_->setText(current        ? tr("Calculated")
                               : looking      ? tr("Form open")
                               : calculation_ ? tr("Out of date: calculate again")

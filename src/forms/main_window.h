@@ -9,6 +9,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 
 #include "calculation/session.h"
 #include "forms/calculation_record.h"
@@ -95,6 +96,12 @@ private:
     void openExample(const QFileInfo& file);
     void openRecent(int entry);
     bool saveTo(const std::string& path);
+    bool saveInPlace();
+    /// False for a project that has been saved nowhere yet: its file name is only a proposal.
+    [[nodiscard]] static bool hasPlace(const std::string& fileName);
+    [[nodiscard]] std::string projectFolder() const;
+    std::optional<std::string> askForPlace();
+    std::optional<std::string> placeToSave();
     void save();
     void saveAs();
     bool load(const std::string& path, const std::string& step, const std::string& shownAs);
@@ -140,7 +147,7 @@ private:
     RescentFile recent_;
     ProjectHistory history_;
     RecoveryCopies recovery_;
-    bool copyRefused_ = false;  ///< the user has been told that no copy can be kept
+    QString copyTrouble_;  ///< why no copy of the unsaved changes is kept; empty where one is
     CalculationPtr calculation_;
     const InputDialog* form_ = nullptr;  ///< the one that is open
     bool splicesDropped_ = false;        ///< by the input check, since the last edit

@@ -22,14 +22,16 @@ void MainWindow::remember(const QString& what) {
 /// A project with unsaved changes has its copy, one without has none.
 void MainWindow::keepCopy() {
     const auto& document = history_.present().document;
+    const bool keptBefore = copyTrouble_.isEmpty();
+    copyTrouble_.clear();
     if (!hasUnsavedChanges()) {
         recovery_.drop(document);
         return;
     }
     const QString reason = recovery_.keep(document, session_.project);
-    if (reason.isEmpty() || copyRefused_) return;
-    copyRefused_ = true;
-    statusBar()->showMessage(tr("No copy of unsaved changes can be kept: %1").arg(reason), 20000);
+    if (reason.isEmpty()) return;
+    copyTrouble_ = tr("No copy of unsaved changes can be kept: %1").arg(reason);
+    if (keptBefore) statusBar()->showMessage(copyTrouble_, 20000);
 }
 
 void MainWindow::undo() {
@@ -77,8 +79,10 @@ void MainWindow::showHistory() {
 
 void MainWindow::offerRecovery() {
     for (const LeftCopy& copy : recovery_.leftCopies()) {
-        const QString file = copy.FileName.empty() ? tr("a project without a file")
-                                                   : QDir::toNativeSeparators(QString::fromStdString(copy.FileName));
+        const QString name = QDir::toNativeSeparators(QString::fromStdString(copy.FileName));
+        const QString file = name.isEmpty()            ? tr("a project without a file")
+                             : hasPlace(copy.FileName) ? name
+                                                       : tr("%1, not saved to a file yet").arg(name);
         if (!copy.project) {
             services_.messages.show(tr("The copy of unsaved changes to %1 can't be read. It is kept as %2")
                                         .arg(file, RecoveryCopies::setAside(copy))
@@ -105,9 +109,9 @@ void MainWindow::offerRecovery() {
 }
 
 void MainWindow::bringBack(const LeftCopy& copy) {
-    ProjectDocument document{copy.FileName, copy.FileName, {}};
+    ProjectDocument document{copy.FileName, copy.FileName, {}, copy.stamp};
     try {
-        if (!copy.FileName.empty()) LoadProject(copy.FileName, document.saved);
+        if (hasPlace(copy.FileName)) LoadProject(copy.FileName, document.saved);
     } catch (const ProjectFileError&) {
         document.saved = {};  // the file is gone or spoilt: what is brought back stands nowhere else
     }

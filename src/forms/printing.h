@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 #include "calculation/session.h"
 #include "forms/services.h"
@@ -16,21 +17,23 @@ enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCo
 [[nodiscard]] bool canPrint();
 
 // Without a calculation of the present input each of these shows "  Calculate before print  " and does no more; a
-// cancelled dialog leaves everything as it was.
+// cancelled dialog leaves everything as it was. What comes back is the file that was written; empty where there is
+// none.
 
 /// Prints the report of the last calculation on a printer that the user chooses, the pages and copies asked for.
 /// @param scope   1 ULS, 2 ULS+SLS, 3 ULS+SLS+FLS, 4 compressed
 /// @param withNotes  the report ends with the notes for the checking engineer; the dialog can still be told otherwise
 /// @param services  where messages and questions go
 /// @param parent  owner of the print dialog
-void printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
+std::string printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 /// Shows the pages before they are printed, and prints them from there.
-void previewReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
+std::string previewReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 /// Saves the report as PDF to a file that the user chooses.
-void saveReportAsPdf(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
+std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
 
 /// One of the three above.
-using PrintCommand = void (*)(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent);
+using PrintCommand = std::string (*)(Session& session, int scope, bool withNotes, const Services& services,
+                                     QWidget* parent);
 
 /// False where this build has no spreadsheet export: the commands are then disabled.
 [[nodiscard]] bool canExportTable();

@@ -2,9 +2,11 @@
 
 #include <QDataStream>
 #include <QDir>
-#include <QSaveFile>
 #include <QUuid>
+#include <filesystem>
+#include <system_error>
 
+#include "base/whole_file.h"
 #include "project/project_file.h"
 
 namespace borvik {
@@ -22,6 +24,21 @@ std::unique_ptr<QLockFile> lockNamed(const QString& path) {
     return lock;
 }
 
+/// The lock of a run that has ended; null while it lives. A lock that names no process, as a full disk leaves it,
+/// counts as one after a while, else it would hide its copies for ever.
+std::unique_ptr<QLockFile> lockOfEnded(const QString& path) {
+    constexpr qint64 kSecondsToWriteIt = 60;
+    auto lock = lockNamed(path);
+    if (lock->tryLock()) return lock;
+    qint64 process = 0;
+    QString host, program;
+    const bool isSpoilt = lock->error() == QLockFile::LockFailedError && !lock->getLockInfo(&process, &host, &program);
+    if (!isSpoilt || QFileInfo(path).lastModified().secsTo(QDateTime::currentDateTime()) < kSecondsToWriteIt)
+        return nullptr;
+    QFile::remove(path);
+    return lock->tryLock() ? std::move(lock) : nullptr;
+}
+
 /// The name of the run that has written a copy: what stands before the number of the copy.
 QString runOf(const QFileInfo& copy) {
     return copy.completeBaseName().section('.', 0, 0);
@@ -31,10 +48,14 @@ void read(QFile& file, LeftCopy& copy) {
     if (!file.open(QIODevice::ReadOnly)) return;
     QDataStream stream(&file);
     stream.setVersion(kStream);
-    QByteArray head, fileName, bytes;
-    stream >> head >> fileName >> bytes;
+    QByteArray head, fileName, bytes, stamp;
+    stream >> head >> fileName;
     if (stream.status() != QDataStream::Ok || head != kHead) return;
     copy.FileName = fileName.toStdString();
+    stream >> bytes;
+    if (stream.status() != QDataStream::Ok) return;
+    stream >> stamp;  // version 0.1.0 wrote none: the file then counts as changed
+    copy.stamp = stamp.toStdString();
     try {
         Project project;
         ReadProjectBytes(bytes.toStdString(), project);
@@ -53,19 +74,25 @@ QString RecoveryCopies::keep(const std::shared_ptr<ProjectDocument>& document, c
     if (folder_.isEmpty()) return {};
     if (lock_ == nullptr) {
         QDir().mkpath(folder_);
+        std::error_code ignored;  // a drive without permissions
+        std::filesystem::permissions(folder_.toStdString(), std::filesystem::perms::owner_all, ignored);
         lock_ = lockNamed(pathOf(name_ + ".lock"));
     }
     if (!lock_->isLocked() && !lock_->tryLock()) return QObject::tr("%1 can't be written").arg(folder_);
     auto [entry, isNew] = copies_.try_emplace(document);
     if (isNew) entry->second = pathOf(name_ + "." + QString::number(copies_.size()) + kEnding);
-    QSaveFile file(entry->second);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    QDataStream stream(&file);
+    QByteArray copy;
+    QDataStream stream(&copy, QIODevice::WriteOnly);
     stream.setVersion(kStream);
     bool lost = false;
     stream << QByteArray(kHead) << QByteArray::fromStdString(document->FileName)
-           << QByteArray::fromStdString(ProjectBytes(project, lost));
-    return file.commit() ? QString() : file.errorString();
+           << QByteArray::fromStdString(ProjectBytes(project, lost)) << QByteArray::fromStdString(document->stamp);
+    try {
+        replaceFile(entry->second.toStdString(), copy.toStdString(), Readers::UserOnly);
+    } catch (const std::system_error& error) {
+        return QString::fromStdString(reasonOf(error));
+    }
+    return {};
 }
 
 void RecoveryCopies::drop(const std::shared_ptr<ProjectDocument>& document) {
@@ -78,13 +105,16 @@ std::vector<LeftCopy> RecoveryCopies::leftCopies() const {
     if (folder_.isEmpty()) return left;
     const auto files = QDir(folder_).entryInfoList({QString("*") + kEnding}, QDir::Files, QDir::Time);
     for (const QFileInfo& info : files) {
-        const auto lock = lockNamed(pathOf(runOf(info) + ".lock"));
-        if (!lock->tryLock()) continue;
-        LeftCopy copy{info.absoluteFilePath(), info.lastModified(), {}, {}};
+        const auto lock = lockOfEnded(pathOf(runOf(info) + ".lock"));
+        if (lock == nullptr) continue;
+        LeftCopy copy{info.absoluteFilePath(), info.lastModified(), {}, {}, {}};
         QFile file(copy.path);
         read(file, copy);
         left.push_back(std::move(copy));
     }
+    // Locks of killed runs, with or without copies: letting go of one removes its file.
+    for (const QFileInfo& info : QDir(folder_).entryInfoList({"*.lock"}, QDir::Files))
+        if (info.completeBaseName() != name_) lockOfEnded(info.absoluteFilePath());
     return left;
 }
 

@@ -17,13 +17,15 @@ namespace borvik {
 struct LeftCopy {
     QString path;       ///< of the copy
     QDateTime written;  ///< local time
-    std::string FileName;
+    std::string FileName;            ///< without a folder: a project that had no file yet
+    std::string stamp;               ///< of the file that the changes were made to
     std::optional<Project> project;  ///< nothing where the copy is spoilt
 };
 
 /// Copies of projects with unsaved changes, in a folder of the user's own, for the day when the program ends before
-/// they are saved. A copy is replaced as a whole or not at all. Each running program keeps its copies under a name of
-/// its own and holds a lock while it runs, so that none is offered by another one meanwhile.
+/// they are saved. A copy is replaced as a whole or not at all, and only the user can read it. Each running program
+/// keeps its copies under a name of its own and holds a lock while it runs, so that none is offered by another one
+/// meanwhile.
 class RecoveryCopies {
 public:
     /// @param folder  made when it is needed; empty: nothing is kept

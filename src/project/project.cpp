@@ -160,7 +160,7 @@ void DefaultProject(const ReferenceTables& tables, Project& project, ProjectCont
     context = ProjectContext{};
     context.BlankSection = blankSection(tables);
     context.CurrentSection = context.BlankSection;
-    context.FileName = "test.brvk";
+    context.FileName = kNewProjectFile;
     context.FileTitle = context.FileName;
 
     setSections(context.BlankSection, project);

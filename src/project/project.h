@@ -155,6 +155,9 @@ struct Project {
     bool operator==(const Project&) const = default;
 };
 
+/// The name of a new project's file, until it is saved under another.
+inline constexpr const char* kNewProjectFile = "test.brvk";
+
 /// What stands beside the record and isn't saved: the choices that follow from it, and the section being worked on.
 struct ProjectContext {
     SectionRecord BlankSection;    ///< template for new spans
@@ -164,7 +167,7 @@ struct ProjectContext {
     int RailIndex = 0;             ///< row of RailName in the rail table
     RailRecord CurrentRail;        ///< the rail in use
     Single Epsilon;                ///< sqrt(235 / fyk)
-    std::string FileName;          ///< path of the current project
+    std::string FileName;          ///< path of the current project; a mere name as long as it has no file
     std::string FileTitle;         ///< the path as opened, for the report's heading
 };
 

@@ -165,8 +165,8 @@ void mendDisplayNames(Array<SectionRecord>& sections, int from) {
 }
 
 /// What the user reads when the system refuses a file.
-std::string refusal(const char* what, const std::string& path, const std::error_code& error) {
-    return std::string("The project file \"") + path + "\" can't be " + what + ": " + error.message() + ".";
+std::string refusal(const char* what, const std::string& path, const std::system_error& error) {
+    return std::string("The project file \"") + path + "\" can't be " + what + ": " + reasonOf(error) + ".";
 }
 
 }  // namespace
@@ -192,7 +192,7 @@ bool SaveProject(const std::string& path, const Project& project) {
     try {
         overwriteFile(path, bytes);
     } catch (const std::system_error& error) {
-        throw ProjectFileError(ProjectFileError::Kind::Other, refusal("written", path, error.code()));
+        throw ProjectFileError(ProjectFileError::Kind::Other, refusal("written", path, error));
     }
     return !lost;
 }
@@ -210,7 +210,7 @@ void LoadProject(const std::string& path, Project& project) {
             throw ProjectFileError(ProjectFileError::Kind::PathNotFound, " Path not found ");
         if (error.code() == std::errc::no_such_file_or_directory)
             throw ProjectFileError(ProjectFileError::Kind::NotFound, " Can't find file ");
-        throw ProjectFileError(ProjectFileError::Kind::Other, refusal("read", path, error.code()));
+        throw ProjectFileError(ProjectFileError::Kind::Other, refusal("read", path, error));
     }
     ReadProjectBytes(bytes, project);
 }

@@ -28,7 +28,7 @@ void ProjectHistory::settled(const Project& project) {
 }
 
 void ProjectHistory::saved(const Project& project, const std::string& path) {
-    *present().document = {path, path, project};
+    *present().document = {path, path, project, {}};
     steps_.present().project = project;
 }
 

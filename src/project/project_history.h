@@ -11,7 +11,8 @@ namespace borvik {
 /// A project file being worked on, or one that has no file yet: what all its steps have in common.
 struct ProjectDocument {
     std::string FileName, FileTitle;
-    Project saved;  ///< as last saved, opened or made new
+    Project saved;           ///< as last saved, opened or made new
+    std::string stamp = {};  ///< of the file's bytes then; empty where there was no file
 };
 
 /// A project as it stood after a change.

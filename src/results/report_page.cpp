@@ -11,6 +11,8 @@ constexpr const char* kFontName = "Arial";
 constexpr const char* kAverageLetters = "SmGasdfghjklpoiuytre";  // 20 of them
 constexpr double kHeadTop = 2.0;                                 // line of the head's first text
 constexpr double kGap = 1.0;                                     // least distance of two texts on a line, characters
+constexpr std::size_t kLongestLine = 1000;                       // characters; no paper takes as many side by side
+constexpr std::size_t kLongestHead = 1000;                       // bytes of a title, which stands on every page
 
 /// Bytes of the UTF-8 character that begins with this byte.
 std::size_t lengthOfCharacter(char first) {
@@ -18,9 +20,18 @@ std::size_t lengthOfCharacter(char first) {
     return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
 }
 
+/// A title that would leave no room on the page for anything else is cut between two characters.
+std::string headText(const std::string& text) {
+    if (text.size() <= kLongestHead) return text;
+    std::size_t end = kLongestHead;
+    while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+    return text.substr(0, end) + " ...";
+}
+
 }  // namespace
 
 ReportPage::ReportPage(Printer& printer, PageHeadTexts head) : printer_(printer), head_(std::move(head)) {
+    for (std::string* text : {&head_.project, &head_.file, &head_.identification}) *text = headText(*text);
     DrawingSurface& paper = surface();
     paper.scale(0.0, 0.0, 1.0, 1.0);
     setStyle({});
@@ -158,18 +169,13 @@ double ReportPage::textWidth(std::string_view text, TextStyle style) const {
 
 std::vector<std::string> ReportPage::wrapped(std::string_view text, double blockWidth, TextStyle style) const {
     setStyle(style);
-    const DrawingSurface& paper = surface();
     std::vector<std::string> lines;
-    while (paper.textWidth(text) > blockWidth) {
-        // As many characters as fit, at least one; back to the last blank where that leaves something on the line.
-        std::size_t fitting = lengthOfCharacter(text[0]);
-        for (std::size_t next = fitting; next < text.size(); next += lengthOfCharacter(text[next])) {
-            if (paper.textWidth(text.substr(0, next)) > blockWidth) break;
-            fitting = next;
-        }
-        const std::size_t blank = text.substr(0, fitting + 1).rfind(' ');
-        const std::size_t end =
-            blank != std::string_view::npos && text.find_first_not_of(' ') < blank ? blank : fitting;
+    // A text of that length is not measured as a whole: it needs more than one line anyway.
+    while (text.size() > 4 * kLongestLine || surface().textWidth(text) > blockWidth) {
+        // As many characters as fit; back to the last blank where that leaves something on the line.
+        const std::size_t fits = fitting(text, blockWidth);
+        const std::size_t blank = text.substr(0, fits + 1).rfind(' ');
+        const std::size_t end = blank != std::string_view::npos && text.find_first_not_of(' ') < blank ? blank : fits;
         lines.emplace_back(text.substr(0, end));
         text.remove_prefix(end);
         while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
@@ -177,6 +183,16 @@ std::vector<std::string> ReportPage::wrapped(std::string_view text, double block
     }
     lines.emplace_back(text);
     return lines;
+}
+
+std::size_t ReportPage::fitting(std::string_view text, double blockWidth) const {
+    std::vector<std::size_t> ends{std::min(text.size(), lengthOfCharacter(text[0]))};
+    while (ends.size() < kLongestLine && ends.back() < text.size())
+        ends.push_back(std::min(text.size(), ends.back() + lengthOfCharacter(text[ends.back()])));
+    const auto tooWide = std::partition_point(ends.begin() + 1, ends.end(), [&](std::size_t end) {
+        return surface().textWidth(text.substr(0, end)) <= blockWidth;
+    });
+    return *(tooWide - 1);
 }
 
 void ReportPage::ruleAcross(Colour colour) {

@@ -91,6 +91,8 @@ private:
     void gridScale() const;
     void setStyle(TextStyle style) const;
     void headLine(std::string_view left, std::string_view right);
+    /// Bytes of the characters that fit into a width, at least one character.
+    [[nodiscard]] std::size_t fitting(std::string_view text, double blockWidth) const;
 
     Printer& printer_;
     PageHeadTexts head_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/shown_text.h"
 #include "results/ratios.h"
 
 namespace borvik {
@@ -41,7 +42,8 @@ std::string projectLine(const Project& project) {
     std::string line = project.Proj;
     if (!project.Ident.empty()) line += (line.empty() ? "" : ", ") + project.Ident;
     if (!line.empty()) line += ": ";
-    return line + plural(project.NofSpans, "span") + ", " + generalText(Single(project.BeamLength / 1000.0)) + " m, " +
+    return withoutControls(line) + plural(project.NofSpans, "span") + ", " +
+           generalText(Single(project.BeamLength / 1000.0)) + " m, " +
            (project.CraneType == 2 ? "monorail hoist" : plural(project.NofCranes, "crane")) + "\n";
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 
+#include "base/shown_text.h"
 #include "results/table_cells.h"
 
 namespace borvik {
@@ -209,7 +210,9 @@ std::string tabSeparated(const ResultTable& table, bool withHeaders) {
     };
     if (withHeaders) addLine([&table](std::size_t column) { return table.columns[column].header; });
     for (const std::vector<TableCell>& row : table.rows)
-        addLine([&row](std::size_t column) { return column < row.size() ? row[column].text : std::string(); });
+        addLine([&row](std::size_t column) {
+            return column < row.size() ? withoutControls(row[column].text) : std::string();
+        });
     return text;
 }
 

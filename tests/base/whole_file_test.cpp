@@ -1,21 +1,21 @@
 #include "base/whole_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <system_error>
 
+#include "support/full_disk.h"
 #include "support/temp_folder.h"
 
 namespace borvik {
 namespace {
 
 using testing_support::bytesOf;
+using testing_support::FullDisk;
 using testing_support::TempFolder;
 using testing_support::writeBytes;
 namespace fs = std::filesystem;
@@ -28,26 +28,6 @@ std::errc reasonOf(const std::string& path, const std::string& bytes) {
     }
     return {};
 }
-
-/// No file may grow beyond `bytes` while this lives, like on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
 
 TEST(OverwriteFile, keepsTheTailOfALongerFile) {
     const TempFolder folder;
@@ -77,8 +57,11 @@ TEST(OverwriteFile, keepsPermissionsAndGivesANewFileTheUsualOnes) {
     const mode_t mask = ::umask(027);
     overwriteFile(old, "y");
     overwriteFile(fresh, "y");
+    replaceFile(folder.file("private"), "y", Readers::UserOnly);
     ::umask(mask);
     struct stat status {};
+    ASSERT_EQ(::stat(folder.file("private").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0600U);
     ASSERT_EQ(::stat(old.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0640U);
     ASSERT_EQ(::stat(fresh.c_str(), &status), 0);
@@ -139,7 +122,7 @@ TEST(OverwriteFile, refusesWhatIsNoFile) {
     EXPECT_EQ(reasonOf(folder.file("no/such/folder"), "x"), std::errc::no_such_file_or_directory);
     EXPECT_EQ(reasonOf("", "x"), std::errc::no_such_file_or_directory);
     ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
-    EXPECT_EQ(reasonOf(folder.file("pipe"), "x"), std::errc::invalid_argument);
+    EXPECT_EQ(reasonOf(folder.file("pipe"), "x"), std::errc::not_supported);
     EXPECT_TRUE(fs::is_fifo(folder.path() / "pipe"));
     EXPECT_EQ(folder.count(), 1);
 }

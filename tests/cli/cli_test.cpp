@@ -115,22 +115,25 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
 TEST_F(CommandLine, noOutputTakesThePlaceOfAProjectOrAnotherOutput) {
     take("case-10", "a.brvk");
     take("case-12", "b.brvk");
+    fs::create_symlink("a.brvk", folder / "link.pdf");
     const std::string a = bytesOf(folder / "a.brvk"), b = bytesOf(folder / "b.brvk");
-    for (const char* arguments : {"--json *.brvk", "--report *.brvk", "--table MyVz --xlsx *.brvk",
-                                  "--diagram MyVz --png *.brvk", "b.brvk --save b.brvk", "b.brvk --report ./new.BRVK",
-                                  "--default --json x --table MyVz --xlsx x", "--default --diagram MyVz --png x.jpg"}) {
+    for (const char* arguments :
+         {"--json *.brvk", "--report *.brvk", "--table MyVz --xlsx *.brvk", "--diagram MyVz --png *.brvk",
+          "b.brvk --save b.brvk", "b.brvk --report ./new.BRVK", "b.brvk --report link.pdf",
+          "--default --json x --table MyVz --xlsx x", "--default --diagram MyVz --png x.jpg"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments;
         EXPECT_THAT(outcome.err, StartsWith("borvik-calc: --")) << arguments;
     }
     EXPECT_EQ(bytesOf(folder / "a.brvk") + bytesOf(folder / "b.brvk"), a + b);
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 4) << "the projects, .out and .err";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 5) << "the projects, the link, .out and .err";
 }
 
 TEST_F(CommandLine, aPipeOrDeviceTakesAnOutputAndStaysWhatItIs) {
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(run("pipe").exitCode, 5) << "reading one would wait for ever";
-    for (const char* option : {"--json pipe", "--report pipe", "--table MyVz --xlsx pipe"}) {
+    for (const char* option :
+         {"--json pipe", "--report pipe", "--table MyVz --xlsx pipe", "--diagram MyVz --png pipe"}) {
         std::string read;
         std::thread reader([&] { read = bytesOf(folder / "pipe"); });
         EXPECT_EQ(run(std::string("--default ") + option).exitCode, 0);
@@ -138,6 +141,16 @@ TEST_F(CommandLine, aPipeOrDeviceTakesAnOutputAndStaysWhatItIs) {
         EXPECT_GT(read.size(), 1000U) << option;
     }
     EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+TEST_F(CommandLine, aProjectCannotCommandTheTerminal) {
+    Project project;
+    LoadProject(folder / take("default", "a.brvk"), project);
+    project.Proj = "Hall\x1b]0;title\a\nLargest ratio 0.001";
+    SaveProject(folder / "a.brvk", project);
+    const std::string out = run("a.brvk").out;
+    EXPECT_THAT(out, StartsWith("a.brvk\nHall ]0;title  Largest ratio 0.001, "));
+    EXPECT_EQ(std::count_if(out.begin(), out.end(), [](unsigned char c) { return c < 32 && c != '\n'; }), 0);
 }
 
 TEST_F(CommandLine, oneBadFileDoesNotStopTheOthers) {

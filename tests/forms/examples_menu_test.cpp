@@ -33,6 +33,8 @@ TEST(ExamplesMenu, opensAnExampleThatSavingLeavesAlone) {
     EXPECT_EQ(program.session.context.FileName, "workshop-single-span.brvk");
     EXPECT_FALSE(program.window.hasUnsavedChanges());
     EXPECT_FALSE(program.control<QAction>("mnuMRU1").isVisible());
+    program.trigger("mnuArkivSpara");
+    EXPECT_EQ(program.questions.asked, std::vector<std::string>{"workshop-single-span.brvk"}) << "asks for a name";
 }
 
 TEST(ExamplesMenu, isHiddenWithoutExamples) {

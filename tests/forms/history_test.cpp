@@ -4,14 +4,18 @@
 
 #include <QDir>
 #include <QTimer>
+#include <chrono>
 #include <filesystem>
 
 #include "project/project_file.h"
+#include "support/full_disk.h"
 #include "window_support.h"
 
 namespace borvik {
 namespace {
 
+using testing_support::bytesOf;
+using testing_support::FullDisk;
 using testing_support::TempFolder;
 using testing_support::writeBytes;
 
@@ -90,6 +94,52 @@ TEST_F(RecoveryTest, bringsBackWhatWasNotSaved) {
     next.trigger("mnuArkivSpara");
     EXPECT_FALSE(next.window.hasUnsavedChanges());
     EXPECT_EQ(copies().size(), 0);
+}
+
+TEST_F(RecoveryTest, neverWritesOverAFileThatHasChangedMeanwhile) {
+    endUnsaved("Mine");
+    Project other;
+    LoadProject(folder.file("a.brvk"), other);
+    other.Proj = "Theirs";
+    SaveProject(folder.file("a.brvk"), other);
+    Program next(folder);
+    next.start({Answer::Yes});
+    next.trigger("mnuArkivSpara");
+    EXPECT_EQ(next.questions.asked.size(), 2U);
+    LoadProject(folder.file("a.brvk"), other);
+    EXPECT_EQ(other.Proj, "Theirs");
+}
+
+TEST_F(RecoveryTest, onAFullDiskTheFormerCopyStaysAndTheWindowSaysSo) {
+    Program program(folder);
+    program.enter("iproj", "First");
+    const std::string copy = folder.file("copies") + "/" + copies().at(0).toStdString();
+    const std::string first = bytesOf(copy);
+    EXPECT_EQ(std::filesystem::status(copy).permissions(), std::filesystem::perms(0600));
+    EXPECT_EQ(std::filesystem::status(folder.file("copies")).permissions(), std::filesystem::perms(0700));
+    const auto state = [&] { return program.control<QLabel>("stateUnsaved").text(); };
+    EXPECT_EQ(state(), "Unsaved changes");
+    {
+        const FullDisk full(first.size() / 2);
+        program.enter("iproj", "Second");
+    }
+    EXPECT_EQ(bytesOf(copy), first);
+    EXPECT_EQ(state(), "Unsaved changes, no copy kept");
+    program.enter("iproj", "Third");
+    EXPECT_EQ(state(), "Unsaved changes");
+}
+
+TEST_F(RecoveryTest, aSpoiltLockHidesNothingAndNoLockStays) {
+    endUnsaved("A");
+    const std::string locks = folder.file("copies") + "/";
+    const std::string run = copies().at(0).section('.', 0, 0).toStdString();
+    for (const std::string& name : {run + ".lock", std::string("gone.lock")}) {
+        writeBytes(locks + name, "");
+        std::filesystem::last_write_time(locks + name,
+                                         std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    }
+    EXPECT_EQ(Program(folder).start({}).size(), 1U);
+    EXPECT_EQ(copies("*.lock").size(), 0);
 }
 
 TEST_F(RecoveryTest, throwsAwayOrAsksAgain) {

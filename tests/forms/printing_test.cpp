@@ -7,6 +7,9 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStatusBar>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -27,7 +30,7 @@ bool withModal(const std::function<void()>& open, const std::function<void(QDial
         if (dialog == nullptr || came) return;
         came = true;
         use(*dialog);
-        dialog->reject();
+        if (dialog->isVisible()) dialog->reject();
     });
     poll.start();
     open();
@@ -101,6 +104,29 @@ TEST(Printing, theNotesAreOfferedAndOffUnlessChosen) {
     EXPECT_GT(sizeOfPdf("with.pdf"), without + 500);
 }
 
+TEST(Printing, theDialogWritesAFileOnlyOfPagesThatAreThere) {
+    WindowFixture f;
+    const testing_support::TempFolder folder;
+    f.session.context.FileName = folder.file("hall 12.5 t.brvk");
+    f.click("cmdCalc");
+    f.messages.texts.clear();
+    const std::string file = folder.file("hall 12.5 t-ULS.pdf");
+    for (const int page : {9, 1}) {
+        EXPECT_TRUE(withModal([&] { f.trigger("mnuPrintULS"); },
+                              [&](QDialog& dialog) {
+                                  EXPECT_EQ(dialog.findChild<QLineEdit*>("filename")->text().toStdString(), file);
+                                  EXPECT_TRUE(dialog.findChild<QWidget*>("reverse")->isHidden());
+                                  dialog.findChild<QRadioButton*>("printRange")->click();
+                                  dialog.findChild<QSpinBox*>("to")->setValue(page);
+                                  dialog.findChild<QSpinBox*>("from")->setValue(page);
+                                  dialog.accept();
+                              }));
+        EXPECT_EQ(std::filesystem::exists(file), page == 1);
+        EXPECT_EQ(f.lastMessage(), "The report has no page 9.");
+    }
+    EXPECT_THAT(testing_support::bytesOf(file), testing::HasSubstr("/Author <FEFF"));
+}
+
 TEST(Printing, thePdfIsWrittenWhereTheUserSays) {
     WindowFixture f;
     f.click("cmdCalc");
@@ -112,6 +138,7 @@ TEST(Printing, thePdfIsWrittenWhereTheUserSays) {
     EXPECT_TRUE(f.messages.texts.empty());
     EXPECT_EQ(testing_support::bytesOf(file).substr(0, 5), "%PDF-");
     EXPECT_THAT(f.questions.asked.back(), testing::EndsWith(".pdf"));
+    EXPECT_EQ(f.window.statusBar()->currentMessage().toStdString(), "Saved: " + file);
 
     f.questions.toSave.push_back((folder.path() / "no such folder" / "report.pdf").string());
     f.trigger("mnuPdfULS");

@@ -143,8 +143,47 @@ TEST_F(ProjectCommands, saveWritesTheDefaultNameToTheCurrentFolder) {
     EXPECT_EQ(saved.Span(2), 5500);
     EXPECT_TRUE(questions.asked.empty()) << "no dialog";
     EXPECT_FALSE(window.hasUnsavedChanges());
-    EXPECT_EQ(window.windowTitle(), "Borvik : test.brvk");
+    EXPECT_EQ(window.windowTitle(), QString::fromStdString("Borvik : " + folder.file("test.brvk")));
     EXPECT_EQ(recentMenu(), std::vector<std::string>{"1. " + folder.file("test.brvk")});
+}
+
+TEST_F(ProjectCommands, aSaveNeverTakesTheFileOfAnotherUnasked) {
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QString::fromStdString(folder.path().string()));
+    const std::string others = makeFile("test.brvk", "Somebody else's");
+    const std::string bytes = bytesOf(others);
+    trigger("mnuArkivSpara");
+    EXPECT_EQ(questions.asked, std::vector<std::string>{"test.brvk"}) << "a new project asks where its name is taken";
+    EXPECT_EQ(bytesOf(others), bytes);
+
+    window.openProject("test.brvk");
+    QDir::setCurrent(before);
+    EXPECT_EQ(session.context.FileName, others) << "however it was named";
+    const auto saveWith = [&](std::optional<std::size_t> choice) {
+        questions.choices = {choice};
+        questions.asked.clear();
+        enter("iproj", "Mine");
+        trigger("mnuArkivSpara");
+        return questions.asked.size();
+    };
+    EXPECT_EQ(saveWith({}), 0U) << "its own file";
+    const std::string theirs = bytesOf(makeFile("test.brvk", "Changed meanwhile"));
+    EXPECT_EQ(saveWith({}), 1U);
+    questions.toSave = {folder.file("aside.brvk")};
+    EXPECT_EQ(saveWith(1), 2U);
+    EXPECT_EQ(session.context.FileName, folder.file("aside.brvk"));
+    EXPECT_EQ(bytesOf(others), theirs) << "neither a refusal nor another name touches it";
+    trigger("mnuArkivÖppna");
+    EXPECT_EQ(questions.openedIn, folder.path().string());
+
+    window.openProject(others);
+    makeFile("test.brvk", "Once more");
+    saveWith(2);
+    EXPECT_EQ(project().Proj, "Once more");
+    makeFile("test.brvk", "And more");
+    saveWith(0);
+    EXPECT_EQ(project().Proj, "Mine");
+    EXPECT_EQ(saveWith({}), 0U);
 }
 
 TEST_F(ProjectCommands, saveAsTakesTheNewName) {

@@ -19,8 +19,13 @@ public:
         asked.push_back(text);
         return take(answers, Answer::Cancel);
     }
-    std::optional<std::string> fileToOpen(const std::string& pattern) override {
+    std::optional<std::size_t> choose(const std::string& text, const std::vector<std::string>&) override {
+        asked.push_back(text);
+        return take(choices, std::optional<std::size_t>());
+    }
+    std::optional<std::string> fileToOpen(const std::string& pattern, const std::string& folder) override {
         asked.push_back(pattern);
+        openedIn = folder;
         return take(toOpen, std::optional<std::string>());
     }
     std::optional<std::string> fileToSave(const std::string& proposal, const std::string&,
@@ -30,7 +35,9 @@ public:
     }
 
     std::vector<std::string> asked;
+    std::string openedIn;  ///< folder of the last chooser
     std::deque<Answer> answers;
+    std::deque<std::optional<std::size_t>> choices;
     std::deque<std::optional<std::string>> toOpen, toSave;
 
 private:

@@ -187,13 +187,19 @@ TEST(ReportFile, textCanBeReadBackAndLiesOnThePaper) {
 
 TEST(ReportFile, hasEmbeddedFontsAndATitle) {
     const TempFolder folder;
-    calculatedAndSaved(Sample::OneCrane, folder.file("p.brvk"));
+    Session session = calculatedAndSaved(Sample::OneCrane, folder.file("p.brvk"));
+    session.project.Ident += " \x1b & <B>";  // what an archive must still be able to read
+    SaveProject(folder.file("p.brvk"), session.project);
     const std::string file = report(folder, folder.file("p.brvk"), "all");
     const std::vector<std::string> fonts = linesOf(run("pdffonts '" + file + "'").output);
     ASSERT_GT(fonts.size(), 2U);
     for (std::size_t i = 2; i < fonts.size(); ++i) EXPECT_NE(fonts[i].find(" yes "), std::string::npos) << fonts[i];
-    EXPECT_NE(run("pdfinfo '" + file + "'").output.find("Hall Åmål, Girder A"), std::string::npos);
-    EXPECT_NE(run("pdfinfo -meta '" + file + "'").output.find("<dc:creator>"), std::string::npos);
+    const std::string told = run("pdfinfo '" + file + "'").output;
+    EXPECT_NE(told.find("Hall Åmål, Girder A   & <B>"), std::string::npos) << told;
+    EXPECT_NE(told.find("Author: "), std::string::npos) << told;
+    const std::string archived = run("pdfinfo -meta '" + file + "'").output;
+    EXPECT_NE(archived.find("Girder A   &amp; &lt;B&gt;"), std::string::npos) << archived;
+    EXPECT_NE(archived.find("<dc:creator>"), std::string::npos);
 }
 
 TEST(ReportFile, thereIsNoneWithoutResults) {

@@ -226,6 +226,11 @@ TEST(Report, longTitlesAreBrokenAndKeptWhole) {
     EXPECT_NE(text.find(std::string(300, 'x') + ".brvk"), std::string::npos);
     for (const auto& page : printer.pages)
         for (const auto& covered : page->covered) EXPECT_LE(covered.right, printer.pixelsAcross()) << covered.text;
+
+    session.project.Proj = std::string(32767, 'x');  // as much as a box takes: the rest of the page is still to be read
+    RecordingPrinter again(kA4.width, kA4.height);
+    PrintReport(again, session, ReportScope::Uls, {});
+    EXPECT_EQ(again.pages.size(), printer.pages.size());
 }
 
 TEST(Report, inputChaptersTellTheProject) {

@@ -29,7 +29,10 @@ private:
 class NoQuestions : public Questions {
 public:
     Answer yesNoCancel(const std::string&) override { return Answer::No; }
-    std::optional<std::string> fileToOpen(const std::string&) override { return std::nullopt; }
+    std::optional<std::size_t> choose(const std::string&, const std::vector<std::string>&) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> fileToOpen(const std::string&, const std::string&) override { return std::nullopt; }
     std::optional<std::string> fileToSave(const std::string&, const std::string&, const std::string&) override {
         return std::nullopt;
     }

@@ -16,7 +16,9 @@ public:
 class QtQuestions : public Questions {
 public:
     [[nodiscard]] Answer yesNoCancel(const std::string& text) override;
-    [[nodiscard]] std::optional<std::string> fileToOpen(const std::string& pattern) override;
+    [[nodiscard]] std::optional<std::size_t> choose(const std::string& text,
+                                                    const std::vector<std::string>& choices) override;
+    [[nodiscard]] std::optional<std::string> fileToOpen(const std::string& pattern, const std::string& folder) override;
     [[nodiscard]] std::optional<std::string> fileToSave(const std::string& proposal, const std::string& pattern,
                                                         const std::string& extension) override;
 

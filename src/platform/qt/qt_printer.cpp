@@ -3,14 +3,52 @@
 #include <QBuffer>
 #include <QLocale>
 #include <QPdfWriter>
+#include <QRegularExpression>
+#include <algorithm>
 
 #include "platform/qt/saved_bytes.h"
+
+#if __has_include(<pwd.h>)
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 namespace borvik {
 namespace {
 
 constexpr double kMarginMm = 5.0;
 constexpr double kMillimetresPerInch = 25.4;
+
+/// A text without what XML and the lists of PDF readers can't hold.
+QString plain(QString text) {
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QChar(' '));
+    return text;
+}
+
+/// Adds the author to the properties of a PDF, which the writer leaves without one: the changed properties are appended
+/// with a list of places of their own, as the format provides.
+QByteArray withAuthor(const QByteArray& pdf, const QString& author) {
+    static const QRegularExpression end(
+        QStringLiteral("trailer\\s*<<(.*/Info (\\d+) 0 R.*)>>\\s*startxref\\s*(\\d+)\\s*%%EOF\\s*$"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const auto trailer = end.match(QString::fromLatin1(pdf.mid(pdf.lastIndexOf("trailer"))));
+    if (!trailer.hasMatch()) return pdf;
+    const QByteArray head = trailer.captured(2).toLatin1() + " 0 obj\n<<\n";
+    const qsizetype from = pdf.indexOf(head), to = pdf.indexOf(">>\nendobj", from);
+    if (from < 0 || to < 0) return pdf;
+    QByteArray name("FEFF");
+    for (const QChar c : author) name += QByteArray::number(c.unicode(), 16).rightJustified(4, '0');
+    QByteArray made = pdf;
+    const auto place = [&made] { return QByteArray::number(made.size()); };
+    const QByteArray properties = place();
+    made += pdf.mid(from, to - from) + "/Author <" + name + ">\n>>\nendobj\n";
+    const QByteArray list = place();
+    made += "xref\n" + trailer.captured(2).toLatin1() + " 1\n" + properties.rightJustified(10, '0') +
+            " 00000 n \ntrailer\n<<" + trailer.captured(1).toLatin1() + "/Prev " + trailer.captured(3).toLatin1() +
+            "\n>>\nstartxref\n" + list + "\n%%EOF\n";
+    return made;
+}
 
 /// The document's properties in the form that PDF readers and archives look for.
 QByteArray metadata(const DocumentProperties& properties) {
@@ -28,7 +66,8 @@ QByteArray metadata(const DocumentProperties& properties) {
         "</x:xmpmeta>\n"
         "<?xpacket end=\"w\"?>\n");
     return xmp
-        .arg(properties.title.toHtmlEscaped(), properties.author.toHtmlEscaped(), properties.program.toHtmlEscaped())
+        .arg(plain(properties.title).toHtmlEscaped(), plain(properties.author).toHtmlEscaped(),
+             properties.program.toHtmlEscaped())
         .toUtf8();
 }
 
@@ -49,6 +88,9 @@ Extent QtPrinter::printableArea() const {
 QString documentAuthor() {
     for (const char* variable : {"USER", "USERNAME", "LOGNAME"})
         if (QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+#if __has_include(<pwd.h>)
+    if (const passwd* user = ::getpwuid(::geteuid()); user != nullptr) return QString::fromLocal8Bit(user->pw_name);
+#endif
     return QStringLiteral("Borvik");
 }
 
@@ -58,23 +100,28 @@ QPageLayout defaultPageLayout() {
             QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter};
 }
 
-QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
-                const DocumentProperties& properties) {
+QByteArray renderPdf(const PrintedDocument& document, const QPageLayout& layout, const DocumentProperties& properties) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setPageLayout(layout);
-    writer.setTitle(properties.title);
+    writer.setTitle(plain(properties.title));
     writer.setCreator(properties.program);
     writer.setDocumentXmpMetadata(metadata(properties));
     {
         QtPrinter printer(writer);
-        if (!printer.isActive()) return QStringLiteral("The pages cannot be drawn");
+        if (!printer.isActive()) return {};
         document(printer);
-        if (!printer.end()) return QStringLiteral("The pages cannot be drawn");
+        if (!printer.end()) return {};
     }
-    return saveBytes(fileName, bytes);
+    return withAuthor(bytes, plain(properties.author));
+}
+
+QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
+                const DocumentProperties& properties) {
+    const QByteArray bytes = renderPdf(document, layout, properties);
+    return bytes.isEmpty() ? QStringLiteral("The pages cannot be drawn") : saveBytes(fileName, bytes);
 }
 
 }  // namespace borvik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -50,7 +51,11 @@ struct DocumentProperties {
 /// Paper of a new document: A4, or Letter where that is the custom; portrait, with the narrow margins of a printer.
 [[nodiscard]] QPageLayout defaultPageLayout();
 
-/// Saves a document as PDF, texts as texts with their fonts embedded. The old file stays until the new one is whole.
+/// A document as PDF, texts as texts with their fonts embedded; empty where the pages can't be drawn.
+[[nodiscard]] QByteArray renderPdf(const PrintedDocument& document, const QPageLayout& layout,
+                                   const DocumentProperties& properties);
+
+/// Saves a document as PDF. The old file stays until the new one is whole.
 /// @return an empty text, or what went wrong
 [[nodiscard]] QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
                               const DocumentProperties& properties);

@@ -1,13 +1,25 @@
 #include "platform/qt/qt_settings.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace borvik {
 
 namespace {
 
+QString fileOf(const QString& application) {
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Borvik"), application).fileName();
+}
+
+/// The settings of an application; none where a pipe or the like has their place, as reading it may never end.
 QSettings storeOf(const std::string& application) {
-    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Borvik"), QString::fromStdString(application)};
+    const QString name = QString::fromStdString(application);
+    // Found beside a file that isn't there: to ask for the name itself would read the file.
+    const QFileInfo file(QFileInfo(fileOf(QStringLiteral("-"))).dir(), name + QStringLiteral(".ini"));
+    const bool isReadable = !file.exists() || file.isFile();
+    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Borvik"),
+            isReadable ? name : name + QStringLiteral("-2")};
 }
 
 QString path(const std::string& section, const std::string& key) {

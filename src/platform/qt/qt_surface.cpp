@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPolygonF>
 
 namespace borvik {
@@ -10,6 +11,14 @@ namespace {
 
 QColor toQt(Colour colour) {
     return {colour.red, colour.green, colour.blue};
+}
+
+/// Asked once for each name: a report sets its font thousands of times, and the database takes long to answer.
+bool isInstalled(const QString& family) {
+    static QHash<QString, bool> answers;
+    auto answer = answers.find(family);
+    if (answer == answers.end()) answer = answers.insert(family, QFontDatabase::hasFamily(family));
+    return *answer;
 }
 
 /// The font asked for, or an installed sans serif one of the same width.
@@ -25,7 +34,7 @@ QFont toQt(const Font& font, double scale) {
     made.setStyleHint(QFont::SansSerif);
     bool found = false;
     for (const QString& candidate : candidates)
-        if (QFontDatabase::hasFamily(candidate)) {
+        if (isInstalled(candidate)) {
             made.setFamily(candidate);
             found = true;
             break;

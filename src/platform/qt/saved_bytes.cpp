@@ -10,7 +10,7 @@ QString saveBytes(const std::string& fileName, const QByteArray& bytes) {
     try {
         replaceFile(fileName, bytes.toStdString());
     } catch (const std::system_error& error) {
-        return QString::fromStdString(error.code().message());
+        return QString::fromStdString(reasonOf(error));
     }
     return {};
 }
