@@ -1,6 +1,5 @@
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStatusBar>
 #include <filesystem>
@@ -103,7 +102,7 @@ void MainWindow::openExample(const QFileInfo& file) {
 
 void MainWindow::openRecent(int entry) {
     const std::string path = RescentFile::pathOf(recent_.captions().at(static_cast<std::size_t>(entry)));
-    if (!QFile(QString::fromStdString(path)).open(QIODevice::ReadOnly)) {
+    if (const QFileInfo file(QString::fromStdString(path)); !file.exists() || !file.isReadable()) {
         services_.messages.show("can't find file - " + path);
         return;
     }
