@@ -31,7 +31,7 @@ TEST(StiffnessSolution, agreesWithTheWalksOnRandomBeams) {
         const UlsResults uls = RunUls(c.project, c.loads, WalkMethod::Fast, messages, progress);
         const SlsResults sls = RunSls(c.project, c.loads, WalkMethod::Fast, messages, progress);
         const FlsResults fls = RunFls(c.project, c.loads, WalkMethod::Fast, messages, progress);
-        ASSERT_EQ(disagreement(uls, walked, c.project, kTolerance, false), "");
+        ASSERT_EQ(disagreement(uls, walked, c.project, kTolerance), "");
         ASSERT_EQ(disagreement(sls, walked, c.project, kTolerance), "");
         ASSERT_EQ(disagreement(fls, walked, c.project, kTolerance), "");
     }
@@ -48,32 +48,32 @@ TEST(StiffnessSolution, agreesOnLongBeams) {
         walked.walk();
         SCOPED_TRACE("case " + std::to_string(number));
         const UlsResults uls = RunUls(c.project, c.loads, WalkMethod::Plain, messages, progress);
-        ASSERT_EQ(disagreement(uls, walked, c.project, kTolerance, false), "");
+        ASSERT_EQ(disagreement(uls, walked, c.project, kTolerance), "");
     }
 }
 
-/// A crane position as a point record tells it, if it can be told: a wheel off the beam leaves no trace of where.
-struct ToldPosition {
-    ToldPosition(const BeamCase& c, const WalkedBeam& walked, const Cube<Single>& record, int i, int k) {
+/// The crane position of a point record, if it can be known: a wheel off the beam leaves no trace of where.
+struct RecordedPosition {
+    RecordedPosition(const BeamCase& c, const WalkedBeam& walked, const Cube<Single>& record, int i, int k) {
         const bool independent = c.loads.NCranes == 2 && c.project.MinDistConst != 1.0 && !c.project.Fixerad;
         if (record(i, k, 5) == 0) return;
         if (c.project.StartStopOutside != 0 && (independent || record(i, k, 6) == 0)) return;
         x1 = walked.onAxis(static_cast<int>(record(i, k, 5)), record(i, k, 6));
         x5 = walked.wheel5(x1);
-        told = true;
+        known = true;
         if (!independent) return;
-        told = record.slots() == 8 && x5 > 0;
-        if (!told) return;
+        known = record.slots() == 8 && x5 > 0;
+        if (!known) return;
         const bool offTheBeam = record(i, k, 7) == 1 && record(i, k, 8) == 0;
         x5 = offTheBeam ? 1e9 : walked.onAxis(static_cast<int>(record(i, k, 7)), record(i, k, 8));
     }
-    bool told = false;
+    bool known = false;
     double x1 = 0, x5 = 0;
 };
 
 /// Whether the stiffness solution gives the forces of a record. A wheel that stands at the point but for rounding may
 /// count on either side of it.
-::testing::AssertionResult holds(const Cube<Single>& record, int i, int k, const ToldPosition& position,
+::testing::AssertionResult holds(const Cube<Single>& record, int i, int k, const RecordedPosition& position,
                                  const double (&largest)[5], WalkedBeam& walked) {
     std::array<double, 5> forces{};
     for (const double nudge : {0.0, -0.01, 0.01}) {
@@ -113,8 +113,8 @@ TEST(StiffnessSolution, givesTheSimultaneousForcesOfEveryRecord) {
         });
         SCOPED_TRACE("case " + std::to_string(number));
         forEveryPoint([&](const Cube<Single>& record, int i, int k) {
-            const ToldPosition position(c, walked, record, i, k);
-            if (!position.told) return;
+            const RecordedPosition position(c, walked, record, i, k);
+            if (!position.known) return;
             ++compared;
             EXPECT_TRUE(holds(record, i, k, position, largest, walked));
         });

@@ -372,21 +372,5 @@ TEST(Calculate, turnsTheReactionOfTheLastSupportRound) {
     EXPECT_EQ(uls.RyMax(4), 0);
 }
 
-TEST(Sessions, knowNothingOfEachOther) {
-    TestSession alone, one, other;
-    alone.calculate();
-    other.project.NofCranes = 2;
-    other.project.V(5) = 80;
-    other.project.fyk = 235;
-    other.project.Span(1) = 7000;
-    other.calculate();
-    one.calculate();
-    other.calculate();
-    EXPECT_EQ(one.json(), alone.json());
-    EXPECT_NE(one.json(), other.json());
-    one.calculate();
-    EXPECT_EQ(one.json(), alone.json());
-}
-
 }  // namespace
 }  // namespace borvik

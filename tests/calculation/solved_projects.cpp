@@ -1,7 +1,5 @@
 #include "solved_projects.h"
 
-#include <algorithm>
-
 #include "project/project_file.h"
 #include "results/json.h"
 
@@ -22,15 +20,6 @@ bool TestSession::calculate(WalkMethod method) {
 
 std::string TestSession::json() const {
     return ResultsJson(*this, messages.texts, std::nullopt, "Borvik", true);
-}
-
-std::vector<std::filesystem::path> projectFiles() {
-    std::vector<std::filesystem::path> files;
-    for (const char* folder : {"/examples", "/tests/data/vectors"})
-        for (const auto& entry : std::filesystem::directory_iterator(std::string(BORVIK_SOURCE_DIR) + folder))
-            if (entry.path().extension() == ".brvk") files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
 namespace {

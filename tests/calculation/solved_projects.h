@@ -21,9 +21,6 @@ struct TestSession : Session {
     MessageList messages;
 };
 
-/// All example projects and all projects with independent results, sorted.
-[[nodiscard]] std::vector<std::filesystem::path> projectFiles();
-
 /// A project as the forms could have made it: 1 to 5 spans of rolled or welded sections, reinforced or not, one crane,
 /// two in every mode or a hoist, every fatigue detail. It passes the input checks; the beam is short so that many are
 /// quick.

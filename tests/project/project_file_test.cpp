@@ -265,22 +265,6 @@ TEST(ProjectFile, lengthsInTheFileAreNotBelieved) {
     }
 }
 
-TEST(ProjectFile, noiseNeverDoesMoreThanFail) {
-    std::mt19937 random(7);
-    const std::string bytes = bytesOf(kVectors + "/case-10.brvk");
-    for (int i = 0; i < 500; ++i) {
-        std::string noisy = bytes;
-        for (int n = 0; n < 20; ++n) noisy[random() % noisy.size()] = static_cast<char>(random());
-        Project project;
-        try {
-            ReadProjectBytes(noisy, project);
-            (void)bytesFrom(project);
-        } catch (const ProjectFileError&) {
-            SUCCEED();
-        }
-    }
-}
-
 TEST(ProjectFile, aSectionWithoutADisplayNameTakesItsTableName) {
     Project saved, project;
     saved.SpanSection = Array<SectionRecord>(1, 2);

@@ -103,6 +103,7 @@ TEST(WebClass, followsTheAxes) {
         {"42/(0.67 + 0.33 psi)", 93.3, 0.25, 0.4, 3, 1},
         {"above that too", 93.4, 0.25, 0.4, 4, 1},
         {"36/alpha on the other side", 144.0, 0.25, 0.4, 4, 1},
+        {"just above it", 144.1, 0.25, 0.4, 4, 2},
         {"41.5/alpha", 166.0, 0.25, 0.4, 4, 2},
         {"62 (1 - psi) sqrt(-psi)", 189.7, 0.25, 0.4, 4, 3},
         {"above all", 190.0, 0.25, 0.4, 4, 4},

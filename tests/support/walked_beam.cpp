@@ -92,11 +92,11 @@ void compareSpans(Comparison& comparison, const char* name, const Cube<Single>& 
 }
 
 void compareReactions(Comparison& comparison, const char* name, const Array<Single>& most, const Array<Single>& least,
-                      const std::vector<Range>& walked, bool lastTurned) {
+                      const std::vector<Range>& walked) {
     comparison.scale(largest(walked, 1000.0));
     for (int support = 1; support <= most.last(); ++support) {
         const Range& R = walked[static_cast<std::size_t>(support)];
-        const bool shearSign = support == most.last() && !lastTurned;
+        const bool shearSign = support == most.last();
         comparison.expect(name, support, 1, most(support), shearSign ? -R.smallest : R.largest);
         comparison.expect(name, support, 2, least(support), shearSign ? -R.largest : R.smallest);
     }
@@ -203,16 +203,15 @@ double WalkedBeam::onAxis(int span, double a) const {
     return x + a;
 }
 
-std::string disagreement(const UlsResults& uls, WalkedBeam& walked, const Project& project, double tolerance,
-                         bool lastReactionTurned) {
+std::string disagreement(const UlsResults& uls, WalkedBeam& walked, const Project& project, double tolerance) {
     Comparison comparison(tolerance);
     const PlaneEnvelopes &z = walked.vertical(), &y = walked.horizontal();
     compareRecords(comparison, "My", uls.MyMaxPoint, uls.MyMinPoint, 1, z.M);
     compareRecords(comparison, "Vz", uls.VzMaxPoint, uls.VzMinPoint, 2, z.V);
     compareRecords(comparison, "Mz", uls.MzMaxPoint, uls.MzMinPoint, 3, y.M);
     compareRecords(comparison, "Vy", uls.VyMaxPoint, uls.VyMinPoint, 4, y.V);
-    compareReactions(comparison, "Rz", uls.RzMax, uls.RzMin, z.R, lastReactionTurned);
-    compareReactions(comparison, "Ry", uls.RyMax, uls.RyMin, y.R, lastReactionTurned);
+    compareReactions(comparison, "Rz", uls.RzMax, uls.RzMin, z.R);
+    compareReactions(comparison, "Ry", uls.RyMax, uls.RyMin, y.R);
     const struct {
         const char* name;
         const Cube<Single>& point;
@@ -231,7 +230,7 @@ std::string disagreement(const FlsResults& fls, WalkedBeam& walked, const Projec
     const PlaneEnvelopes& z = walked.vertical();
     compareRecords(comparison, "FlsMy", fls.FlsMyMaxPoint, fls.FlsMyMinPoint, 1, z.M);
     compareRecords(comparison, "FlsVz", fls.FlsVzMaxPoint, fls.FlsVzMinPoint, 2, z.V);
-    compareReactions(comparison, "FlsRz", fls.FlsRzMax, fls.FlsRzMin, z.R, false);
+    compareReactions(comparison, "FlsRz", fls.FlsRzMax, fls.FlsRzMin, z.R);
     return comparison.text();
 }
 

@@ -56,10 +56,10 @@ private:
 };
 
 /// What disagrees between a walk of the program and the stiffness solution, as text; empty where all agree to
-/// `tolerance` of the largest magnitude of the quantity on the beam. The reaction at the last support is taken with the
-/// sign that the walk leaves it, that of the shear, unless `lastReactionTurned`.
+/// `tolerance` of the largest magnitude of the quantity on the beam. The reaction at the last support has the
+/// sign of the shear, as the walk leaves it.
 [[nodiscard]] std::string disagreement(const UlsResults& uls, WalkedBeam& walked, const Project& project,
-                                       double tolerance, bool lastReactionTurned);
+                                       double tolerance);
 [[nodiscard]] std::string disagreement(const FlsResults& fls, WalkedBeam& walked, const Project& project,
                                        double tolerance);
 [[nodiscard]] std::string disagreement(const SlsResults& sls, WalkedBeam& walked, const Project& project,

@@ -11,7 +11,8 @@ namespace {
 constexpr double kE = 210000;  // N/mm2
 
 struct Wheel {
-    double x, P;  ///< mm from the left end of the beam, kN
+    double x, P;   ///< mm from the left end of the beam, kN
+    double H = 0;  ///< kN, in the horizontal plane
 };
 
 /// A beam under uniform loads and wheels that stand still, calculated by the walk of the program.
@@ -34,6 +35,7 @@ public:
         for (std::size_t w = 0; w < wheels.size(); ++w) {
             const int wheel = static_cast<int>(w) + 1;
             loads_.WheelV(wheel) = wheels[w].P;
+            loads_.WheelH(wheel) = wheels[w].H;
             if (w > 0) project_.Avst(wheel - 1) = wheels[w].x - wheels[w - 1].x;
         }
         if (!wheels.empty()) {
@@ -50,12 +52,17 @@ public:
     [[nodiscard]] double M(int span, int k) const {
         return (uls_.MyMaxPoint(span, k, 1) + uls_.MyMinPoint(span, k, 1)) / 1e6;
     }
+    [[nodiscard]] double Mz(int span, int k) const {
+        return (uls_.MzMaxPoint(span, k, 3) + uls_.MzMinPoint(span, k, 3)) / 1e6;
+    }
     [[nodiscard]] double R(int support) const {
         const double sum = uls_.RzMax(support) + uls_.RzMin(support);
         return (support == project_.NofSpans + 1 ? -sum : sum) / 1000;  // the last one has the sign of the shear
     }
     /// Downward positive.
     [[nodiscard]] double w(int span, int k) const { return -sls_.UzMaxPoint(span, k, 1); }
+    /// Along the load positive.
+    [[nodiscard]] double v(int span, int k) const { return -sls_.UyMaxPoint(span, k, 1); }
 
 private:
     Project project_;
@@ -79,6 +86,13 @@ std::function<double(const StandingLoad&)> R(int support) {
 }
 std::function<double(const StandingLoad&)> w(int span, int k) {
     return [=](const StandingLoad& beam) { return beam.w(span, k); };
+}
+
+std::function<double(const StandingLoad&)> Mz(int span, int k) {
+    return [=](const StandingLoad& beam) { return beam.Mz(span, k); };
+}
+std::function<double(const StandingLoad&)> v(int span, int k) {
+    return [=](const StandingLoad& beam) { return beam.v(span, k); };
 }
 
 struct BeamExample {
@@ -147,6 +161,34 @@ Structures*, moving loads).)",
           {"R_A, kN", "13/32 P", 40.625, R(1)},
           {"R_B, kN", "22/32 P", 68.75, R(2)},
           {"R_C, kN", "-3/32 P", -9.375, R(3)}}},
+        {"Horizontal loads",
+         "The same beam with H = 8 kN beside P and the same I about the vertical axis: the horizontal plane is a beam "
+         "of "
+         "its own.",
+         {6000, 6000},
+         {I, I},
+         {0, 0},
+         {{3000, 100, 8}},
+         {{"Mz over B, kNm", "-3/32 H L", -4.5, Mz(1, 21)},
+          {"Mz under H, kNm", "13/64 H L", 9.75, Mz(1, 11)},
+          {"v under H, mm", "23 H L^3/(1536 E I)", 23 * 8e3 * 216e9 / (1536 * EI), v(1, 11)}}},
+        {"Propped cantilever: a very stiff second span",
+         "L = 6 m, P = 100 kN in the middle of the first span, I2 = 1e8 I1, which clamps its end. Roark, table 8.1, "
+         "case 1c.",
+         {6000, 6000},
+         {I, 1e8 * I},
+         {0, 0},
+         {{3000, 100}},
+         {{"M_B, kNm", "-3/16 P L", -112.5, M(1, 21)},
+          {"R_A, kN", "5/16 P", 31.25, R(1)},
+          {"w under P, mm", "7 P L^3/(768 E I)", 7e5 * 216e9 / (768 * EI), w(1, 11)}}},
+        {"Beam clamped at both ends: very stiff neighbours",
+         "The same load in the middle of three spans, I1 = I3 = 1e8 I2.",
+         {6000, 6000, 6000},
+         {1e8 * I, I, 1e8 * I},
+         {0, 0, 0},
+         {{9000, 100}},
+         {{"M_B, kNm", "-P L/8", -75, M(2, 1)}, {"M under P, kNm", "P L/8", 75, M(2, 11)}}},
         {"Two unequal spans, uniform load",
          "L1 = 5 m, L2 = 8 m, q = 12 kN/m.",
          {5000, 8000},
