@@ -5,9 +5,6 @@
 
 namespace borvik {
 
-// --- Plane
-// ------------------------------------------------------------------------------------------------------------
-
 Plane Plane::vertical(const LoadedBeam& loaded) {
     return {loaded.beam, loaded.beam.z, loaded.beam.Iy, loaded.pointsZ, loaded.placer.loads().WheelV, loaded.deadTerms};
 }
@@ -41,9 +38,6 @@ void Plane::solve(PerSpan& b, PerSpan& X) const {
     X[0] = 0;
 }
 
-// --- Positions of a crane
-// -----------------------------------------------------------------------------------------------
-
 CranePositions::CranePositions(const Beam& beam, int firstWheel, int lastWheel)
     : beam_(beam), firstWheel_(firstWheel), wheels_(lastWheel - firstWheel + 1) {}
 
@@ -57,9 +51,6 @@ void CranePositions::addVariant(const Wheels& placed) {
         stands_.push_back({static_cast<float>(wheel.a), static_cast<float>(wheel.b), span});
     }
 }
-
-// --- Response of a crane
-// ------------------------------------------------------------------------------------------------
 
 CraneResponse::CraneResponse(const Plane& plane, int last)
     : plane_(plane),

@@ -12,8 +12,7 @@ namespace borvik {
 /// its error bound and the proof.
 /// @param quantity  what `post` compares
 /// @return false where the method does not apply or would not pay; nothing has been recorded then and the plain walk
-/// has to
-///         be taken
+///         has to be taken
 [[nodiscard]] bool walkFast(const WalkSteps& steps, const LoadedBeam& loaded, Quantity quantity, PostProcess& post,
                             Walk walk, Progress& progress);
 

@@ -27,9 +27,6 @@ MomentBounds::MomentBounds(const Plane& plane, const Magnitudes& m1, const Magni
     }
 }
 
-// --- Points of a span
-// ---------------------------------------------------------------------------------------------------
-
 SpanLanes::SpanLanes(const Plane& plane, int i, Quantity quantity, const MomentBounds& bounds)
     : points_(plane.points[static_cast<std::size_t>(i)]) {
     const bool forces = quantity == Quantity::Forces;
@@ -93,9 +90,6 @@ void SpanLanes::row(const CraneResponse& crane, int p, int variant, double* valu
     if (forces)
         for (int k = 1; k <= kPoints; ++k) values[kPoints + k - 1] += second[k];
 }
-
-// --- Reaction
-// -----------------------------------------------------------------------------------------------------------
 
 ReactionLane::ReactionLane(const Plane& plane, int i, const MomentBounds& bounds) : plane_(plane) {
     count = 1;

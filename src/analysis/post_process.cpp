@@ -4,8 +4,6 @@
 
 namespace borvik {
 
-// --- Forces ---------------------------------------------------------------------------------------------------------
-
 SpanForces::SpanForces(const LoadedBeam& loaded)
     : loaded_(loaded), steps_(static_cast<std::size_t>(loaded.beam.n + 1)) {}
 
@@ -31,9 +29,6 @@ void SpanForces::updateReactions(int shear, SpanMask mask, Array<Single>& larges
         if (contains(mask, i - 1) && contains(mask, i))
             update(i, double{step(i).quantity[shear][1]} - double{step(i - 1).quantity[shear][kPoints]});
 }
-
-// --- Ultimate limit state
-// ---------------------------------------------------------------------------------------------
 
 UlsPostProcess::UlsPostProcess(const LoadedBeam& loaded, UlsResults& results)
     : loaded_(loaded), results_(results), forces_(loaded), recorder_(kUlsEnvelopes, loaded.beam.n, 8, 6, results) {
@@ -75,9 +70,6 @@ void UlsPostProcess::recordSupportMoment(int i, const Wheels& wheels) {
     record(i, 8) = wheels[5].a;
 }
 
-// --- Fatigue limit state
-// ------------------------------------------------------------------------------------------------
-
 FlsPostProcess::FlsPostProcess(const LoadedBeam& loaded, FlsResults& results)
     : loaded_(loaded), results_(results), forces_(loaded), recorder_(kFlsEnvelopes, loaded.beam.n, 6, 6, results) {
     results.FlsRzMax = results.FlsRzMin = Array<Single>(1, loaded.beam.n + 1);
@@ -91,9 +83,6 @@ void FlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
     }
     forces_.updateReactions(2, mask, results_.FlsRzMax, results_.FlsRzMin);
 }
-
-// --- Serviceability limit state
-// -----------------------------------------------------------------------------------------
 
 SlsPostProcess::SlsPostProcess(const LoadedBeam& loaded, SlsResults& results) : loaded_(loaded), results_(results) {
     const int n = loaded.beam.n;

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <limits>
-#include <memory>
 
 #include "analysis/fast_walk.h"
 #include "analysis/position.h"

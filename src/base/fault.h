@@ -35,9 +35,9 @@ public:
     ArithmeticFlags(const ArithmeticFlags&) = delete;
     ArithmeticFlags& operator=(const ArithmeticFlags&) = delete;
 
-    /// @throws RuntimeFault  when a division by zero, an invalid operation (such as the root of a negative number) or
-    /// an
-    ///                       overflow happened since construction
+    /// @throws RuntimeFault  when a division by zero, an invalid operation (such as
+    ///                       the root of a negative number) or an overflow happened
+    ///                       since construction
     void check() const;
 
 private:

@@ -16,8 +16,8 @@ double largestWheel(const Project& project) {
 }
 
 /// Coefficients of the local stresses at the web (1), under the wheel (2), at the flange tip (3), parallel flanges:
-/// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu. That is
-/// meant.
+/// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu: note
+/// D11.
 struct LocalCoefficients {
     double cx[3], cy[3];
 };
@@ -110,7 +110,7 @@ void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResu
             const double MyMax = uls.MyMaxSpan(span, 1), MyMin = uls.MyMinSpan(span, 1);
             const double Sf =
                 std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
-            // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0. That is meant.
+            // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0: note D7.
             const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
                                                  Sf / project.fyk / project.GammaM0);
 

@@ -38,7 +38,7 @@ void copyRows(RowSet<To>& to, const RowSet<From>& from, int first, int last) {
 [[nodiscard]] inline bool isSatisfied(double ratio) { return ratio >= 0.0 && ratio <= 1.0; }
 
 /// True when ratio text `a` ranks above `b`: the texts are compared character by character, so that "10.000" ranks below
-/// "9.000". That is meant, here and wherever a governing row is chosen.
+/// "9.000", here and wherever a governing row is chosen: note H1.
 [[nodiscard]] inline bool ranksAbove(const std::string& a, const std::string& b) { return a > b; }
 
 /// Rows of all static checks. Arrays run over the spans, 1..NofSpans.

@@ -14,8 +14,8 @@ void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResult
 
 /// Wheels of a monorail on the bottom flange, EN 1993-6 6.7: bending of the flange under half of the largest factored
 /// wheel. Fills LocalSpan and LocalGov.
-/// @throws RuntimeFault  naming the span, on an arithmetic fault; a wheel that runs on the root of the web (m = 0) is
-/// one
+/// @throws RuntimeFault  naming the span, on an arithmetic fault, such as a wheel that runs on the root of the web
+///                       (m = 0)
 void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResults& checks);
 
 /// Von Mises stress in the bottom flange of a monorail, EN 1993-6 5.8 and 7.5: local stresses of a wheel pair at the
@@ -62,7 +62,7 @@ struct VonMisesBasis {
 [[nodiscard]] double VonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis);
 
 /// Governing rows of a local check: the larger of the last two spans, the last one at a tie. A larger ratio of an
-/// earlier span stands in its own rows only. That is meant.
+/// earlier span stands in its own rows only: note H2.
 [[nodiscard]] RowSet<6> governingLocal(const Array<RowSet<4>>& perSpan);
 
 }  // namespace borvik

@@ -33,8 +33,8 @@ PatchLoad patchLoad(const Project& project, const SectionRecord& section, double
 }  // namespace
 
 double PatchResistance(const Project& project, const SectionRecord& section, double leff, double a, bool stockyRule) {
-    const PatchLoad told = patchLoad(project, section, leff, a, true);
-    return stockyRule && told.lamF <= 0.5 ? patchLoad(project, section, leff, a, false).FRd : told.FRd;
+    const PatchLoad slender = patchLoad(project, section, leff, a, true);
+    return stockyRule && slender.lamF <= 0.5 ? patchLoad(project, section, leff, a, false).FRd : slender.FRd;
 }
 
 void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResults& checks) {

@@ -23,8 +23,7 @@ struct BendingTexts {
     FormulaTexts alone, linear, power;
 };
 
-// A blank and a bracket tell the two apart. That is meant: readers of a report see at once which moment a row belongs
-// to.
+// A blank and a bracket tell the two apart, so that readers of a report see at once which moment a row belongs to.
 constexpr BendingTexts kBendMaxTexts{
     {"IR = My,Ed/My,Rd = ", "IR = My,Ed/MV,y,Rd = "},
     {"IR = My,Ed/My,Rd + Mz,Ed/Mz,Rd = ", "IR = My,Ed/MV,y,Rd + Mz,Ed/Mz,Rd = "},

@@ -11,7 +11,8 @@ int countWheels(const Project& project, int crane) {
     const double third = project.V(first + 2);
     const double fourth = project.V(first + 3);
 
-    // The cranes differ on purpose: crane 2 is taken as a two-wheel crane as soon as its third wheel carries nothing.
+    // Crane 2 is taken as a two-wheel crane as soon as its third wheel carries nothing. The cranes so differ where a
+    // fourth wheel follows on an empty third.
     const double behindSecond = crane == 1 ? fourth : third;
     if (second == 0.0 && third == 0.0 && fourth == 0.0) return 1;
     if (third == 0.0 && behindSecond == 0.0) return 2;

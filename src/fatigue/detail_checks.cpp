@@ -88,7 +88,6 @@ public:
     [[nodiscard]] std::vector<DamagePoint> sums() const;
 
 private:
-    // Places
     [[nodiscard]] bool atSplices() const;
     [[nodiscard]] const SpliceFields& splices() const;
     [[nodiscard]] int rowCount() const;
@@ -264,8 +263,8 @@ void DetailCheck::addEachSet(Damage& damage, const Place& place, const LocalStre
 
 /// The weld of top flange and web under the larger of the two cranes' wheels. Factors are crossed over between the
 /// cranes, and differently for a fillet weld (all direct terms with the factor of both cranes); crane 1's shear is that
-/// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. All of this
-/// is meant.
+/// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. Note
+/// G11.
 void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const {
     const auto& [Cr1, Cr2, Cr12] = in_.factors;
     const double F1 = largestWheel(project_, 1);
@@ -292,7 +291,7 @@ void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const Loc
 }
 
 /// The web's shear in the weld W2, here with the load factor inside the power. A fillet weld takes the throat factor of
-/// W1 in addition, and a full penetration weld keeps the throat factor of its own; both are meant.
+/// W1 in addition, and a full penetration weld keeps the throat factor of its own: note G12.
 void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place) const {
     const Term& term = detail_.terms[0];
     const double GammaFf = project_.GammaFf;

@@ -11,8 +11,8 @@ constexpr Weld kW1{&Project::W1, &Project::W1a};
 constexpr Weld kW2{&Project::W2, &Project::W2a};
 constexpr Weld kRW2{&Project::RW2, &Project::RW2a};
 constexpr Weld kRW3{&Project::RW3, &Project::RW3a};
-/// Detail 6 of a monorail: whether the weld is a fillet is said by RW3, its throat stands in RW4. Both are meant; the
-/// kind of RW4 is read by nothing.
+/// Detail 6 of a monorail: RW3 holds the kind of the weld, RW4 its throat; the kind of RW4 is read by nothing. Note
+/// G20.
 constexpr Weld kRW3throatRW4{&Project::RW3, &Project::RW4a};
 
 constexpr bool kBracketed = true;
@@ -22,7 +22,7 @@ constexpr bool kBracketed = true;
 const SpliceFields kOverheadSplices{&Project::ChkFat5Sp, &Project::Fat5Span, &Project::Fat5d1, &Project::Fat5Span};
 
 /// The stress of a monorail's splice is read at the span that the overhead crane's splice of the same number names,
-/// while its point and the printed place follow its own span. That is meant: both fields carry the same span in a sound
+/// while its point and the printed place follow its own span: note G24. Both fields carry the same span in a sound
 /// project.
 const SpliceFields kMonorailSplices{&Project::ChkFatR5Sp, &Project::FatR5Span, &Project::FatR5d1, &Project::Fat5Span};
 
@@ -57,8 +57,8 @@ const std::array<Detail, 6> kOverheadDetails{{
                "3: IR = D1^3 + D1^5 + D2^3 + D2^5 + D12^3 + D12^5 = "},
      .together = Together::TopFlangeWeld},
 
-    // Its rows live in the list of detail 6, which stands behind it and replaces them when it is checked too. The load
-    // factor stands outside the power, though the printed formula shows it inside; both are meant.
+    // Its rows live in the list of detail 6, which stands behind it and replaces them when it is checked too: note H6.
+    // The load factor stands outside the power, though the printed formula shows it inside: note G4.
     {.name = "Fatigue detail 4, bottom flange to web",
      .checked = &Project::Fat4,
      .result = 4,
@@ -105,8 +105,8 @@ const std::array<Detail, 6> kMonorailDetails{{
      .terms = {{{Stress::Support, &Project::FatR2C1, kDirect}}},
      .label = {"2: IR = [dSigE2/dSigc]^3 = "}},
 
-    // GammaMf divides the direct term's damage instead of raising it, though the printed formula shows the usual form;
-    // and the load factor stands outside the power of its shear term. Both are meant.
+    // GammaMf divides the direct term's damage instead of raising it, though the printed formula shows the usual form:
+    // note G3. The load factor stands outside the power of its shear term: note G4.
     {.name = "Fatigue detail 3, top flange to web at support",
      .checked = &Project::FatR3,
      .result = 3,
@@ -133,7 +133,7 @@ const std::array<Detail, 6> kMonorailDetails{{
      .label = {"5: IR = [dSigE2/dSigc]^3 = "}},
 
     // One term is the same all along a span; points are ranked by the text of the whole sum against the three decimals
-    // of the row so far. So of points that show alike a later one may be named, which is meant.
+    // of the row so far. So of points that show alike a later one may be named (theory manual, H4).
     {.name = "Fatigue detail 6, bottom flange to web",
      .checked = &Project::FatR6,
      .result = 6,

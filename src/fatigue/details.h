@@ -47,7 +47,7 @@ struct Term {
 enum class Places {
     SpanPoints,       ///< a row for each span, of its governing point
     StrongerSide,     ///< a row for each support, at the end of the neighbouring span with the larger Iy (the left at a
-                      ///< tie): at a change of section the lower stress is the one checked, which is meant
+                      ///< tie): at a change of section the lower stress is the one checked: note G9
     RightOfSupport,   ///< a row for each support, at the start of the span to its right (at the last, the end of its
                       ///< span)
     Splices,          ///< a row for each of four splices, at the point of its span that lies nearest

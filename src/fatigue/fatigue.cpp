@@ -49,7 +49,7 @@ void loadCrane2(const FatigueRun& run, double PhiFat) {
 }
 
 /// Both cranes at the distance MinAvst. The gaps stay as the walk of crane 2 left them, so that crane 1 rolls on the
-/// wheel distances of crane 2. That is meant.
+/// wheel distances of crane 2: note G22.
 void loadBoth(const FatigueRun& run, const FatigueFactors& factors) {
     for (int i = 1; i <= 8; ++i) run.loads.WheelH(i) = 0.0;
     loadWheels(run, 1, 1, factors.Cr1.PhiFat);

@@ -35,7 +35,7 @@ struct FatigueResults {
     FatigueFactors Factors;          ///< with which the sets were made; all zero for a set that is absent
     Cranes Summed = Cranes::Alone;  ///< which cranes the details sum up
     /// FatRows1..FatRows6. The rows of detail 4 of an overhead crane live in entry 6 (and are gone when detail 6 is checked
-    /// too); entry 4 is filled by a monorail only. That sharing is meant.
+    /// too); entry 4 is filled by a monorail only: note H6.
     FixedArray<std::optional<Array<RowSet<4>>>, 1, 6> FatRows;
     /// FatResult1..FatResult6: the governing row of each checked detail.
     FixedArray<std::optional<RowSet<4>>, 1, 6> FatResult;

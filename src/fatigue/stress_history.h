@@ -21,8 +21,8 @@ struct History {
 };
 
 /// Crane 1 alone knows that a rolled section has no weld at the web's foot; the histories of crane 2 and of both cranes
-/// take its fillet weld for every section. That difference is meant: with a throat below half the web it is on the safe
-/// side.
+/// take its fillet weld for every section. With a throat below half the web that is on the safe
+/// side: note G18.
 inline constexpr History StressHistoryCr1{"Stress history of crane 1", SupportArea::StiffenedWebRolledWhole};
 inline constexpr History StressHistoryCr2{"Stress history of crane 2", SupportArea::StiffenedWeb};
 inline constexpr History StressHistoryCr12{"Stress history of both cranes", SupportArea::StiffenedWeb};

@@ -81,7 +81,7 @@ public:
     /// @param width  in the surface's own units: pixels of a screen, dots of a printer
     virtual void setPenWidth(double width) = 0;
     virtual void setDashed(bool dashed) = 0;
-    /// Pen widths told in millimetres become the surface's own units by this factor.
+    /// Pen widths given in millimetres become the surface's own units by this factor.
     [[nodiscard]] virtual double unitsPerMillimetre() const = 0;
 };
 

@@ -22,14 +22,14 @@ public:
 
 /// Turns the reports of the engine into the text of the progress window: "Calculating ULS ..." with a percentage while
 /// a walk runs, a line more when it has ended. While the SLS walk runs, the text goes back to the line of ULS and puts
-/// its own below; that is meant, and so are the spellings.
+/// its own below. The lines are fixed, spellings included.
 class ProgressText {
 public:
     void walkStarts(Walk walk);
     void position(Walk walk, double percent);
     void walkEnds(Walk walk);
     [[nodiscard]] const std::string& text() const noexcept { return text_; }
-    /// The closing line. It names FLS and gives the time of the ULS and SLS part as a clock time; both are meant.
+    /// The closing line. It names FLS and gives the time of the ULS and SLS part, as a clock time.
     void runEnds(double secondsStatic);
 
 private:

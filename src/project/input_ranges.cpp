@@ -252,15 +252,15 @@ InputNumber inputNumber(const Project& project, const void* field) {
 }
 
 std::vector<std::string> valuesOutOfRange(const Project& project) {
-    std::vector<std::string> told;
+    std::vector<std::string> texts;
     for (const InputNumber& each : inputNumbers(project)) {
         // Where nothing at all is accepted, another value is the one to mend.
         if (!each.counts || each.range.empty || each.range.holds(each.value)) continue;
         const bool bothSides = std::isfinite(double(each.range.lowest)) && std::isfinite(double(each.range.highest));
-        told.push_back(each.name + " = " + generalText(each.value) + (bothSides ? " lies outside " : " is not ") +
-                       each.range.inWords());
+        texts.push_back(each.name + " = " + generalText(each.value) + (bothSides ? " lies outside " : " is not ") +
+                        each.range.inWords());
     }
-    return told;
+    return texts;
 }
 
 }  // namespace borvik

@@ -28,7 +28,7 @@ class ProjectHistory {
 public:
     ProjectHistory(const Project& project, const ProjectContext& context);
 
-    /// Takes down a change of the present project; what was undone before it is forgotten.
+    /// Records a change of the present project; what was undone before it is forgotten.
     /// @return false where the project is as it was: no step
     bool changed(const std::string& what, const Project& project);
     /// Another project takes the place of this one, just as its file holds it.

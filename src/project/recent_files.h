@@ -18,7 +18,7 @@ public:
     /// Makes the captions anew from the store: "1. " and the path, the latest first. A store without entries leaves them.
     void ShowRecentFiles();
     /// Puts the path at the top and moves the others down; the oldest is lost. A path that is in the list already then
-    /// stands there twice, which is meant: the list tells what was saved, in order.
+    /// stands there twice: the list shows what was saved, in order.
     void AddRecentOnSave(const std::string& path);
     /// Puts the path at the top; one of the first three entries as last shown is moved there from its place.
     void AddRecentOnOpen(const std::string& path);

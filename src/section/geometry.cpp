@@ -85,8 +85,8 @@ PlasticProperties PlasticAxis(const SectionRecord& s) {
     } else if (A2 + Aw >= S) {
         z = s.tf2 + hw - (A2 + Aw - S) / s.tw;
     } else {
-        // The height of the section stands here as hw + 2 tf2, on purpose: with tf1 unlike tf2 the axis is off by their
-        // difference, and Wply comes out a little larger than at the axis of equal areas.
+        // The height of the section counts as hw + 2 tf2: with tf1 unlike tf2 the axis is off by their difference, and
+        // Wply comes out a little larger than at the axis of equal areas. Note B3.
         z = hw + 2.0 * s.tf2 - (A2 + Aw + A1 - S) / s.b1;
     }
     return {z, PlasticModulus(PlateStrips(s), z)};

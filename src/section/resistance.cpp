@@ -20,7 +20,7 @@ bool reaches(Single limit, Single ratio) {
     return limit >= ratio;
 }
 
-/// Class of a plate that is wholly in compression. Exactly at the last limit it is class 4, on purpose.
+/// Class of a plate that is wholly in compression. Exactly at the last limit it is class 4, the safe side.
 std::int16_t compressedPlate(const ClassLimits& limits, double e, Single ratio) {
     if (reaches(limits.class1 * e, ratio)) return 1;
     if (reaches(limits.class2 * e, ratio)) return 2;
@@ -41,7 +41,7 @@ std::int16_t bentWeb(double alpha, double psi, double e, Single ratio) {
         if (reaches(36.0 * e / alpha, ratio)) return 1;
         if (reaches(41.5 * e / alpha, ratio)) return 2;
         // A web that is compressed over less than half of its width is never class 4 while psi > -1: the limit
-        // 42 e/(0.67 + 0.33 psi) isn't asked here, which is meant.
+        // 42 e/(0.67 + 0.33 psi) isn't asked here (theory manual, B4).
         if (psi > -1.0) return 3;
     }
     return class3InTension ? 3 : 4;
@@ -109,7 +109,7 @@ void setMomentResistances(const SectionSetting& setting, SectionRecord& s) {
     s.MyRdNegBottom = neg.Bottom;
 
     // The loaded flange alone takes the horizontal load. From class 3 its elastic modulus counts, a rectangle's plastic
-    // one over 1.5. The class for positive moment decides for the bottom flange too, which is meant.
+    // one over 1.5. The class for positive moment decides for the bottom flange too: note B9.
     const double W = setting.CraneType == 1 ? s.WplZTop : s.WplZBottom;
     const double plastic = W * setting.fyk / 1000000.0;
     s.MzRd = s.ClassPos > 2 ? plastic / 1.5 : plastic;

@@ -72,7 +72,7 @@ struct SectionRecord {
 struct SteelGradeRow {
     std::string MatName;
     Single fyk1;  ///< MPa, the strength that the grade gives fyk; 0 for "General"
-    Single fyk2;  ///< MPa, of thicker products; read and otherwise unused, which is meant
+    Single fyk2;  ///< MPa, of products thicker than 40 mm; no check reads it: note B1
 };
 
 /// One rail. mm, mm2, mm4, kg/m.
@@ -88,7 +88,7 @@ struct RailRecord {
     Single RailE1;     ///< distance of the centroid from the top of the head
     Single RailIy;     ///< second moment of area
     Single RailH2, RailH3, RailF2, RailF3;
-    Single RailAred, RailIred;  ///< area and second moment after wear, as shown by the rail form
+    Single RailAred, RailIred;  ///< area and second moment after wear, set by the patch load check
 
     bool operator==(const RailRecord&) const = default;
 };
