@@ -200,6 +200,7 @@ void ProfileDialog::WriteSectionResult() {
 QWidget* ProfileDialog::tabs() {
     SSTab1_ = new QTabWidget;
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1_->setUsesScrollButtons(false);  // all three tabs are seen
     SSTab1_->addTab(tableTab(), tr("Table section"));
     const QString h = tr("Height of the whole section"), tw = tr("Thickness of the web");
     SSTab1_->addTab(
@@ -263,21 +264,20 @@ Group ProfileDialog::sectionList() {
     lstDatabase_->setObjectName(QStringLiteral("lstDatabase"));
     lstDatabase_->setToolTip(tr("Sections that can be given to spans; choose one to see it"));
     // a width of its own, so that a new name never moves the form
-    lstDatabase_->setMinimumWidth(lstDatabase_->fontMetrics().averageCharWidth() * 30);
     lstDatabase_->setMinimumHeight(lstDatabase_->fontMetrics().lineSpacing() * 8);
     lstDatabase_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     lstDatabase_->setWordWrap(true);  // a name longer than that takes two lines
     connect(lstDatabase_, &QListWidget::itemClicked, this, [this] { chooseEntry(lstDatabase_->currentRow()); });
     connect(lstDatabase_, &QListWidget::currentRowChanged, this, [this](int row) { chooseEntry(row); });
-    group.grid->addWidget(lstDatabase_, 0, 0, 4, 1);
+    // The list has the whole width, as far as the buttons below it reach.
+    group.grid->addWidget(lstDatabase_, 0, 0, 1, 2);
     group.grid->addWidget(makeButton("Cmd_pilupp", tr(" Move Profile Up "), tr("One place up"), [this] { move(-1); }),
-                          0, 1);
+                          1, 0);
     group.grid->addWidget(
         makeButton("Cmd_pilner", tr(" Move Profile Down "), tr("One place down"), [this] { move(1); }), 1, 1);
     group.grid->addWidget(makeButton("cmdX", tr(" Remove Profile "), tr("Take the section out of the list"),
                                      [this] { removeFromList(); }),
-                          2, 1);
-    group.grid->setRowStretch(3, 1);
+                          2, 0, 1, 2);
     return group;
 }
 
