@@ -23,10 +23,14 @@ QString trimmedName(const SectionRecord& section) {
     return QString::fromStdString(section.DisplayName).trimmed();
 }
 
-/// A file may bring fewer rows than the form offers.
+/// A file may bring fewer rows than the form offers, and another number for the first one. What it brings is shown in
+/// its order from row 1 on.
 void bringRows(Project& project) {
-    if (project.SpanSection.size() == 0) project.SpanSection = Array<SectionRecord>(1, kMaxSpans);
-    while (project.SpanSection.last() < kMaxSpans) project.SpanSection.append({});
+    Array<SectionRecord>& sections = project.SpanSection;
+    if (sections.first() == 1 && sections.last() >= kMaxSpans) return;
+    Array<SectionRecord> rows(1, std::max(kMaxSpans, sections.size()));
+    std::copy(sections.begin(), sections.end(), rows.begin());
+    sections = std::move(rows);
 }
 
 void updateSections(const ReferenceTables& tables, Project& project, ProjectContext& context) {

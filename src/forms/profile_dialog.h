@@ -36,6 +36,7 @@ protected:
     void settle(Project& project) const override { MarkSectionsInUse(project); }
     [[nodiscard]] bool boxesShowRecord() const override { return false; }
     [[nodiscard]] bool editsSection() const override { return true; }
+    void showEvent(QShowEvent* event) override;
 
 private:
     enum Tab { TableTab = 0, IsTab = 1, IuTab = 2 };
@@ -49,6 +50,7 @@ private:
     NumberRow dimension(const char* name, Single& field, const char* mask, double lowest, const char* message,
                         const QString& meaning);
     void showSection(int tab);
+    /// Plates belong to the section for which they were entered: another row begins without.
     void chooseTableRow(int row);
     void chooseEntry(int row);
     void showTab(int tab);
@@ -71,6 +73,7 @@ private:
     QListWidget* lstDatabase_;
     QTreeWidget* results_;
     std::vector<std::pair<QRadioButton*, std::int16_t>> endPosts_, loadLevels_;  ///< each with its value in the record
+    QLabel *lblName_, *lblWarning_;
     Picture* picture_;
     std::unique_ptr<InputDialog> reinforcement_;
 };
