@@ -9,6 +9,11 @@ namespace {
 
 using Kind = FormulaPart::Kind;
 
+const QStringList& functionNames() {
+    static const QStringList names{"max", "min", "sin", "cos", "sinh", "cosh", "tanh"};
+    return names;
+}
+
 const QHash<QString, QString>& uprightSymbols() {
     static const QHash<QString, QString> table{
         {"alpha", "α"},      {"beta", "β"}, {"gamma", "γ"},  {"Delta", "Δ"}, {"delta", "δ"},
@@ -157,10 +162,14 @@ private:
         if (name == "text" || name == "mathrm") return words();
         if (name == "bar") return branch(Kind::Bar, {argument()});
         if (name == "sum") return leaf(Kind::Sum, "Σ");
+        if (name == "int") return leaf(Kind::Sum, "∫");
         if (name == "left") return fenced();
         if (name == "right") return leaf(Kind::Text, bracket());
-        if (name == "max" || name == "min")
-            return branch(Kind::Row, {gap(gaps().value(",")), leaf(Kind::Text, name), gap(gaps().value(","))});
+        if (functionNames().contains(name)) {
+            FormulaPart function = branch(Kind::Row, {gap(gaps().value(",")), leaf(Kind::Text, name)});
+            if (next() != '^') function.parts.push_back(gap(gaps().value(",")));  // a power stands close
+            return function;
+        }
         if (gaps().contains(name)) return gap(gaps().value(name));
         if (spacedSigns().contains(name)) return leaf(Kind::Sign, spacedSigns().value(name));
         return leaf(Kind::Text, uprightSymbols().value(name, name));

@@ -113,7 +113,7 @@ public:
             case Kind::Gap:
                 return widened({}, 0.0, part.width * size.em);
             case Kind::Sum:
-                return sum(scale);
+                return sum(part.text, scale);
             case Kind::Fraction:
                 return fraction(part, scale, tight);
             case Kind::Root:
@@ -284,9 +284,10 @@ private:
         return box;
     }
 
-    [[nodiscard]] FormulaBox sum(double scale) const {
+    /// The large sign of a sum or an integral.
+    [[nodiscard]] FormulaBox sum(const QString& text, double scale) const {
         const Size size(font_, scale, device_);
-        const FormulaBox sign = symbols("∑", Size(font_, scale * kSumSize, device_).upright);
+        const FormulaBox sign = symbols(text == "Σ" ? "∑" : text, Size(font_, scale * kSumSize, device_).upright);
         FormulaBox box;
         place(box, sign, 0.0, (sign.ascent - sign.descent) / 2.0 - size.axis);
         box.width += 0.1 * size.em;
@@ -295,7 +296,7 @@ private:
 
     [[nodiscard]] FormulaBox limits(const FormulaPart& part, double scale) const {
         const Size size(font_, scale, device_);
-        const FormulaBox sign = sum(scale);
+        const FormulaBox sign = sum(part.parts[0].text, scale);
         const FormulaBox below = set(part.parts[1], smaller(scale, kScriptSize), true);
         const FormulaBox above = set(part.parts[2], smaller(scale, kScriptSize), true);
         const double width = std::max({sign.width, below.width, above.width});
