@@ -68,10 +68,8 @@ void FatigueDialog::WriteSetup() {
         controls.span->clear();
         for (int span = 1; span <= std::min<int>(project_.NofSpans, kMaxSpans); ++span)
             controls.span->addItem(QString::number(span));
-        // What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored.
-        controls.span->setPlaceholderText(QStringLiteral("! ") +
-                                          QString::fromStdString(generalText(form_->splices.span(j))));
         controls.span->setCurrentIndex(spliceSpan(project_, form_->splices.span(j)) - 1);
+        markSpliceSpan(j);
     }
     binder_.show();
     showWelds();
@@ -122,6 +120,15 @@ void FatigueDialog::addDetail(QGridLayout* grid, const FatigueDetailRow& detail)
     grid->addLayout(pictures, row, 3, 2, 1);
 }
 
+/// What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored. A splice that is not in
+/// use and has none is nothing to be mended.
+void FatigueDialog::markSpliceSpan(int j) {
+    const Single stored = form_->splices.span(j);
+    const bool open = !form_->splices.used(j) && stored == 0.0;
+    splices_[static_cast<std::size_t>(j - 1)].span->setPlaceholderText(
+        open ? QString() : QStringLiteral("! ") + QString::fromStdString(generalText(stored)));
+}
+
 Group FatigueDialog::splices() {
     const Group group = makeGroup("frSplices", tr("Beam Splice"));
     QGridLayout* grid = group.grid;
@@ -132,6 +139,7 @@ Group FatigueDialog::splices() {
         auto* used = makeChoice<QCheckBox>(
             indexed("ChkFat5Sp", j), tr("Splice %1").arg(j), tr("The beam has this splice"), [this, &record, j] {
                 record.used(j) = splices_[static_cast<std::size_t>(j - 1)].used->isChecked();
+                markSpliceSpan(j);
                 inputChanged();
             });
         QComboBox* span =

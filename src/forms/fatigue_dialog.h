@@ -90,6 +90,7 @@ private:
     Group details();
     void addDetail(QGridLayout* grid, const FatigueDetailRow& detail);
     Group splices();
+    void markSpliceSpan(int j);
     Group support();
     Group weld(const FatigueWeld& weld);
     void showWelds();
