@@ -7,7 +7,6 @@
 #include <optional>
 #include <string_view>
 
-#include "forms/dialog_frames.h"
 #include "forms/guarded_application.h"
 #include "forms/help.h"
 #include "forms/main_window.h"
@@ -62,8 +61,6 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon::fromTheme("borvik"));
     WheelGuard wheelGuard;
     application.installEventFilter(&wheelGuard);
-    DialogFrames dialogFrames;
-    application.installEventFilter(&dialogFrames);
 
     QtQuestions questions;
     QtSettings settings;

@@ -87,13 +87,26 @@ void FrmDetailedResult::showNode(const TreeNode& node) {
     cmdDetailedResult_->setEnabled(canExportTable());
 }
 
+namespace {
+
+/// The walk whose positions are kept: the last of the fatigue runs.
+QString lastWalk(const CalculationRecord& calculation) {
+    const FatigueResults& fatigue = calculation.results.Fatigue;
+    if (fatigue.Cr12) return QObject::tr("both cranes together");
+    if (fatigue.Cr2) return QObject::tr("crane 2 alone, its wheels in the columns of crane 1");
+    if (calculation.project.CraneType == 2) return QObject::tr("the hoist");
+    return calculation.project.NofCranes == 2 ? QObject::tr("both cranes as one train") : QObject::tr("the crane");
+}
+
+}  // namespace
+
 FrmTemp::FrmTemp(const CalculationPtr& calculation, QWidget* parent) : QDialog(parent) {
     setObjectName("frmTemp");
     setWindowTitle("TempResults");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* pane = new ResultTablePane("lstViewTemp");
     if (calculation) {
-        pane->showTable(tr("Positions of the cranes in the last walk"),
+        pane->showTable(tr("Positions in the last walk, fatigue: %1").arg(lastWalk(*calculation)),
                         TableSteps(calculation->project, calculation->results));
     } else {
         pane->showTable(tr("No calculation of the present input"), TableSteps(Project{}, Results{}));
