@@ -120,13 +120,12 @@ void FatigueDialog::addDetail(QGridLayout* grid, const FatigueDetailRow& detail)
     grid->addLayout(pictures, row, 3, 2, 1);
 }
 
-/// What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored. A splice that is not in
-/// use and has none is nothing to be mended.
+/// What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored, where the splice is in
+/// use: else it is nothing to be mended.
 void FatigueDialog::markSpliceSpan(int j) {
-    const Single stored = form_->splices.span(j);
-    const bool open = !form_->splices.used(j) && stored == 0.0;
+    const QString stored = QString::fromStdString(generalText(form_->splices.span(j)));
     splices_[static_cast<std::size_t>(j - 1)].span->setPlaceholderText(
-        open ? QString() : QStringLiteral("! ") + QString::fromStdString(generalText(stored)));
+        form_->splices.used(j) ? QStringLiteral("! ") + stored : QString());
 }
 
 Group FatigueDialog::splices() {

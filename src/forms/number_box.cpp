@@ -93,6 +93,9 @@ void NumberBox::paintBackground(const QColor& colour) {
 
 void NumberBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
+    // A box that lost the focus while its window was not the active one has not heard of it.
+    for (NumberBox* other : window()->findChildren<NumberBox*>())
+        if (other != this) other->rest();
     paintBackground(kFocusedGreen);
     // Somebody who comes back from another window goes on typing where he was.
     const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
