@@ -42,10 +42,11 @@ PageHeadTexts headOf(const Session& session, const ReportTime& when) {
             session.project.Ident};
 }
 
-void printInput(Report& report, bool withFatigue) {
+void printInput(Report& report, ReportScope scope) {
+    const bool withFatigue = scope == ReportScope::All || scope == ReportScope::Compressed;
     ReportPage& page = report.page;
     page.PageHead(1);
-    PrintGeneral(report);
+    PrintGeneral(report, scope != ReportScope::Uls);
     PrintCraneAndLoad(report);
     page.advance(0.5);
     PrintSection(report);
@@ -98,7 +99,7 @@ void printManyReactions(Report& report) {
 
 void PrintFull(Report& report, const DiagramData& data) {
     ReportPage& page = report.page;
-    printInput(report, true);
+    printInput(report, ReportScope::All);
     printUlsDiagrams(report, data);
     page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
@@ -116,7 +117,7 @@ void PrintFull(Report& report, const DiagramData& data) {
 void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
     ReportPage& page = report.page;
     const bool compressed = scope == ReportScope::Compressed;
-    printInput(report, compressed);
+    printInput(report, scope);
     printUlsDiagrams(report, data);
     if (scope != ReportScope::Uls) page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     if (compressed || (scope == ReportScope::UlsSls && report.project.HasLoadsY))

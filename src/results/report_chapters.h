@@ -18,7 +18,8 @@ struct Report {
 // page where the old one is full.
 
 /// "General:": steel and partial factors.
-void PrintGeneral(Report& report);
+/// @param withDeflections  their limits too
+void PrintGeneral(Report& report, bool withDeflections);
 /// "Crane & Loadcombinations:": crane classes, load combinations, wheels.
 void PrintCraneAndLoad(Report& report);
 /// "Profile:": every distinct section with its sketch, properties, classes and resistances; what counts as dead load.

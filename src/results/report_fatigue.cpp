@@ -81,6 +81,9 @@ void printSplices(ReportPage& page, const Project& project) {
         if (!used(splice)) continue;
         page.put(page.Col3.stop1,
                  "Span: " + formatNumber(spans(splice), "0") + "  x = " + formatNumber(places(splice), "0") + " mm");
+        // The stresses of a hoist's splice are those of the span that the overhead crane's splice names.
+        const Single stressed = project.Fat5Span(splice);
+        if (stressed != spans(splice)) page.put(page.Col4.stop1, "Stresses of span " + formatNumber(stressed, "0"));
         page.nextLine();
     }
 }
@@ -98,6 +101,11 @@ void printDetail(ReportPage& page, const Project& project, const DetailInputs& d
         page.put(page.Col3.stop1, project.*detail.weld.kind == "FW"
                                       ? "Fillet Weld - a" + formatNumber(project.*detail.weld.throat, "0.0") + " mm"
                                       : std::string("Full Pen Weld "));
+    // Detail 6 of a monorail: the kind of weld W3 decides, whatever that of W4 is.
+    if (detail.weld.throat == &Project::RW4a && (project.RW3 == "FW") != (project.RW4 == "FW"))
+        page.put(page.Col4.stop1, project.RW3 == "FW"
+                                      ? "taken as fillet weld - a" + formatNumber(project.RW4a, "0.0") + " mm"
+                                      : std::string("taken as full pen weld"));
     if (detail.support.length != nullptr)
         page.put(page.Col4.stop1, "e = " + formatNumber(project.*detail.support.length, "0") + ", t = " +
                                       formatNumber(DecimalValue(project.*detail.support.thickness), "0") + " mm");

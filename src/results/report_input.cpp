@@ -35,6 +35,35 @@ void wheelLine(ReportPage& page, const Project& project, const std::string& cran
     page.nextLine();
 }
 
+/// Wheels 5 to 8 of a single crane: no form enters them, yet what a file brings of them acts, behind the first four;
+/// and their distances shorten the walk even without loads.
+void furtherWheels(ReportPage& page, const Project& project) {
+    bool loaded = false, gaps = project.MinAvst != 0.0;
+    for (int wheel = 5; wheel <= 8; ++wheel) loaded = loaded || project.V(wheel) != 0.0 || project.H(wheel) != 0.0;
+    for (int gap = 4; gap <= 6; ++gap) gaps = gaps || project.Avst(gap) != 0.0;
+    if (!loaded && !gaps) return;
+    wheelLine(page, project, "Wheels 5-8: ", 5, 4);
+    page.put(page.Col1.stop1, "Wheel 5 behind wheel 4 = " + formatNumber(project.MinAvst, "0.0") + " mm");
+    if (loaded)
+        page.put(page.Col2.stop1,
+                 "Psi2V/Psi2H = " + formatNumber(project.PsiV2, "0.00") + "/" + formatNumber(project.PsiH2, "0.00"));
+    page.nextLine();
+}
+
+/// Where the cranes stand: their distance and the first wheel's place; no line where there is nothing to tell.
+void positionLine(ReportPage& page, const Project& project) {
+    const bool two = project.NofCranes == 2;
+    if (two)
+        page.put(page.Col1.stop1, std::string(project.MinDistConst == 1.0 ? "D" : "Smallest d") +
+                                      "istance between the cranes = " + formatNumber(project.MinAvst, "0.0") + " mm");
+    const bool placed = project.Fixerad || project.Position != 0.0;
+    if (placed)
+        page.put(two ? page.Col3.stop1 : page.Col1.stop1,
+                 std::string(project.Fixerad ? "Fixed position of the first wheel" : "The first wheel starts at") +
+                     " x = " + formatNumber(project.Position, "0.0") + " mm");
+    if (two || placed) page.nextLine();
+}
+
 std::string className(int craneClass) {
     return craneClass >= CraneClassName.first && craneClass <= CraneClassName.last ? CraneClassName(craneClass) : "";
 }
@@ -142,7 +171,7 @@ const char* loadLevel(int level) {
 
 }  // namespace
 
-void PrintGeneral(Report& report) {
+void PrintGeneral(Report& report, bool withDeflections) {
     ReportPage& page = report.page;
     const Project& project = report.project;
     page.advance(0.5);
@@ -160,6 +189,10 @@ void PrintGeneral(Report& report) {
     page.put(page.Col1.stop1, "gmFf/gmMf =");
     page.put(page.Col1.stop2 + 6.0,
              formatNumber(project.GammaFf, "#.00") + "/" + formatNumber(project.GammaMf, "#.00"));
+    page.put(page.Col2.stop1, "Shear area factor = " + formatNumber(project.Eta, "0.00"));
+    if (withDeflections)
+        page.put(page.Col3.stop1, "Deflection limits: dz = L/" + formatNumber(project.DefZ, "0") + ", dy = L/" +
+                                      formatNumber(project.DefY, "0"));
     page.advance(1.5);
 }
 
@@ -184,11 +217,16 @@ void PrintCraneAndLoad(Report& report) {
         page.nextLine();
     }
     wheelLine(page, project, two ? "Crane 1: " : "", 1, 1);
-    if (two) wheelLine(page, project, "Crane 2: ", 5, 4);
+    if (two)
+        wheelLine(page, project, "Crane 2: ", 5, 4);
+    else
+        furtherWheels(page, project);
+    if (monorail) page.put(page.Col1.stop1, "Wheel to flange edge n = " + formatNumber(project.Inn, "0.0") + " mm");
     if (!monorail) page.put(page.Col1.stop1, "Load on gangway qk = " + formatNumber(project.Gangway, "0.0") + " kN/m");
     if (project.StartStopOutside == 1) page.put(page.Col2.stop1, "The crane start/stop outside the beam      ");
     if (two && project.MinDistConst == 1.0) page.put(page.Col3.stop1 + 6.0, "Constant distance between the cranes");
     page.nextLine();
+    positionLine(page, project);
 }
 
 void PrintSection(Report& report) {
@@ -238,7 +276,7 @@ void PrintLtb(Report& report) {
                               {"C2", p.C2EndPos, p.C2MidPos, p.C2EndNeg, p.C2MidNeg},
                               {"C3", p.C3EndPos, p.C3MidPos, p.C3EndNeg, p.C3MidNeg}};
     page.advance(0.5);
-    page.need(8.0);
+    page.need(9.0);
     heading(page, "Lateral Torsional Buckling:");
     page.put(page.Col1.stop1, "Positiv Moment");
     page.put(page.Col3.stop1, "Negativ Moment");
@@ -256,6 +294,11 @@ void PrintLtb(Report& report) {
                  ? "Lateral torsional buckling curves: General Case (conservative, ch 6.3.2.2/EN 1993-1-1)"
                  : "Lateral torsional buckling curves: Rolled or welded I-sections (ch 6.3.2.3/EN 1993-1-1)");
     page.nextLine();
+    if (p.LtbCurve != 2) {  // rolled sections take the numbers of welded ones too
+        page.put(page.Col1.stop1, "lamdaLT,0 = " + formatNumber(p.LamdaLT0w, "0.000"));
+        page.put(page.Col2.stop1, "beta = " + formatNumber(p.Betaw, "0.000"));
+        page.nextLine();
+    }
     page.put(page.Col1.stop1, std::string("Load Level: ") + loadLevel(p.LoadLevel));
     page.nextLine();
 }

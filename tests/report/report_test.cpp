@@ -7,7 +7,9 @@
 #include <map>
 
 #include "notes/notes.h"
+#include "project/input_ranges.h"
 #include "recording_printer.h"
+#include "results/json.h"
 #include "results/tables.h"
 #include "samples.h"
 
@@ -244,6 +246,7 @@ TEST(Report, inputChaptersTellTheProject) {
           "355 MPa",
           "210000.0 MPa",
           "1.00/1.00",
+          "Shear area factor = 1.20",
           "Cranetype: Overhead Crane",
           "Craneclass: ",
           "1 - HEA 300",
@@ -282,6 +285,43 @@ TEST(Report, inputChaptersTellTheProject) {
     const std::string thirty = printed(Sample::ThirtySpans, ReportScope::Uls).text();
     for (int number = 2; number <= 12; ++number)
         EXPECT_NE(thirty.find("\n" + std::to_string(number) + " - "), std::string::npos) << "section " << number;
+}
+
+/// Calculates; the numbers, and the report as far as the sketch, which holds the span lengths.
+std::pair<std::string, std::string> resultsAndInput(Session& session) {
+    MessageList messages;
+    Progress progress;
+    EXPECT_TRUE(Calculate(session, messages, progress));
+    RecordingPrinter printer(kA4.width, kA4.height);
+    PrintReport(printer, session, ReportScope::All, {});
+    return {ResultsJson(session, {}, {}, ""), printer.text().substr(0, printer.text().find("ULS - My/Vz/Rz"))};
+}
+
+TEST(Report, inputThatChangesResultsStandsInItsChapters) {
+    for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail}) {
+        Session base = sessionOf(sample);
+        base.project.DefaultCfactor = false;
+        if (sample == Sample::OneCrane) base.project.V(7) = base.project.H(7) = 1.0;
+        base.project.Fixerad = sample == Sample::Monorail;
+        const auto [results, input] = resultsAndInput(base);
+        for (std::size_t i = 0; i < inputNumbers(base.project).size(); ++i) {
+            Session changed = base;
+            const InputNumber number = inputNumbers(changed.project)[i];
+            void* field = const_cast<void*>(number.field);
+            const bool counted = number.name.ends_with(", span");
+            const Single more = number.value + (counted ? 1.0 : 0.25 * number.value + 0.25);
+            if (number.name.starts_with("Beam: length"))
+                *static_cast<std::int32_t*>(field) += 500;
+            else if (number.name.find(" of detail ") != std::string::npos)
+                *static_cast<std::int16_t*>(field) = 63;
+            else if (number.name.find(": t of") != std::string::npos)
+                *static_cast<std::string*>(field) = "25";
+            else
+                *static_cast<Single*>(field) = number.range.holds(more) ? more : Single(0.5 * number.value);
+            const auto [newResults, newInput] = resultsAndInput(changed);
+            EXPECT_TRUE(newResults == results || newInput != input) << int(sample) << ": " << number.name;
+        }
+    }
 }
 
 /// Thirty numbers would run into the name of the section.
