@@ -54,7 +54,8 @@ MainWindow::MainWindow(Session& session, const Services& services, QWidget* pare
 }
 
 MainWindow::~MainWindow() {
-    disconnect(qApp, nullptr, this, nullptr);  // the focus leaves one widget after another while they go
+    hide();  // the focus leaves its box while there is still a project to take what was typed
+    disconnect(qApp, nullptr, this, nullptr);  // it leaves one widget after another while they go
 }
 
 void MainWindow::buildCentre() {
