@@ -101,14 +101,15 @@ struct Splice {
     double distance;  ///< mm from the left support of the span
 };
 
+/// Splices that are not in use have a place in the beam all the same, so that their boxes pass in the fatigue forms.
 void setSplices(Project& project, const std::vector<Splice>& splices) {
     project.Fat5 = project.FatR5 = !splices.empty();
     for (int i = 1; i <= 4; ++i) {
         const auto at = static_cast<std::size_t>(i - 1);
         const bool used = at < splices.size();
         project.ChkFat5Sp(i) = project.ChkFatR5Sp(i) = used;
-        project.Fat5Span(i) = project.FatR5Span(i) = used ? splices[at].span : 0;
-        project.Fat5d1(i) = project.FatR5d1(i) = used ? splices[at].distance : 0.0;
+        project.Fat5Span(i) = project.FatR5Span(i) = used ? splices[at].span : 1;
+        project.Fat5d1(i) = project.FatR5d1(i) = used ? splices[at].distance : 1000.0;
     }
 }
 
