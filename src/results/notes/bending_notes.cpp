@@ -215,8 +215,8 @@ constexpr NoteRule kRules[]{
      "which never governs.",
      "", "EN 1993-1-1 6.2.8", noMomentLeft},
     {"C7", NoteCheck::Section, NoteEffect::Information,
-     "The rows of a span show the cranes at the largest moment, and crane 2 at the largest shear, also where the "
-     "smallest governs.",
+     "The governing rows of bending and shear show the cranes at the largest moment, and crane 2 at the largest shear, "
+     "also where the smallest governs; the rows of the span show them rightly.",
      "", "", wrongPosition},
 };
 

@@ -78,8 +78,8 @@ constexpr NoteRule kRules[]{
      "The weld of a monorail's bottom flange and web takes its kind from W3 and its throat from W4.",
      "with kind and throat of W4", "EN 1993-1-9 5(6)", kindOfOtherWeld},
     {"G21", kFatigue, kUnsafe,
-     "Above class S3 the web also bends under a wheel that stands a quarter of the rail's head beside its middle; the "
-     "weld of top flange and web is checked without it.",
+     "Above class S3 the web also bends under a wheel that stands a quarter of the rail head's width off its middle; "
+     "the weld of top flange and web is checked without it.",
      "with it and no stiffeners in the span", "EN 1993-6 5.7.3, 9.3.3, EN 1991-3 2.5.2.1", eccentricWheel},
     {"G22", kFatigue, kEither, "In the run of both cranes crane 1 rolls on the wheel distances of crane 2.",
      "with its own", "EN 1993-6 9.4.2", gapsOfCrane2},
@@ -88,7 +88,8 @@ constexpr NoteRule kRules[]{
      "higher ones.",
      "with the higher ones", "EN 1993-6 9.4.2, EN 1991-3 2.12", factorsOfTrain},
     {"G24", kFatigue, kEither,
-     "A monorail's splice is read in the span that the overhead crane's splice of the same number names.",
+     "A monorail's splice is read in the span that the overhead crane's splice of the same number names. To mend it, "
+     "choose Overhead Crane, give that splice the same span, choose Monorail again and enter the loads anew.",
      "in its own span", "", spanOfOtherSplice},
     {"G25", kFatigue, kUnsafe, "A splice is checked at the bottom flange only.", "at the top flange", "",
      topFlangeOfSplice},
