@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "batch.h"
+#include "crane_loads_file.h"
 #include "exit_codes.h"
 #include "options.h"
 #include "platform/data_folder.h"
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
         const auto parsed = parseOptions(argc, argv);
         if (const int* exitCode = std::get_if<int>(&parsed)) return *exitCode;
         const Options& options = std::get<Options>(parsed);
+        if (!options.craneLoads.empty()) return writeCraneLoads(options.craneLoads, std::cout, std::cerr);
         return runBatch(options,
                         LoadTables(options.tables.empty() ? FindDataFolder(ProgramFolder(argv[0])) : options.tables));
     } catch (const TableError& error) {

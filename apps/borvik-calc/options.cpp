@@ -100,6 +100,13 @@ void addOptions(CLI::App& app, Options& options) {
         ->transform(CLI::Transformer(walks))
         ->option_text("plain|fast (default: fast)");
     app.add_flag("--quiet", options.quiet, "No progress, and no summary unless it is asked for");
+    // Crane data are not a project: nothing else can be asked for beside them.
+    const std::vector<CLI::Option*> ofProjects =
+        app.get_options([&](const CLI::Option* option) { return option != app.get_help_ptr(); });
+    CLI::Option* craneLoads = app.add_option("--crane-loads", options.craneLoads,
+                                             "Print wheel loads to EN 1991-3 of the crane data in a JSON file, as JSON");
+    craneLoads->type_name("FILE.json");
+    for (CLI::Option* option : ofProjects) craneLoads->excludes(option);
     app.set_version_flag("--version", kProgramAndVersion);
     app.footer(kFooter);
 }
@@ -153,6 +160,7 @@ void checkOutputs(const Options& options) {
 
 /// What the single options can't see.
 void checkTogether(const Options& options) {
+    if (!options.craneLoads.empty()) return;
     if (options.projects() == 0) throw CLI::RequiredError("A project file, or --default,");
     if (options.projects() > 1 && !options.save.empty())
         throw CLI::ValidationError("--save", "takes the project of a single file");

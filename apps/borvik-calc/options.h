@@ -28,6 +28,7 @@ struct Options {
     bool withNotes = false;                ///< the report has the notes as a last chapter
     std::string save;                      ///< project file to write; empty: none
     std::optional<double> failAbove;
+    std::string craneLoads;  ///< file of crane data whose loads are printed, instead of projects; empty: none
     bool quiet = false;
 
     [[nodiscard]] std::size_t projects() const { return useDefault ? 1 : files.size(); }

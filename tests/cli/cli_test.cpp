@@ -76,6 +76,36 @@ TEST_F(CommandLine, theDefaultProjectGivesItsSummary) {
     EXPECT_EQ(outcome.err, "");
 }
 
+TEST_F(CommandLine, printsTheLoadsOfCraneData) {
+    const auto vectors =
+        nlohmann::json::parse(bytesOf(fs::path(BORVIK_SOURCE_DIR "/tests/data/crane-loads/cranes.json")));
+    const nlohmann::json crane = vectors[0]["Crane"];
+    nlohmann::json bad = crane;
+    bad["hc"] = "HC\n5";
+    writeBytes(folder / "one.json", crane.dump());
+    writeBytes(folder / "two.json", nlohmann::json{crane, crane}.dump());
+    writeBytes(folder / "bad.json", nlohmann::json{crane, bad}.dump());
+    writeBytes(folder / "cut.json", crane.dump().substr(0, 30));
+
+    const Outcome one = run("--crane-loads one.json"), two = run("--crane-loads two.json");
+    EXPECT_EQ(one.exitCode, 0);
+    EXPECT_EQ(nlohmann::json::parse(one.out)["phi2"], 1.215436);
+    EXPECT_EQ(nlohmann::json::parse(two.out)[1], nlohmann::json::parse(one.out));
+    const struct {
+        const char *arguments, *message;
+        int exitCode;
+    } refused[] = {{"--crane-loads bad.json", "bad.json: crane 2: hc: HC1, HC2, HC3 or HC4", 3},
+                   {"--crane-loads cut.json", "cut.json: not JSON: ", 3},
+                   {"--crane-loads none.json", "none.json: No such file", 5},
+                   {"--crane-loads one.json --default", "borvik-calc: ", 2}};
+    for (const auto& each : refused) {
+        const Outcome outcome = run(each.arguments);
+        EXPECT_EQ(outcome.exitCode, each.exitCode) << each.arguments;
+        EXPECT_THAT(outcome.err, StartsWith(each.message));
+        EXPECT_EQ(outcome.out, "") << each.arguments;
+    }
+}
+
 TEST_F(CommandLine, exitCodesTellWhatHappened) {
     take("default", "good.brvk");
     take("gap_in_spans", "gap.brvk");
