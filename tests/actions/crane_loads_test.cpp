@@ -39,7 +39,7 @@ TEST(CraneLoads, agreeWithAnIndependentProgramForRandomCranes) {
     }
 }
 
-// A complete calculation of a 3.2 t crane, published with the source of its text (commit 771ee20, project/templates).
+// A complete printed calculation of a 3.2 t crane.
 // It takes K and xi1 with dynamic factors in groups 1 and 2 and without them in 3 and 4, phiFat2 for self-weight too,
 // and the largest skewing angle.
 TEST(CraneLoads, agreeWithAPrintedCalculationToItsLastDigit) {
