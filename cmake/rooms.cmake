@@ -19,29 +19,18 @@ if(BORVIK_FUZZ)
     target_compile_options(borvik_flags INTERFACE -fsanitize=fuzzer-no-link -ffp-exception-behavior=maytrap)
 endif()
 
-# borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. A room stands on
-# the include path of those that know it, and of those that know these, under its own name through a small folder of links.
+# borvik_room(NAME [KNOWS room...] [LINKS target...]): library borvik_NAME of all sources in this folder. Headers are included
+# by their path from src/, such as "results/tables.h".
 function(borvik_room name)
     cmake_parse_arguments(ROOM "" "" "KNOWS;LINKS" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
     file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
-    set(door ${CMAKE_BINARY_DIR}/rooms/${name})
-    file(MAKE_DIRECTORY ${door})
-    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${door}/${name} SYMBOLIC)
-    if(sources)
-        add_library(borvik_${name} STATIC ${sources} ${headers})
-        # A header that appears after the first build must run moc again; CMake 3.25 with Ninja does not see it by itself.
-        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/borvik_${name}_autogen/timestamp)
-        target_include_directories(borvik_${name} PUBLIC ${door})
-        target_link_libraries(borvik_${name} PRIVATE borvik_flags PUBLIC ${ROOM_LINKS})
-        list(TRANSFORM ROOM_KNOWS PREPEND borvik_)
-        target_link_libraries(borvik_${name} PUBLIC ${ROOM_KNOWS})
-    else()
-        add_library(borvik_${name} INTERFACE)
-        target_include_directories(borvik_${name} INTERFACE ${door})
-        list(TRANSFORM ROOM_KNOWS PREPEND borvik_)
-        target_link_libraries(borvik_${name} INTERFACE ${ROOM_KNOWS} ${ROOM_LINKS})
-    endif()
+    add_library(borvik_${name} STATIC ${sources} ${headers})
+    # A header that appears after the first build must run moc again; CMake 3.25 with Ninja does not see it by itself.
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/borvik_${name}_autogen/timestamp)
+    target_include_directories(borvik_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    list(TRANSFORM ROOM_KNOWS PREPEND borvik_)
+    target_link_libraries(borvik_${name} PRIVATE borvik_flags PUBLIC ${ROOM_LINKS} ${ROOM_KNOWS})
 endfunction()
 
 # borvik_test(NAME [LINKS target...]): one test program of all *_test.cpp in this folder; its cases become ctest tests.

@@ -3,7 +3,7 @@
 #include <ostream>
 #include <stdexcept>
 
-#include "actions_json/crane_json.h"
+#include "actions/json/crane_json.h"
 #include "base/shown_text.h"
 #include "base/whole_file.h"
 #include "exit_codes.h"

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <random>
 
-#include "actions_json/crane_json.h"
+#include "actions/json/crane_json.h"
 #include "support/temp_folder.h"
 
 namespace borvik::actions {

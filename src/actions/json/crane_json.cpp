@@ -1,4 +1,4 @@
-#include "actions_json/crane_json.h"
+#include "actions/json/crane_json.h"
 
 #include <cmath>
 #include <set>
