@@ -2,10 +2,10 @@
 
 #include "base/fault.h"
 #include "calculation/calculation.h"
+#include "diagrams/diagrams.h"
 #include "laws.h"
 #include "platform/recording_surface.h"
 #include "project/project_file.h"
-#include "results/diagrams.h"
 #include "results/json.h"
 #include "results/summary.h"
 #include "results/tables.h"

@@ -10,10 +10,10 @@
 #include <string_view>
 #include <system_error>
 
+#include "diagrams/diagrams.h"
 #include "exit_codes.h"
 #include "pictures.h"
 #include "platform/version.h"
-#include "results/diagrams.h"
 #include "results/tables.h"
 
 namespace borvik {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "analysis/walk.h"
-#include "results/report.h"
+#include "report/report.h"
 
 namespace borvik {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "diagrams/diagrams.h"
 #include "output.h"
-#include "results/diagrams.h"
 
 #ifdef BORVIK_PICTURES
 #include "platform/qt/picture.h"

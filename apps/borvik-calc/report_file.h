@@ -3,7 +3,7 @@
 #include <string>
 
 #include "calculation/session.h"
-#include "results/report.h"
+#include "report/report.h"
 
 namespace borvik {
 

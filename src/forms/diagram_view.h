@@ -5,9 +5,9 @@
 #include <optional>
 #include <vector>
 
+#include "diagrams/diagrams.h"
 #include "forms/calculation_record.h"
 #include "forms/services.h"
-#include "results/diagrams.h"
 
 namespace borvik {
 

@@ -22,7 +22,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/saved_bytes.h"
 #include "platform/version.h"
-#include "results/report.h"
+#include "report/report.h"
 #include "results/spreadsheet.h"
 
 namespace borvik {

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "results/fatigue_details.h"
+#include "fatigue/fatigue_details.h"
 #include "results/table_cells.h"
 #include "results/tables.h"
 

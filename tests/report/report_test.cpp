@@ -1,4 +1,4 @@
-#include "results/report.h"
+#include "report/report.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,13 +1,13 @@
-#include "results/diagrams.h"
+#include "diagrams/diagrams.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "diagrams/sketch_geometry.h"
 #include "platform/recording_surface.h"
 #include "results/result_tree.h"
-#include "results/sketch_geometry.h"
 #include "samples.h"
 
 namespace borvik {

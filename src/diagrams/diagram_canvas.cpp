@@ -1,6 +1,6 @@
-#include "results/diagram_canvas.h"
+#include "diagrams/diagram_canvas.h"
 
-#include "results/diagram_series.h"
+#include "diagrams/diagram_series.h"
 
 namespace borvik {
 namespace {

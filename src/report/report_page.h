@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "diagrams/diagrams.h"
 #include "platform/printer.h"
-#include "results/diagrams.h"
 
 namespace borvik {
 

@@ -1,10 +1,10 @@
-#include "results/result_diagrams.h"
+#include "diagrams/result_diagrams.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "results/diagram_canvas.h"
-#include "results/diagram_series.h"
+#include "diagrams/diagram_canvas.h"
+#include "diagrams/diagram_series.h"
 
 namespace borvik {
 namespace {

@@ -2,8 +2,8 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "results/fatigue_details.h"
-#include "results/report_chapters.h"
+#include "fatigue/fatigue_details.h"
+#include "report/report_chapters.h"
 
 namespace borvik {
 namespace {

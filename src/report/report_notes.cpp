@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "notes/notes.h"
-#include "results/report_chapters.h"
+#include "report/report_chapters.h"
 
 namespace borvik {
 namespace {

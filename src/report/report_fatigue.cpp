@@ -1,8 +1,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "results/fatigue_details.h"
-#include "results/report_chapters.h"
+#include "report/report_chapters.h"
 
 namespace borvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "results/report_page.h"
+#include "report/report_page.h"
 
 #include <algorithm>
 

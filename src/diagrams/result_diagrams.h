@@ -1,6 +1,6 @@
 #pragma once
 
-#include "results/diagrams.h"
+#include "diagrams/diagrams.h"
 
 namespace borvik {
 

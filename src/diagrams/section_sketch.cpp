@@ -1,4 +1,4 @@
-#include "results/section_sketch.h"
+#include "diagrams/section_sketch.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "results/report.h"
+#include "report/report.h"
 
 #include <algorithm>
 #include <cctype>
@@ -6,7 +6,7 @@
 
 #include "base/number_text.h"
 #include "platform/version.h"
-#include "results/report_chapters.h"
+#include "report/report_chapters.h"
 #include "results/tables.h"
 
 namespace borvik {

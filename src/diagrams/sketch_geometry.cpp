@@ -1,4 +1,4 @@
-#include "results/sketch_geometry.h"
+#include "diagrams/sketch_geometry.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "results/label_placer.h"
+#include "diagrams/label_placer.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "results/diagrams.h"
+#include "diagrams/diagrams.h"
 
 namespace borvik {
 

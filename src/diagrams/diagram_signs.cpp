@@ -1,8 +1,8 @@
 #include <cmath>
 #include <vector>
 
-#include "results/diagram_canvas.h"
-#include "results/diagram_series.h"
+#include "diagrams/diagram_canvas.h"
+#include "diagrams/diagram_series.h"
 
 namespace borvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "results/diagrams.h"
+#include "diagrams/diagrams.h"
 
 #include <algorithm>
 #include <array>
@@ -6,10 +6,10 @@
 #include <cmath>
 
 #include "base/number_text.h"
-#include "results/diagram_canvas.h"
-#include "results/diagram_series.h"
-#include "results/result_diagrams.h"
-#include "results/sketch_geometry.h"
+#include "diagrams/diagram_canvas.h"
+#include "diagrams/diagram_series.h"
+#include "diagrams/result_diagrams.h"
+#include "diagrams/sketch_geometry.h"
 
 namespace borvik {
 namespace {

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "results/diagrams.h"
-#include "results/label_placer.h"
+#include "diagrams/diagrams.h"
+#include "diagrams/label_placer.h"
 
 namespace borvik {
 

@@ -1,10 +1,10 @@
 #include <string>
 
 #include "base/number_text.h"
+#include "diagrams/section_sketch.h"
+#include "diagrams/sketch_geometry.h"
 #include "project/load_combinations.h"
-#include "results/report_chapters.h"
-#include "results/section_sketch.h"
-#include "results/sketch_geometry.h"
+#include "report/report_chapters.h"
 
 namespace borvik {
 namespace {

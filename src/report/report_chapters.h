@@ -2,7 +2,7 @@
 
 #include "calculation/session.h"
 #include "notes/notes.h"
-#include "results/report_page.h"
+#include "report/report_page.h"
 
 namespace borvik {
 

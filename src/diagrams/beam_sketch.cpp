@@ -3,10 +3,9 @@
 #include <vector>
 
 #include "base/number_text.h"
-#include "results/diagram_canvas.h"
-#include "results/fatigue_details.h"
-#include "results/result_diagrams.h"
-#include "results/sketch_geometry.h"
+#include "diagrams/diagram_canvas.h"
+#include "diagrams/result_diagrams.h"
+#include "diagrams/sketch_geometry.h"
 
 namespace borvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "results/diagram_series.h"
+#include "diagrams/diagram_series.h"
 
 #include <array>
 #include <cmath>
