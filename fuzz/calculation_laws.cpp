@@ -4,11 +4,11 @@
 #include "calculation/calculation.h"
 #include "diagrams/diagrams.h"
 #include "laws.h"
-#include "platform/recording_surface.h"
 #include "project/project_file.h"
 #include "results/json.h"
 #include "results/summary.h"
 #include "results/tables.h"
+#include "support/recording_surface.h"
 
 namespace borvik::fuzzing {
 

@@ -7,13 +7,13 @@
 #include <optional>
 #include <string_view>
 
-#include "forms/guarded_application.h"
-#include "forms/help.h"
-#include "forms/main_window.h"
-#include "forms/wheel_guard.h"
+#include "boxes/wheel_guard.h"
 #include "platform/data_folder.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_settings.h"
+#include "window/guarded_application.h"
+#include "window/help.h"
+#include "window/main_window.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/printer.h"
-#include "platform/recording_surface.h"
+#include "support/recording_surface.h"
 
 namespace borvik::testing_support {
 

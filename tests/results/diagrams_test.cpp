@@ -6,9 +6,9 @@
 #include <algorithm>
 
 #include "diagrams/sketch_geometry.h"
-#include "platform/recording_surface.h"
 #include "results/result_tree.h"
 #include "samples.h"
+#include "support/recording_surface.h"
 
 namespace borvik {
 namespace {

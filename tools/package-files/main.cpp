@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <iostream>
 
-#include "forms/help_library.h"
+#include "help/help_library.h"
 
 /// Makes the files of the package that are drawn: the icons in their fixed sizes and the theory manual as PDF.
 /// Usage: borvik-package-files FOLDER

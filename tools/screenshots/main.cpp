@@ -4,17 +4,17 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "boxes/info_picture.h"
 #include "camera.h"
-#include "forms/dialogs.h"
-#include "forms/frm_about.h"
-#include "forms/frm_detailed_result.h"
-#include "forms/help_window.h"
-#include "forms/info_picture.h"
-#include "forms/main_window.h"
+#include "dialogs/dialogs.h"
+#include "help/help_window.h"
 #include "pictures/fatigue_pictures.h"
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
 #include "tutorial.h"
+#include "views/frm_detailed_result.h"
+#include "window/frm_about.h"
+#include "window/main_window.h"
 
 /// Takes the pictures of the windows for the documents, from a project calculated in the real main window, and those of
 /// the tutorial, whose project is saved beside them as tutorial.brvk.

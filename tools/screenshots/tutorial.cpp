@@ -2,9 +2,9 @@
 
 #include <QStatusBar>
 
-#include "forms/main_window.h"
 #include "project/project_file.h"
 #include "tutorial_steps.h"
+#include "window/main_window.h"
 
 namespace borvik {
 

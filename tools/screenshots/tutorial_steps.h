@@ -2,8 +2,8 @@
 
 #include <span>
 
+#include "dialogs/dialogs.h"
 #include "form_hands.h"
-#include "forms/dialogs.h"
 
 namespace borvik {
 

@@ -1,0 +1,120 @@
+#include "views/frm_detailed_result.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "views/printing.h"
+
+namespace borvik {
+
+namespace {
+
+QPushButton* closeButton(const char* name, QDialog* dialog) {
+    auto* button = new QPushButton("OK");
+    button->setObjectName(name);
+    button->setDefault(true);
+    QObject::connect(button, &QPushButton::clicked, dialog, &QDialog::accept);
+    return button;
+}
+
+QSize generousSize(const QWidget* parent) {
+    return parent == nullptr ? QSize(900, 600) : parent->size() * 0.9;
+}
+
+}  // namespace
+
+FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent)
+    : QDialog(parent), calculation_(std::move(calculation)) {
+    setObjectName("frmDetailedResult");
+    setWindowTitle("Detailed Results");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    tree_ = new ResultTreeView("TreeView1");
+    tree_->showTree(detailedTree(calculation_->project));
+    pane_ = new ResultTablePane("lstViewDetailed");
+    auto* splitter = new QSplitter;
+    splitter->addWidget(tree_);
+    splitter->addWidget(pane_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+
+    cmdDetailedResult_ = new QPushButton("Export to Excel");
+    cmdDetailedResult_->setObjectName("cmdDetailedResult");
+    cmdDetailedResult_->setAutoDefault(false);
+    cmdDetailedResult_->setEnabled(false);
+    connect(cmdDetailedResult_, &QPushButton::clicked, this, [this] { exportTable(pane_->list()->table(), this); });
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDetailedResult_);
+    buttons->addStretch();
+    buttons->addWidget(closeButton("cmbOk", this));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(splitter, 1);
+    layout->addLayout(buttons);
+    connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::showNode);
+
+    // Wide enough for the widest table, where the screen is.
+    constexpr int kTreeWidth = 220, kMargins = 40;
+    const TreeNode nodes = detailedTree(calculation_->project);
+    const int table = widestTable(nodes);
+    const QSize size = generousSize(parent);
+    const int most = screen()->availableSize().width() - kMargins;
+    resize(std::max(size.width(), std::min(kTreeWidth + table + kMargins, most)), size.height());
+    splitter->setSizes({kTreeWidth, width() - kTreeWidth});
+    if (const TreeNode* first = findNode(nodes, "MyVz max/min")) showNode(*first);
+}
+
+int FrmDetailedResult::widestTable(const TreeNode& node) const {
+    int widest = 0;
+    if (const TableEntry* entry = findTable(node.name)) {
+        pane_->list()->showTable(entry->fill(calculation_->project, calculation_->results));
+        widest = pane_->list()->wantedWidth();
+    }
+    for (const TreeNode& child : node.children) widest = std::max(widest, widestTable(child));
+    return widest;
+}
+
+void FrmDetailedResult::showNode(const TreeNode& node) {
+    const TableEntry* entry = findTable(node.name);
+    if (entry == nullptr) return;
+    if (!node.needsLoadsY || calculation_->project.HasLoadsY) shown_ = QString::fromStdString(node.text);
+    tree_->setCurrentItem(tree_->itemOf(shown_));
+    if (shown_.toStdString() != node.text) return;  // without horizontal loads there is nothing to show
+    pane_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
+    cmdDetailedResult_->setEnabled(canExportTable());
+}
+
+namespace {
+
+/// The walk whose positions are kept: the last of the fatigue runs.
+QString lastWalk(const CalculationRecord& calculation) {
+    const FatigueResults& fatigue = calculation.results.Fatigue;
+    if (fatigue.Cr12) return QObject::tr("both cranes together");
+    if (fatigue.Cr2) return QObject::tr("crane 2 alone, its wheels in the columns of crane 1");
+    if (calculation.project.CraneType == 2) return QObject::tr("the hoist");
+    return calculation.project.NofCranes == 2 ? QObject::tr("both cranes as one train") : QObject::tr("the crane");
+}
+
+}  // namespace
+
+FrmTemp::FrmTemp(const CalculationPtr& calculation, QWidget* parent) : QDialog(parent) {
+    setObjectName("frmTemp");
+    setWindowTitle("TempResults");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* pane = new ResultTablePane("lstViewTemp");
+    if (calculation) {
+        pane->showTable(tr("Positions in the last walk, fatigue: %1").arg(lastWalk(*calculation)),
+                        TableSteps(calculation->project, calculation->results));
+    } else {
+        pane->showTable(tr("No calculation of the present input"), TableSteps(Project{}, Results{}));
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(pane, 1);
+    layout->addWidget(closeButton("cmdOK", this), 0, Qt::AlignRight);
+    resize(generousSize(parent));
+}
+
+}  // namespace borvik

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDialog>
+#include <QPushButton>
+
+#include "views/calculation_record.h"
+#include "views/result_table_view.h"
+#include "views/result_tree_view.h"
+
+namespace borvik {
+
+/// frmDetailedResult: every table of a calculation, chosen from a tree of its own.
+class FrmDetailedResult : public QDialog {
+    Q_OBJECT
+
+public:
+    FrmDetailedResult(CalculationPtr calculation, QWidget* parent);
+
+private:
+    void showNode(const TreeNode& node);
+    [[nodiscard]] int widestTable(const TreeNode& node) const;
+
+    CalculationPtr calculation_;
+    ResultTreeView* tree_;
+    ResultTablePane* pane_;
+    QString shown_;  ///< the node of the table that is shown
+    QPushButton* cmdDetailedResult_;
+};
+
+/// frmTemp: the positions that the cranes took in the last walk.
+class FrmTemp : public QDialog {
+    Q_OBJECT
+
+public:
+    /// @param calculation  null before a calculation, or when the input has changed since: the list is then empty
+    FrmTemp(const CalculationPtr& calculation, QWidget* parent);
+};
+
+}  // namespace borvik

@@ -1,0 +1,114 @@
+#include "window/help.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+
+#include "help/help_window.h"
+
+namespace borvik {
+
+namespace {
+
+struct PageOfWindow {
+    const char* window;
+    const char* page;
+};
+
+constexpr PageOfWindow kPages[] = {
+    {"frmBorvik", "main-window.md"},
+    {"frmSetup", "setup.md"},
+    {"frmInfoSetup", "setup.md"},
+    {"frmBeam", "beam.md"},
+    {"frmProfile", "profile.md"},
+    {"frmProfReinf", "reinforcement.md"},
+    {"frmRail", "rail.md"},
+    {"frmvipping", "lateral-torsional-buckling.md"},
+    {"frmLoad", "loads-overhead-crane.md"},
+    {"frmLoadRunway", "loads-monorail.md"},
+    {"frmFatigue1", "fatigue-overhead-crane.md"},
+    {"frmFatigue2", "fatigue-monorail.md"},
+    {"frmProgress", "calculating.md"},
+    {"frmTemp", "crane-positions.md"},
+    {"frmDetailedResult", "detailed-results.md"},
+    {"frmabout", "index.md"},
+};
+
+struct PageOfNode {
+    const char* node;  ///< its text
+    const char* page;
+};
+
+constexpr PageOfNode kNodes[] = {
+    {"Setup", "setup.md"},
+    {"Beam", "beam.md"},
+    {"Profile", "profile.md"},
+    {"Rail", "rail.md"},
+    {"Lateral Tors Buckl", "lateral-torsional-buckling.md"},
+    {"ULS", "summaries.md"},
+    {"ULS + SLS", "summaries.md"},
+    {"ULS + SLS + FLS", "summaries.md"},
+    {"Summary", "summaries.md"},
+    {"My + Vz", "diagram-forces.md"},
+    {"Mz + Vy", "diagram-forces.md"},
+    {"Uz + Uy", "diagram-deflections.md"},
+    {"Reactions", "diagram-reactions.md"},
+    {"Detailed Results", "detailed-results.md"},
+    {"Notes", "notes.md"},
+};
+
+/// @param over  owner of the help window; an owner's open help window is used again
+HelpWindow* openHelp(QWidget* over, Messages& messages) {
+    const QFileInfo contents(QString(kHelpPath) + ":index.md");
+    if (!contents.exists()) {
+        messages.show("The help pages are missing: they belong into the folder docs/help beside the section tables.");
+        return nullptr;
+    }
+    auto* window = over == nullptr ? nullptr : over->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
+    if (window == nullptr) window = new HelpWindow(contents.absolutePath(), over);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    return window;
+}
+
+}  // namespace
+
+void showHelp(HelpPage page, Messages& messages) {
+    HelpWindow* window = openHelp(QApplication::activeWindow(), messages);
+    if (window == nullptr) return;
+    window->showPage(page == HelpPage::Theory ? "../theory.md" : "index.md");
+    if (page == HelpPage::Search) window->goToSearch();
+}
+
+QString helpPageOf(const QWidget* window) {
+    for (; window != nullptr; window = window->parentWidget())
+        for (const PageOfWindow& known : kPages)
+            if (window->objectName() == known.window) return known.page;
+    return "index.md";
+}
+
+QString helpPageOf(const TreeNode& node, bool monorail) {
+    if (node.text == "Loads") return monorail ? "loads-monorail.md" : "loads-overhead-crane.md";
+    if (node.text == "Fatigue") return monorail ? "fatigue-monorail.md" : "fatigue-overhead-crane.md";
+    if (node.text.starts_with("Cr1-") || node.text.starts_with("Cr2-")) return "diagram-fatigue.md";
+    for (const PageOfNode& known : kNodes)
+        if (node.text == known.node) return known.page;
+    return "main-window.md";
+}
+
+void showHelpPage(const QString& page, Messages& messages) {
+    if (HelpWindow* window = openHelp(QApplication::activeWindow(), messages)) window->showPage(page);
+}
+
+bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) return false;
+    QWidget* window = static_cast<QWidget*>(watched)->window();
+    if (qobject_cast<QDialog*>(window) == nullptr) return false;
+    if (HelpWindow* help = openHelp(window, messages_)) help->showPage(helpPageOf(window));
+    return true;
+}
+
+}  // namespace borvik

@@ -1,0 +1,288 @@
+#include "window/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "calculation/load_check.h"
+#include "project/input_ranges.h"
+#include "views/frm_detailed_result.h"
+#include "views/icons.h"
+#include "window/help.h"
+
+namespace borvik {
+
+namespace {
+
+constexpr QSize kStartSize(1024, 741);
+
+QPushButton* button(const char* name, const char* caption) {
+    auto* made = new QPushButton(QString::fromUtf8(caption));
+    made->setObjectName(QString::fromUtf8(name));
+    return made;
+}
+
+bool isProjectFile(const QMimeData* data) {
+    return data->urls().size() == 1 && data->urls().constFirst().isLocalFile() &&
+           data->urls().constFirst().path().endsWith(".brvk", Qt::CaseInsensitive);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session, const Services& services, QWidget* parent)
+    : QMainWindow(parent),
+      session_(session),
+      services_(services),
+      recent_(services.settings, kApplicationTitle),
+      history_(session.project, session.context),
+      recovery_(QString::fromStdString(services.recoveryFolder)) {
+    setObjectName("frmBorvik");
+    setAcceptDrops(true);
+    resize(kStartSize);
+    buildCentre();
+    buildMenus();
+    buildStatusBar();
+    ShowRecentFiles();
+    WritefrmInput();
+}
+
+MainWindow::~MainWindow() {
+    hide();  // the focus leaves its box while there is still a project to take what was typed
+    disconnect(qApp, nullptr, this, nullptr);  // it leaves one widget after another while they go
+}
+
+void MainWindow::buildCentre() {
+    auto* right = new QSplitter(Qt::Vertical);
+    right->setObjectName("splitterResults");
+    right->addWidget(pictureFrame());
+    right->addWidget(resultFrame());
+    right->setStretchFactor(0, 3);
+    right->setStretchFactor(1, 2);
+    right->setChildrenCollapsible(false);
+    auto* centre = new QSplitter(Qt::Horizontal);
+    centre->setObjectName("splitterMain");
+    centre->addWidget(inputColumn());
+    centre->addWidget(right);
+    centre->setStretchFactor(0, 1);  // on a wide screen long names get some of the room
+    centre->setStretchFactor(1, 8);
+    centre->setChildrenCollapsible(false);
+    centre->setContentsMargins(6, 6, 6, 0);
+    setCentralWidget(centre);
+}
+
+QWidget* MainWindow::inputColumn() {
+    panel_ = new ProjectPanel(session_, services_.messages);
+    connect(panel_, &ProjectPanel::inputChanged, this, [this](const QString& what) { projectChanged(what); });
+    connect(panel_, &ProjectPanel::namesChanged, this, [this] { projectChanged(tr("Names"), true); });
+
+    auto* cmdProfile = button("cmdProfile", "Profile");
+    auto* command1 = button("Command1", "Beam");
+    auto* command2 = button("Command2", "Load");
+    auto* command3 = button("Command3", "TempResults");
+    cmdCalc_ = button("cmdCalc", "Calculate");
+    QFont bold = cmdCalc_->font();
+    bold.setBold(true);
+    cmdCalc_->setFont(bold);
+    cmdCalc_->setToolTip(tr("Calculate the beam (F5)"));
+    command3->setToolTip(tr("Positions of the cranes in the last walk"));
+    connect(cmdProfile, &QPushButton::clicked, this, [this] { openForm("Profile"); });
+    connect(command1, &QPushButton::clicked, this, [this] { openForm("Beam"); });
+    connect(command2, &QPushButton::clicked, this, [this] { openForm("Loads"); });
+    connect(command3, &QPushButton::clicked, this,
+            [this] { FrmTemp(session_.Calculated ? calculation_ : nullptr, this).exec(); });
+    connect(cmdCalc_, &QPushButton::clicked, this, &MainWindow::calculate);
+
+    tree_ = new ResultTreeView("TreeView1");
+    connect(tree_, &ResultTreeView::nodeChosen, this, &MainWindow::showNode);
+    connect(tree_, &ResultTreeView::helpWanted, this, [this](const TreeNode& node) {
+        showHelpPage(helpPageOf(node, session_.project.CraneType != 1), services_.messages);
+    });
+
+    auto* buttons = new QGridLayout;
+    buttons->addWidget(cmdProfile, 0, 0, 1, 2);
+    buttons->addWidget(command1, 0, 2, 1, 2);
+    buttons->addWidget(command2, 0, 4, 1, 2);
+    buttons->addWidget(cmdCalc_, 1, 0, 1, 3);
+    buttons->addWidget(command3, 1, 3, 1, 3);
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(panel_);
+    layout->addLayout(buttons);
+    layout->addWidget(tree_, 1);
+    return column;
+}
+
+QWidget* MainWindow::pictureFrame() {
+    picBalk_ = new DiagramView(services_);
+    picBalk_->setObjectName("picBalk");
+    picBalk_->setClickArea(100.0, 800.0, tr("A click opens the loads"));
+    connect(picBalk_, &DiagramView::clicked, this, [this] { openForm("Loads"); });
+    picRes_ = new DiagramView(services_);
+    picRes_->setObjectName("picRes");
+    auto* scrolled = new QScrollArea;  // several diagrams below each other keep a legible height
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);  // the picture in it has the focus
+    connect(picRes_, &DiagramView::readingMoved, scrolled,
+            [scrolled](QPoint to) { scrolled->ensureVisible(to.x(), to.y(), 50, 120); });
+    scrolled->setWidget(picRes_);
+    auto* pictures = new QSplitter(Qt::Vertical);
+    pictures->setObjectName("splitterPictures");
+    pictures->addWidget(picBalk_);
+    pictures->addWidget(scrolled);
+    pictures->setStretchFactor(0, 2);
+    pictures->setStretchFactor(1, 3);
+    pictures->setChildrenCollapsible(false);
+    auto* frame = new QGroupBox("Beamdata and Results");
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(pictures);
+    return frame;
+}
+
+QWidget* MainWindow::resultFrame() {
+    results_ = new ResultTablePane("lstViewDetailed");
+    connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::goToCheckOf);
+    auto* frame = new QGroupBox("Results");
+    frame->setObjectName("frmResults");
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(results_);
+    return frame;
+}
+
+void MainWindow::buildStatusBar() {
+    stateCalculated_ = new QLabel;
+    stateCalculated_->setObjectName("stateCalculated");
+    stateRanges_ = new QLabel;
+    stateRanges_->setObjectName("stateRanges");
+    stateGoverning_ = new QLabel;
+    stateGoverning_->setObjectName("stateGoverning");
+    stateTime_ = new QLabel;
+    stateTime_->setObjectName("stateTime");
+    stateUnsaved_ = new QLabel;
+    stateUnsaved_->setObjectName("stateUnsaved");
+    stateNotes_ = new QToolButton;
+    stateNotes_->setObjectName("stateNotes");
+    stateNotes_->setAutoRaise(true);
+    stateNotes_->setToolTip(tr("What the checks assume or leave out, where it matters in this project"));
+    connect(stateNotes_, &QToolButton::clicked, this, &MainWindow::showNotes);
+    // Temporary messages cover it and give it free again, so that it can't vanish unread.
+    stateRemark_ = new QLabel;
+    stateRemark_->setObjectName("stateRemark");
+    stateRemark_->setMargin(4);
+    stateRemark_->setMinimumWidth(1);  // never widens the window
+    statusBar()->addWidget(stateRemark_, 1);
+    for (QLabel* label : {stateRanges_, stateUnsaved_, stateGoverning_, stateTime_, stateCalculated_})
+        label->setMargin(4);
+    for (QWidget* state : std::initializer_list<QWidget*>{stateRanges_, stateUnsaved_, stateGoverning_, stateNotes_,
+                                                          stateTime_, stateCalculated_})
+        statusBar()->addPermanentWidget(state);
+}
+
+void MainWindow::WritefrmInput() {
+    const bool asRemembered = session_.project == history_.present().project;
+    session_.project.BeamChecked = true;
+    panel_->showProject();
+    if (asRemembered) history_.settled(session_.project);
+    picBalk_->showSketch(session_.project);
+    setWindowTitle("Borvik : " + QString::fromStdString(session_.context.FileName));
+    ShowTreeView();
+    showState();
+}
+
+void MainWindow::projectChanged(const QString& what, bool resultsStand) {
+    if (!resultsStand) session_.inputChanged();
+    splicesDropped_ = false;
+    picBalk_->showSketch(session_.project);
+    panel_->showProject();
+    remember(what);
+    showState();
+    statusBar()->showMessage(tr("Changed: %1").arg(what), 4000);
+}
+
+void MainWindow::showState() {
+    const bool current = session_.Calculated;
+    // An open form puts the results out of reach, but out of date only by an edit.
+    const bool looking = !current && form_ != nullptr && inputIsCalculated();
+    cmdCalc_->setEnabled(!current);
+    tree_->setResultsReachable(current);
+    picRes_->setOutOfDate(!current && !looking);
+    results_->setOutOfDate(!current && !looking);
+    stateUnsaved_->setText(!hasUnsavedChanges()     ? QString()
+                           : copyTrouble_.isEmpty() ? tr("Unsaved changes")
+                                                    : tr("Unsaved changes, no copy kept"));
+    stateUnsaved_->setToolTip(copyTrouble_);
+    stateCalculated_->setText(current        ? tr("Calculated")
+                              : looking      ? tr("Form open")
+                              : calculation_ ? tr("Out of date: calculate again")
+                                             : tr("Not calculated"));
+    showRanges();
+    stateGoverning_->setVisible(current);
+    stateTime_->setVisible(current);
+    stateNotes_->setVisible(current);
+    showRemark();
+    showHistory();
+}
+
+/// Values of a file, or of a form closed twice, that their forms don't take: the first in words, all in the tool tip.
+void MainWindow::showRanges() {
+    QStringList all;
+    for (const std::string& each : valuesOutOfRange(session_.project)) all += QString::fromStdString(each);
+    stateRanges_->setVisible(!all.isEmpty());
+    if (all.isEmpty()) return;
+    stateRanges_->setText(all.size() == 1 ? tr("\u26a0 %1").arg(all.first())
+                                          : tr("\u26a0 %1, and %2 more").arg(all.first()).arg(all.size() - 1));
+    stateRanges_->setToolTip(tr("The calculation takes these values as they stand:\n%1").arg(all.join('\n')));
+}
+
+void MainWindow::showRemark() {
+    QStringList remarks;
+    if (splicesDropped_) remarks.append(tr("Splices that no longer fit the beam have been left out"));
+    if (session_.Calculated && calculation_) remarks.append(QString::fromStdString(LoadRemark(calculation_->project)));
+    remarks.removeAll(QString());
+    stateRemark_->setText(remarks.join("; "));
+    stateRemark_->setToolTip(stateRemark_->text());
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !running_) WritefrmInput();
+    return QMainWindow::event(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (running_) {
+        event->ignore();
+        return;
+    }
+    panel_->commit();
+    keepCopy();
+    if (!isMinimized()) {
+        const auto keep = [this](const char* key, int edge) {
+            services_.settings.save(kApplicationTitle, "Settings", key, std::to_string(edge));
+        };
+        keep("MainLeft", x());
+        keep("MainTop", y());
+        keep("MainWidth", width());
+        keep("MainHeight", height());
+    }
+    progress_.reset();
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (isProjectFile(event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    if (isProjectFile(event->mimeData()))
+        openProject(event->mimeData()->urls().constFirst().toLocalFile().toStdString());
+}
+
+}  // namespace borvik

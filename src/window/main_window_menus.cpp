@@ -1,0 +1,186 @@
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "boxes/undo_keys.h"
+#include "views/icons.h"
+#include "views/printing.h"
+#include "window/frm_about.h"
+#include "window/help.h"
+#include "window/main_window.h"
+
+namespace borvik {
+
+/// One entry of a menu; without a caption a separator.
+struct MainWindow::MenuEntry {
+    const char* name;
+    const char* caption = nullptr;
+    QKeySequence shortcut = {};
+    QIcon icon = {};
+    std::function<void()> run = {};
+};
+
+void MainWindow::fill(QMenu* menu, std::initializer_list<MenuEntry> entries) {
+    for (const MenuEntry& entry : entries) {
+        QAction* action = entry.caption == nullptr ? menu->addSeparator()
+                                                   : menu->addAction(entry.icon, QString::fromUtf8(entry.caption));
+        action->setObjectName(QString::fromUtf8(entry.name));
+        action->setShortcut(entry.shortcut);
+        if (entry.run) connect(action, &QAction::triggered, this, entry.run);
+    }
+}
+
+QMenu* MainWindow::menu(QMenu* parent, const char* name, const char* caption) {
+    auto* made = new QMenu(QString::fromUtf8(caption), this);
+    made->setObjectName(QString::fromUtf8(name));
+    made->menuAction()->setObjectName(QString::fromUtf8(name));
+    if (parent == nullptr) {
+        menuBar()->addMenu(made);
+    } else {
+        parent->addMenu(made);
+    }
+    return made;
+}
+
+void MainWindow::buildRecentEntries(QMenu* menu) {
+    menu->setToolTipsVisible(true);  // the whole path of an entry that is cut
+    recentSeparator_ = menu->addSeparator();
+    recentSeparator_->setObjectName("mnuMRU0");
+    for (int i = 0; i < RescentFile::kEntries; ++i) {
+        QAction* entry = menu->addAction(QString());
+        entry->setObjectName("mnuMRU" + QString::number(i + 1));
+        entry->setVisible(false);
+        connect(entry, &QAction::triggered, this, [this, i] { openRecent(i); });
+        recentEntries_.append(entry);
+    }
+}
+
+void MainWindow::buildExampleEntries(QMenu* menu) {
+    const QStringList folders = QDir::searchPaths(kExamplesPath);
+    const QFileInfoList files =
+        folders.isEmpty() ? QFileInfoList() : QDir(folders.first()).entryInfoList({"*.brvk"}, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files) {
+        QString caption = file.completeBaseName().replace('-', ' ');
+        caption[0] = caption[0].toUpper();
+        menu->addAction(caption, this, [this, file] { openExample(file); });
+    }
+    menu->menuAction()->setVisible(!menu->isEmpty());
+}
+
+void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], const char* const (&captions)[4],
+                                   PrintCommand command) {
+    for (int i = 0; i < 4; ++i) {
+        const int scope = i + 1;
+        fill(menu, {{names[i],
+                     captions[i],
+                     {},
+                     QIcon::fromTheme("document-print", pictureIcon(Picture::Printer)),
+                     [this, scope, command] { print(scope, command); }}});
+        if (!canPrint()) {
+            menu->actions().constLast()->setEnabled(false);
+            menu->actions().constLast()->setStatusTip(tr("This version can't print"));
+        }
+    }
+}
+
+/// The picture that the menu's commands are for: the sketch where it has the focus or stands alone, else the results.
+DiagramView& MainWindow::chosenPicture() {
+    return sketchChosen_ || picRes_->diagrams().empty() ? *picBalk_ : *picRes_;
+}
+
+void MainWindow::buildMenus() {
+    static constexpr const char* kScopes[4] = {"ULS", "ULS+SLS", "ULS+SLS+FLS", "Compressed"};
+    const QIcon form = pictureIcon(Picture::Form);
+    QMenu* file = menu(nullptr, "mnuArkiv", "&File");
+    fill(file, {{"mnuArkivNytt", "&New   ", QKeySequence::New, themeIcon("document-new", QStyle::SP_FileIcon),
+                 [this] { newProject(); }},
+                {"mnuArkivÖppna", "&Open", QKeySequence::Open, themeIcon("document-open", QStyle::SP_DialogOpenButton),
+                 [this] { chooseAndOpen(); }}});
+    buildExampleEntries(menu(file, "mnuExamples", "Open example"));
+    fill(file, {{"mnuArkivLinje1"},
+                {"mnuArkivSpara", "&Save", QKeySequence::Save, themeIcon("document-save", QStyle::SP_DialogSaveButton),
+                 [this] { save(); }},
+                {"mnuArkivSparasom", "Save as", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+                 themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { saveAs(); }},
+                {"mnuArkivLinje2"}});
+    buildPrintEntries(menu(file, "LmnuPrint", "Print"),
+                      {"LmnuPrintULS", "LmnuPrintULSSLS", "LmnuPrintALL", "LmnuPrintCompressed"},
+                      {"Print ULS", "Print ULS+SLS", "Print ULS+SLS+FLS ", "Print Compressed"}, printReport);
+    buildPrintEntries(menu(file, "mnuPreview", "Print preview"),
+                      {"mnuPreviewULS", "mnuPreviewULSSLS", "mnuPreviewAll", "mnuPreviewCompressed"}, kScopes,
+                      previewReport);
+    buildPrintEntries(menu(file, "mnuPdf", "Print to PDF"),
+                      {"mnuPdfULS", "mnuPdfULSSLS", "mnuPdfAll", "mnuPdfCompressed"}, kScopes, saveReportAsPdf);
+    buildRecentEntries(file);
+    fill(file, {{"mnuspace"},
+                {"mnuArkivAvsluta", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q),
+                 themeIcon("application-exit", QStyle::SP_DialogCloseButton), [this] { close(); }}});
+
+    QMenu* edit = menu(nullptr, "mnuEdit", "&Edit");
+    fill(edit, {{"mnuUndo", "&Undo", {}, themeIcon("edit-undo", QStyle::SP_ArrowBack), [this] { undo(); }},
+                {"mnuRedo", "&Redo", {}, themeIcon("edit-redo", QStyle::SP_ArrowForward), [this] { redo(); }}});
+    undo_ = edit->actions().at(0);
+    redo_ = edit->actions().at(1);
+    undo_->setShortcuts(undoKeys());
+    redo_->setShortcuts(redoKeys());
+
+    QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
+    setup->setObjectName("mnuSetup");
+
+    fill(menu(nullptr, "mnuIndata", "&Input"),
+         {{"mnuProfile", "Profile", QKeySequence(Qt::CTRL | Qt::Key_1), form, [this] { openForm("Profile"); }},
+          {"mnuBeam", "Beam", QKeySequence(Qt::CTRL | Qt::Key_2), form, [this] { openForm("Beam"); }},
+          {"mnuRail", "Rail", QKeySequence(Qt::CTRL | Qt::Key_3), form,
+           [this] { openRail("Rail not available for  beams"); }},
+          {"mnuLateral", "Lateral Torsional Buckling", QKeySequence(Qt::CTRL | Qt::Key_4), form,
+           [this] { openForm("Lateral Tors Buckl"); }},
+          {"mnuLoad", "Load", QKeySequence(Qt::CTRL | Qt::Key_5), form, [this] { openForm("Loads"); }},
+          {"mnuFatigue", "Fatigue", QKeySequence(Qt::CTRL | Qt::Key_6), form, [this] { openForm("Fatigue"); }},
+          {"mnuIndataDivider1"}});
+
+    QAction* calc = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
+    calc->setObjectName("mnuCalc");
+    calc->setShortcut(Qt::Key_F5);
+
+    fill(menu(nullptr, "mnuDiagram", "&Diagram"),
+         {{"mnuSavePicture", "&Save picture...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+           themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { chosenPicture().savePictureAs(); }},
+          {"mnuCopyPicture", "&Copy picture", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+           themeIcon("edit-copy", QStyle::SP_FileIcon), [this] {
+               chosenPicture().copyPicture();
+               statusBar()->showMessage(tr("Copied: %1").arg(chosenPicture().accessibleName()), 4000);
+           }}});
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        const bool inMenu = now == menuBar() || qobject_cast<const QMenu*>(now) != nullptr;
+        if (now != nullptr && !inMenu) sketchChosen_ = now == picBalk_;
+    });
+
+    QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
+    buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},
+                      {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
+    printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
+    printMenu->addSeparator();
+    printNotes_ = printMenu->addAction("With notes for the checking engineer");
+    printNotes_->setObjectName("mnuPrintNotes");
+    printNotes_->setCheckable(true);
+    printNotes_->setStatusTip(tr("The report, its preview and its PDF end with a chapter of notes"));
+
+    fill(menu(nullptr, "mnuHelp", "&Help"),
+         {{"mnuContents", "&Contents", QKeySequence::HelpContents,
+           themeIcon("help-contents", QStyle::SP_DialogHelpButton),
+           [this] { showHelp(HelpPage::Contents, services_.messages); }},
+          {"mnuHelpSearch",
+           "Search for Help On . . .",
+           {},
+           {},
+           [this] { showHelp(HelpPage::Search, services_.messages); }},
+          {"mnuTheory", "Theory Manual", {}, {}, [this] { showHelp(HelpPage::Theory, services_.messages); }},
+          {"mnuHjalpLinje1"},
+          {"mnuAbout", "&About Borvik", {}, themeIcon("help-about", QStyle::SP_MessageBoxInformation), [this] {
+               FrmAbout(this).exec();
+           }}});
+}
+
+}  // namespace borvik

@@ -1,0 +1,458 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QDialog>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+#include "base/number_text.h"
+#include "support/recording_surface.h"
+#include "views/frm_detailed_result.h"
+#include "window_support.h"
+
+namespace borvik {
+namespace {
+
+class ResultsTest : public testing::Test, public WindowFixture {
+protected:
+    void openExample(const char* name) {
+        ASSERT_TRUE(window.openProject(std::string(BORVIK_SOURCE_DIR "/examples/") + name)) << lastMessage();
+    }
+    void calculate() {
+        click("cmdCalc");
+        ASSERT_TRUE(session.Calculated) << lastMessage();
+    }
+    ResultTableView& list() { return control<ResultTableView>("lstViewDetailed"); }
+    DiagramView& picRes() { return control<DiagramView>("picRes"); }
+    std::vector<std::string> headers() {
+        std::vector<std::string> texts;
+        for (const TableColumn& column : list().table().columns) texts.push_back(column.header);
+        return texts;
+    }
+    /// Runs what opens a modal window, and closes that window. @return its object name; empty when none opened
+    std::string nameOfModal(const std::function<void()>& open) {
+        std::string name;
+        QTimer closer;
+        QObject::connect(&closer, &QTimer::timeout, &closer, [&] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                name = modal->objectName().toStdString();
+                modal->close();
+            }
+        });
+        closer.start(10);
+        open();
+        return name;
+    }
+};
+
+TEST_F(ResultsTest, aCalculationShowsSketchDiagramAndSummary) {
+    calculate();
+    EXPECT_FALSE(control<QPushButton>("cmdCalc").isEnabled());
+    EXPECT_EQ(control<DiagramView>("picBalk").diagrams(), std::vector<Diagram>{Diagram::Sketch});
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("MyVz", project()));
+    EXPECT_EQ(headers(), (std::vector<std::string>{"Control", "Interaction Ratio", "Reference "}));
+    EXPECT_EQ(list().table().rows.at(0).at(0).text, "ULS - Section Control/Lateral Torsional Buckling");
+    EXPECT_EQ(control<QLabel>("stateCalculated").text(), "Calculated");
+    EXPECT_FALSE(window.hasUnsavedChanges()) << "what a calculation writes back is no change of the user's";
+    EXPECT_TRUE(messages.texts.empty());
+    for (QWidget* other : QApplication::topLevelWidgets())
+        EXPECT_FALSE(other->objectName() == "frmProgress" && other->isVisible())
+            << "one crane needs no progress window";
+}
+
+TEST_F(ResultsTest, everyNodeShowsWhatItNamesWhileTheResultsStand) {
+    openExample("turbine-hall-tandem-lift.brvk");
+    calculate();
+    const auto hasRow = [this](const std::string& text) {
+        const auto& rows = list().table().rows;
+        return std::any_of(rows.begin(), rows.end(), [&](const auto& row) { return row.at(0).text == text; });
+    };
+    struct Shown {
+        const char *node, *picture, *row, *noRow;
+    };
+    const Shown nodes[] = {{"ULS + SLS", "", "SLS - Deflection Control", "FLS - Fatigue Control"},
+                           {"ULS", "", "", "SLS - Deflection Control"},
+                           {"ULS + SLS + FLS", "", "FLS - Fatigue  Control", ""},
+                           {"Summary", "", "SLS - Deflection Control", ""},
+                           {"My + Vz", "MyVz", "", ""},
+                           {"Mz + Vy", "MzVy", "", ""},
+                           {"Uz + Uy", "Uz", "", ""},
+                           {"Cr1-Point 1", "Cr1Sp1", "", ""},
+                           {"Cr1-Point 2", "Cr1Sp2", "", ""},
+                           {"Cr1-Point 3", "Cr1Sp3", "", ""},
+                           {"Cr2-Point 1", "Cr2Sp1", "", ""},
+                           {"Cr2-Point 2", "Cr2Sp2", "", ""},
+                           {"Cr2-Point 3", "Cr2Sp3", "", ""},
+                           {"Reactions", "CrRz", "", ""},
+                           {"Notes", "", "", ""}};
+    for (const auto& [node, picture, row, noRow] : nodes) {
+        SCOPED_TRACE(node);
+        clickNode(node);
+        EXPECT_TRUE(*row == '\0' || hasRow(row));
+        EXPECT_TRUE(*noRow == '\0' || !hasRow(noRow));
+        EXPECT_TRUE(*picture == '\0' || picRes().diagrams() == pictureDiagrams(picture, project()));
+        EXPECT_FALSE(picRes().diagrams().empty() || picRes().grab().isNull());
+    }
+    EXPECT_EQ(nameOfModal([this] { clickNode("Detailed Results"); }), "frmDetailedResult");
+    EXPECT_TRUE(messages.texts.empty());
+
+    click("chkStartStop");
+    const auto shown = picRes().diagrams();
+    const std::size_t rows = list().table().rows.size();
+    for (const Shown& each : nodes) clickNode(each.node);
+    clickNode("Detailed Results");
+    EXPECT_EQ(messages.texts,
+              std::vector<std::string>(std::size(nodes) + 1, " Calculate before results can be presented "));
+    for (const char* head : {"Borvik", "Input", "Results", "Diagram"}) clickNode(head);
+    EXPECT_EQ(messages.texts.size(), std::size(nodes) + 1);
+    EXPECT_EQ(picRes().diagrams(), shown);
+    EXPECT_EQ(list().table().rows.size(), rows);
+}
+
+TEST_F(ResultsTest, withoutHorizontalLoadsTreeAndPictureStayWithTheVerticalOnes) {
+    project().H = {};
+    project().HasLoadsY = false;
+    calculate();
+    EXPECT_FALSE(hasNode("Cr2-Point 1"));
+    clickNode("Uz + Uy");
+    EXPECT_EQ(picRes().diagrams(), std::vector<Diagram>{Diagram::SlsUz});
+    clickNode("Mz + Vy");
+    EXPECT_EQ(lastMessage(), " No loads in y-direction");
+    EXPECT_EQ(picRes().diagrams(), std::vector<Diagram>{Diagram::SlsUz});
+    EXPECT_EQ(control<ResultTreeView>("TreeView1").currentItem()->text(0), "Uz + Uy");
+}
+
+TEST_F(ResultsTest, detailedResultsShowEveryTableAndOpenWideEnough) {
+    const auto open = [this](std::initializer_list<std::pair<const char*, std::size_t>> nodes) {
+        FrmDetailedResult detailed(window.calculation(), &window);
+        detailed.show();
+        auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
+        auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
+        EXPECT_EQ(tree->currentItem()->text(0), "MyVz max/min");
+        EXPECT_EQ(shown->table().rows.size(), 21U * static_cast<std::size_t>(project().NofSpans));
+        for (const auto& [node, columns] : nodes) {
+            ASSERT_NE(tree->itemOf(node), nullptr) << node;
+            Q_EMIT tree->itemClicked(tree->itemOf(node), 0);
+            EXPECT_EQ(tree->currentItem()->text(0) == node, columns > 0) << node;
+            EXPECT_TRUE(columns == 0 || shown->table().columns.size() == columns) << node;
+            EXPECT_FALSE(shown->table().rows.empty()) << node;
+        }
+        EXPECT_EQ(tree->itemOf("FLS - Crane 2") != nullptr, project().NofCranes == 2);
+        QTest::mouseClick(detailed.findChild<QPushButton*>("cmbOk"), Qt::LeftButton);
+        EXPECT_FALSE(detailed.isVisible());
+    };
+    project().H = {};
+    project().HasLoadsY = false;
+    calculate();
+    open({{"MzVy max/min", 0}});
+    openExample("assembly-hall-two-cranes.brvk");
+    calculate();
+    open({{"MyVz max/min", 5},
+          {"MzVy max/min", 5},
+          {"Reactions", 5},
+          {"Uz/Uy", 3},
+          {"Static", 7},
+          {"Fatigue", 5},
+          {"FLS - Crane 1", 8},
+          {"FLS - Crane 2", 8}});
+}
+
+TEST_F(ResultsTest, twoCranesShowTheirProgress) {
+    openExample("assembly-hall-two-cranes.brvk");
+    calculate();
+    auto* progress = window.findChild<FrmProgress*>("frmProgress");
+    ASSERT_NE(progress, nullptr);
+    EXPECT_TRUE(progress->isVisible());
+    EXPECT_FALSE(progress->isModal());
+    EXPECT_EQ(progress->windowTitle(), "Calculating...");
+    const QString text = progress->findChild<QPlainTextEdit*>("txt")->toPlainText();
+    for (const char* line : {"Calculating ULS ...100%", "Calculating SLS finnished", "Calculating FLS finnished",
+                             "Calculation FLS finnished  - 00:00:0"})
+        EXPECT_TRUE(text.contains(line)) << line << " in\n" << text.toStdString();
+    auto* cmdOK = progress->findChild<QPushButton*>("cmdOK");
+    EXPECT_EQ(cmdOK->text(), "Close");
+    EXPECT_TRUE(cmdOK->isEnabled());
+    QTest::mouseClick(cmdOK, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(progress->isVisible());
+    EXPECT_TRUE(control<QLineEdit>("iproj").hasFocus());
+    window.WritefrmInput();
+    EXPECT_TRUE(hasNode("Cr2-Point 1")) << "the window's own refresh keeps the results";
+}
+
+TEST_F(ResultsTest, aChangeMarksEverythingOutOfDate) {
+    calculate();
+    EXPECT_FALSE(picRes().outOfDate());
+    const QImage current = picRes().grab().toImage();
+    click("chkStartStop");
+    EXPECT_TRUE(picRes().outOfDate());
+    EXPECT_NE(picRes().grab().toImage(), current);
+    EXPECT_TRUE(control<QLabel>("lstViewDetailedOutOfDate").isVisible());
+    EXPECT_EQ(control<QLabel>("stateCalculated").text(), "Out of date: calculate again");
+    EXPECT_FALSE(control<QLabel>("stateGoverning").isVisible());
+    list().selectAll();
+    QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Out of date"));
+
+    project().Span(3) = 0;  // a shorter beam than the one that is shown
+    project().NofSpans = 2;
+    window.projectChanged("Beam");
+    EXPECT_FALSE(picRes().grab().isNull());
+    project().Span(3) = 6000;
+    click("chkStartStop");
+    calculate();
+    EXPECT_FALSE(picRes().outOfDate());
+    EXPECT_FALSE(control<QLabel>("lstViewDetailedOutOfDate").isVisible());
+}
+
+TEST_F(ResultsTest, aRefusedRunChangesNothingElse) {
+    calculate();
+    project().Span(2) = 0;
+    window.projectChanged("Beam");
+    trigger("mnuCalc");
+    EXPECT_EQ(messages.texts, std::vector<std::string>{" An inner beam can't have length = 0 "});
+    EXPECT_FALSE(session.Calculated);
+    EXPECT_TRUE(control<QPushButton>("cmdCalc").isEnabled());
+    EXPECT_TRUE(picRes().outOfDate());
+}
+
+TEST_F(ResultsTest, aRunTimeFaultLeavesTheWindowAlive) {
+    project().SpanSection(2).TableName = "HEA 17";
+    const Project entered = project();
+    trigger("mnuCalc");
+    ASSERT_EQ(messages.texts.size(), 1U);
+    EXPECT_NE(lastMessage().find("HEA 17"), std::string::npos) << lastMessage();
+    EXPECT_EQ(project().SpanSection, entered.SpanSection);
+    EXPECT_FALSE(session.Calculated);
+    project().SpanSection(2) = project().SpanSection(1);
+    calculate();
+}
+
+TEST_F(ResultsTest, aClickOnTheSketchOpensTheLoads) {
+    auto& sketch = control<DiagramView>("picBalk");
+    const auto clickAt = [&](double x) {
+        int pixel = 0;  // the first whose place is not below x
+        while (sketch.toLogical(QPointF(pixel, 40)).x < x) ++pixel;
+        return nameOfModal([&] { QTest::mouseClick(&sketch, Qt::LeftButton, {}, QPoint(pixel, 40)); });
+    };
+    EXPECT_EQ(clickAt(97.0), "");
+    EXPECT_EQ(clickAt(100.0), "frmLoad");
+    EXPECT_EQ(clickAt(797.0), "frmLoad");
+    EXPECT_EQ(clickAt(800.0), "");
+    click("OptRunW");
+    EXPECT_EQ(clickAt(400.0), "frmLoadRunway");
+}
+
+TEST_F(ResultsTest, anInputFormPutsResultsOutOfReachUntilItClosesWithoutAnEdit) {
+    calculate();
+    for (const char* form : {"mnuLoad", "mnuBeam", "mnuProfile", "mnuRail", "mnuLateral", "mnuFatigue", "mnuSetup"}) {
+        QTimer::singleShot(0, &window, [this] {
+            EXPECT_FALSE(picRes().outOfDate());
+            if (session.Calculated) return;  // the setup form alone waits for an edit
+            EXPECT_EQ(control<QLabel>("stateCalculated").text(), "Form open");
+            EXPECT_TRUE(control<QPushButton>("cmdCalc").isEnabled());
+        });
+        EXPECT_NE(nameOfModal([&] { trigger(form); }), "");
+        EXPECT_TRUE(session.Calculated) << form;
+        EXPECT_TRUE(hasNode("Summary")) << form;
+        EXPECT_FALSE(picRes().outOfDate());
+        EXPECT_FALSE(window.hasUnsavedChanges()) << form;
+        EXPECT_FALSE(control<QAction>("mnuUndo").isEnabled()) << form;
+    }
+    click("chkStartStop");
+    EXPECT_TRUE(picRes().outOfDate());
+    trigger("mnuUndo");
+    EXPECT_FALSE(picRes().outOfDate()) << "back at what was calculated";
+    EXPECT_TRUE(hasNode("Summary"));
+}
+
+TEST_F(ResultsTest, theArrowKeysReadThePicture) {
+    calculate();
+    QSignalSpy read(&picRes(), &DiagramView::readingChanged);
+    const auto press = [&](std::initializer_list<int> keys, Qt::KeyboardModifiers with = {}) {
+        for (const int key : keys) QTest::keyClick(&picRes(), static_cast<Qt::Key>(key), with);
+        return read.last().at(0).toString().section(':', 0, 0).toStdString();
+    };
+    const int half = static_cast<int>(double(project().Span(1)) / 2.0), part = half / 10;
+    EXPECT_EQ(press({Qt::Key_Right}), "Span 1, x = 0 mm");
+    EXPECT_EQ(press({Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}), "Span 1, x = " + std::to_string(part) + " mm");
+    EXPECT_EQ(press({Qt::Key_Right}, Qt::ControlModifier), "Support 2");
+    EXPECT_EQ(press({Qt::Key_End, Qt::Key_Right}), "Span 3, x = " + formatNumber(project().Span(3), "0") + " mm");
+    EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}, Qt::ControlModifier), "Support 2");
+    const auto quantity = [&] { return read.last().at(0).toString().section(": ", 1).left(3).toStdString(); };
+    picRes().showResults({Diagram::UlsMyVz, Diagram::SlsUz}, window.calculation());
+    press({Qt::Key_Home});
+    EXPECT_EQ(quantity(), "My ");
+    press({Qt::Key_Down});
+    EXPECT_EQ(quantity().front(), 'U');
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&control<DiagramView>("picBalk"), Qt::Key_Return); }), "frmLoad");
+}
+
+TEST_F(ResultsTest, theMenuCopiesThePictureThatHasTheFocus) {
+    const auto copied = [this] {
+        trigger("mnuCopyPicture");
+        return QApplication::clipboard()->image().height();
+    };
+    EXPECT_EQ(copied(), 500) << "the sketch, as there are no results";
+    calculate();
+    picRes().showResults({Diagram::UlsMyVz, Diagram::SlsUz}, window.calculation());
+    EXPECT_EQ(copied(), 1000);
+    control<DiagramView>("picBalk").setFocus();
+    EXPECT_EQ(copied(), 500);
+}
+
+TEST_F(ResultsTest, theKeyboardWalksOverResultsAndOpensNoWindow) {
+    calculate();
+    auto& tree = control<ResultTreeView>("TreeView1");
+    tree.setFocus();
+    tree.setCurrentItem(tree.itemOf("Mz + Vy"));
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Down); }), "");
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("Uz", project()));
+    tree.setCurrentItem(tree.itemOf("Fatigue"));
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Up); }), "");
+    EXPECT_EQ(nameOfModal([&] { QTest::keyClick(&tree, Qt::Key_Return); }), "frmLoad");
+}
+
+TEST_F(ResultsTest, stepsAndAboutOpen) {
+    EXPECT_EQ(nameOfModal([this] { click("Command3"); }), "frmTemp");
+    EXPECT_EQ(nameOfModal([this] { trigger("mnuAbout"); }), "frmabout");
+    FrmTemp before(nullptr, nullptr);
+    auto* list = before.findChild<ResultTableView*>("lstViewTemp");
+    EXPECT_EQ(list->table().columns.size(), 9U);
+    EXPECT_TRUE(list->table().rows.empty());
+    calculate();
+    FrmTemp after(window.calculation(), nullptr);
+    EXPECT_FALSE(after.findChild<ResultTableView*>("lstViewTemp")->table().rows.empty());
+}
+
+/// A table with everything that a list has to cope with.
+ResultTable mixedTable() {
+    ResultTable table;
+    table.columns = {{"Control", "", ""}, {"Interaction Ratio", "-", "help"}, {"Reference ", "", ""}};
+    table.rows = {{{"Heading", Emphasis::Heading, {}, ""}},
+                  {{"holds", {}, {}, ""}, {"1.000", Emphasis::None, 1.0, "0.000"}, {"ref", {}, {}, ""}},
+                  {{"fails", {}, {}, ""}, {"1.000", Emphasis::OverLimit, 1.0001, "0.000"}, {"ref", {}, {}, ""}}};
+    return table;
+}
+
+TEST(ResultTableModel, marksRatiosOverOneByMoreThanColour) {
+    ResultTableModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setTable(mixedTable());
+    const QModelIndex holds = model.index(1, 1), fails = model.index(2, 1);
+    EXPECT_EQ(fails.data().toString(), "1.000");
+    EXPECT_EQ(fails.data(Qt::EditRole).toDouble(), 1.0001);
+    EXPECT_EQ(fails.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_FALSE(fails.data(Qt::DecorationRole).isNull());
+    EXPECT_TRUE(holds.data(Qt::ForegroundRole).isNull());
+    EXPECT_TRUE(holds.data(Qt::DecorationRole).isNull());
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString(), "Interaction Ratio\n-");
+    EXPECT_TRUE(model.index(0, 2).data().isNull()) << "a short row is empty to the right";
+    model.setOutOfDate(true);
+    EXPECT_EQ(fails.data(Qt::ForegroundRole), holds.data(Qt::ForegroundRole));
+}
+
+TEST(ResultTableView, copiesAsTabSeparatedText) {
+    ResultTableView view;
+    view.resize(600, 300);
+    view.showTable(mixedTable());
+    view.selectAll();
+    EXPECT_EQ(view.selectionText(true),
+              "Control\tInteraction Ratio -\tReference\nHeading\t\t\nholds\t1.000\tref\nfails\t1.000\tref\n");
+    view.clearSelection();
+    view.selectionModel()->select(view.model()->index(1, 2), QItemSelectionModel::Select);
+    view.selectionModel()->select(view.model()->index(2, 0), QItemSelectionModel::Select);
+    EXPECT_EQ(view.selectionText(false), "\tref\nfails\t\n") << "cells keep their columns";
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "\tref\nfails\t\n");
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasHtml());
+}
+
+TEST(ResultTableView, theFirstColumnStaysInView) {
+    ResultTable table;
+    for (int column = 0; column < 12; ++column) table.columns.push_back({"Column " + std::to_string(column), "", ""});
+    for (int row = 0; row < 50000; ++row) table.rows.push_back({{std::to_string(row), {}, double(row), "0"}});
+    ResultTableView view;
+    view.resize(400, 300);
+    view.show();
+    view.showTable(table);
+    auto* first = view.findChild<QTableView*>();
+    EXPECT_FALSE(first->isVisible());
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    view.verticalScrollBar()->setValue(777);
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_EQ(first->columnAt(5), 0);
+    EXPECT_EQ(first->rowAt(5), view.rowAt(5));
+}
+
+TEST(Pictures, areSavedAsPngAndSvg) {
+    testing_support::TempFolder folder;
+    MessageList messages;
+    PreparedAnswers questions;
+    SettingsInMemory settings;
+    Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
+    DiagramView view({messages, questions, settings});
+    view.showSketch(session.project);
+    questions.toSave = {folder.file("a.png"), folder.file("a.svg"), folder.file("no/such/a.png"), std::nullopt};
+    for (int i = 0; i < 4; ++i) view.savePictureAs();
+    EXPECT_FALSE(QImage(QString::fromStdString(folder.file("a.png"))).isNull());
+    EXPECT_NE(testing_support::bytesOf(folder.file("a.svg")).find("Beam Data"), std::string::npos);
+    EXPECT_EQ(messages.texts.size(), 1U);
+}
+
+TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
+    project().Span(1) = 6000;
+    project().Span(2) = 7000;
+    calculate();
+    DiagramView view({messages, questions, settings});
+    view.showResults({Diagram::UlsMyVz}, window.calculation());
+    RecordingSurface drawn(1000, 300);
+    DrawPicture(drawn, view.diagrams(), {project(), &*session.results});
+    const auto total = static_cast<double>(project().Span(1) + project().Span(2) + project().Span(3));
+    QSignalSpy read(&view, &DiagramView::readingChanged);
+    const auto readingAt = [&](double along) {
+        const double unit = 50.0 + 900.0 * along / total;
+        const QPointF pixel((unit - drawn.left) / (drawn.right - drawn.left) * view.width(), 20.0);
+        QMouseEvent move(QEvent::MouseMove, pixel, view.mapToGlobal(pixel), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &move);
+        return read.last().at(0).toString().toStdString();
+    };
+    const UlsResults& uls = session.results->Uls;
+    for (const QSize size : {QSize(437, 150), QSize(1024, 300), QSize(2560, 900)}) {
+        view.resize(size);
+        EXPECT_THAT(readingAt(0.0), testing::StartsWith("Span 1, x = 0 mm: My max 0.0 kNm, My min 0.0 kNm, Vz max " +
+                                                        formatNumber(uls.VzMaxPoint(1, 1, 2) / 1000.0, "0.0")));
+        const std::string both = readingAt(6000.0);
+        EXPECT_THAT(both, testing::StartsWith("Support 2: My max"));
+        EXPECT_THAT(both, testing::HasSubstr("Vz max " + formatNumber(uls.VzMaxPoint(1, 21, 2) / 1000.0, "0.0") +
+                                             " | " + formatNumber(uls.VzMaxPoint(2, 1, 2) / 1000.0, "0.0") + " kN"));
+        EXPECT_THAT(readingAt(6000.0 + 3500.0), testing::StartsWith("Span 2, x = 3500 mm"));
+        EXPECT_THAT(readingAt(total),
+                    testing::StartsWith("Span 3, x = " + formatNumber(project().Span(3), "0") + " mm"));
+    }
+}
+
+TEST_F(ResultsTest, textsBesideAHeadingAreNotCovered) {
+    calculate();
+    for (const char* name : {"CodeStatic", "CodeFatigue"}) {
+        ResultTableView view;
+        view.showTable(findTable(name)->fill(project(), *session.results));
+        for (int row = 0; row < view.model()->rowCount(); ++row)
+            for (int column = 0; column < view.model()->columnCount(); ++column) {
+                const QModelIndex cell = view.model()->index(row, column);
+                if (cell.data().toString().isEmpty()) continue;
+                EXPECT_EQ(view.indexAt(view.visualRect(cell).center()).column(), column)
+                    << name << ": " << cell.data().toString().toStdString();
+            }
+    }
+}
+
+}  // namespace
+}  // namespace borvik
