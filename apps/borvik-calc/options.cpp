@@ -103,8 +103,9 @@ void addOptions(CLI::App& app, Options& options) {
     // Crane data are not a project: nothing else can be asked for beside them.
     const std::vector<CLI::Option*> ofProjects =
         app.get_options([&](const CLI::Option* option) { return option != app.get_help_ptr(); });
-    CLI::Option* craneLoads = app.add_option("--crane-loads", options.craneLoads,
-                                             "Print wheel loads to EN 1991-3 of the crane data in a JSON file, as JSON");
+    CLI::Option* craneLoads =
+        app.add_option("--crane-loads", options.craneLoads,
+                       "Print wheel loads to EN 1991-3 of the crane data in a JSON file, as JSON");
     craneLoads->type_name("FILE.json");
     for (CLI::Option* option : ofProjects) craneLoads->excludes(option);
     app.set_version_flag("--version", kProgramAndVersion);

@@ -49,7 +49,8 @@ public:
     Array(int first, int last)
         : first_(first), sized_(true), items_(static_cast<std::size_t>(last < first ? 0 : last - first + 1)) {}
 
-    /// False for an array that never got bounds. One of no items, such as 1..0, has bounds; a project file tells the two apart.
+    /// False for an array that never got bounds. One of no items, such as 1..0, has bounds; a project file tells the
+    /// two apart.
     [[nodiscard]] bool sized() const noexcept { return sized_; }
 
     [[nodiscard]] int first() const noexcept { return first_; }

@@ -10,7 +10,8 @@ namespace borvik {
 [[nodiscard]] std::string fromWindows1252(std::string_view bytes);
 
 /// UTF-8 as Windows-1252.
-/// @param lost  set to true where a character has no place in the code page (or the text is no valid UTF-8) and was replaced
+/// @param lost  set to true where a character has no place in the code page (or the text is no valid UTF-8) and was
+/// replaced
 ///              by "?"; otherwise left alone
 [[nodiscard]] std::string toWindows1252(std::string_view utf8, bool& lost);
 

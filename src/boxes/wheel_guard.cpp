@@ -12,9 +12,11 @@ namespace borvik {
 namespace {
 
 bool changesByWheel(const QObject* object) {
-    return qobject_cast<const QComboBox*>(object) != nullptr || qobject_cast<const QAbstractSpinBox*>(object) != nullptr ||
+    return qobject_cast<const QComboBox*>(object) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(object) != nullptr ||
            qobject_cast<const QTabBar*>(object) != nullptr ||
-           (qobject_cast<const QAbstractSlider*>(object) != nullptr && qobject_cast<const QScrollBar*>(object) == nullptr);
+           (qobject_cast<const QAbstractSlider*>(object) != nullptr &&
+            qobject_cast<const QScrollBar*>(object) == nullptr);
 }
 
 }  // namespace

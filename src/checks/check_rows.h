@@ -33,27 +33,31 @@ void copyRows(RowSet<To>& to, const RowSet<From>& from, int first, int last) {
     to.LargestOfPoints = from.LargestOfPoints;
 }
 
-/// True when a ratio shows that its check holds. A negative one does not: the resistance is used up by something else, or a
-/// factor is senseless; nor does what is no number.
-[[nodiscard]] inline bool isSatisfied(double ratio) { return ratio >= 0.0 && ratio <= 1.0; }
+/// True when a ratio shows that its check holds. A negative one does not: the resistance is used up by something else,
+/// or a factor is senseless; nor does what is no number.
+[[nodiscard]] inline bool isSatisfied(double ratio) {
+    return ratio >= 0.0 && ratio <= 1.0;
+}
 
-/// True when ratio text `a` ranks above `b`: the texts are compared character by character, so that "10.000" ranks below
-/// "9.000", here and wherever a governing row is chosen: note H1.
-[[nodiscard]] inline bool ranksAbove(const std::string& a, const std::string& b) { return a > b; }
+/// True when ratio text `a` ranks above `b`: the texts are compared character by character, so that "10.000" ranks
+/// below "9.000", here and wherever a governing row is chosen: note H1.
+[[nodiscard]] inline bool ranksAbove(const std::string& a, const std::string& b) {
+    return a > b;
+}
 
 /// Rows of all static checks. Arrays run over the spans, 1..NofSpans.
 struct CheckResults {
     Array<RowSet<8>> ShearMax, ShearMin, ShearSpan;  ///< EN 1993-1-1 6.2.6
     RowSet<8> ShearGov;
-    Array<RowSet<8>> BendMax, BendMin, BendSpan;     ///< EN 1993-1-1 6.2.5, 6.2.8, 6.2.9
+    Array<RowSet<8>> BendMax, BendMin, BendSpan;  ///< EN 1993-1-1 6.2.5, 6.2.8, 6.2.9
     RowSet<8> BendGov;
-    Array<RowSet<8>> LtbPos, LtbNeg, LtbSpan;        ///< EN 1993-1-1 6.3.2, EN 1993-6 6.3.3
+    Array<RowSet<8>> LtbPos, LtbNeg, LtbSpan;  ///< EN 1993-1-1 6.3.2, EN 1993-6 6.3.3
     RowSet<8> LtbGov;
-    Array<RowSet<4>> LocalSpan;                      ///< EN 1993-6 5.7.1 (overhead) or 6.7 (monorail)
+    Array<RowSet<4>> LocalSpan;  ///< EN 1993-6 5.7.1 (overhead) or 6.7 (monorail)
     RowSet<6> LocalGov;
-    Array<RowSet<4>> VonMisesSpan;                   ///< EN 1993-6 5.8, 7.5; empty for an overhead crane
+    Array<RowSet<4>> VonMisesSpan;  ///< EN 1993-6 5.8, 7.5; empty for an overhead crane
     RowSet<6> VonMisesGov;
-    Array<RowSet<5>> DefZSpan, DefYSpan;             ///< deflections
+    Array<RowSet<5>> DefZSpan, DefYSpan;  ///< deflections
     RowSet<5> DefZGov, DefYGov;
 };
 

@@ -42,8 +42,8 @@ private:
     std::int16_t& craneClass_;
 };
 
-/// The closing test of both load forms. A refusal is shown, the box that is to be mended marked and given the focus, and
-/// the form stays; unless nothing in the form can mend it, since then nobody could ever leave.
+/// The closing test of both load forms. A refusal is shown, the box that is to be mended marked and given the focus,
+/// and the form stays; unless nothing in the form can mend it, since then nobody could ever leave.
 /// @return true when the form may close
 [[nodiscard]] bool mayCloseLoads(QWidget& form, Project& project, Messages& messages, LoadForm kind);
 

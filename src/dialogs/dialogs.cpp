@@ -25,7 +25,7 @@ std::unique_ptr<InputDialog> make(Session& session, Messages& messages, Changed 
 }  // namespace
 
 std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messages& messages, Changed changed,
-                                    QWidget* parent) {
+                                        QWidget* parent) {
     using Maker = std::unique_ptr<InputDialog> (*)(Session&, Messages&, Changed, QWidget*);
     const auto maker = [kind]() -> Maker {
         switch (kind) {

@@ -120,8 +120,8 @@ void FatigueDialog::addDetail(QGridLayout* grid, const FatigueDetailRow& detail)
     grid->addLayout(pictures, row, 3, 2, 1);
 }
 
-/// What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored, where the splice is in
-/// use: else it is nothing to be mended.
+/// What is no span of this beam, from a damaged file or of a longer beam, is shown as it is stored, where the splice is
+/// in use: else it is nothing to be mended.
 void FatigueDialog::markSpliceSpan(int j) {
     const QString stored = QString::fromStdString(generalText(form_->splices.span(j)));
     splices_[static_cast<std::size_t>(j - 1)].span->setPlaceholderText(

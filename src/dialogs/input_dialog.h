@@ -21,8 +21,8 @@ namespace borvik {
 
 /// What all input forms have in common: they write straight into the project, so there is no cancel; every way of
 /// closing (button, Esc, Ctrl+Enter, the window's cross) first stores the box being edited and then asks the form's
-/// closing rule; a closed form leaves the results out of reach until the next calculation. While it is open, undo and redo
-/// take its own edits back and make them again, one by one.
+/// closing rule; a closed form leaves the results out of reach until the next calculation. While it is open, undo and
+/// redo take its own edits back and make them again, one by one.
 class InputDialog : public QDialog {
     Q_OBJECT
 

@@ -11,17 +11,18 @@ namespace borvik {
 
 /// What a fatigue driver needs from the calculation around it.
 struct FatigueRun {
-    Project& project;              ///< FatigueSpare is written
-    const ProjectContext& context; ///< CurrentRail
-    RunLoads& loads;               ///< as the serviceability run left them; rewritten by each fatigue walk
+    Project& project;               ///< FatigueSpare is written
+    const ProjectContext& context;  ///< CurrentRail
+    RunLoads& loads;                ///< as the serviceability run left them; rewritten by each fatigue walk
     WalkMethod method;
     Messages& messages;
     Progress& progress;
-    PositionLog& steps;            ///< takes the position log of the last walk
+    PositionLog& steps;  ///< takes the position log of the last walk
 };
 
-/// Fatigue of an overhead crane, or of two: walks crane 1 (or the train of both at a constant distance), crane 2, and both
-/// together as the project asks for, makes the stress tables and checks the details, EN 1993-1-9 and EN 1993-6 chapter 9.
+/// Fatigue of an overhead crane, or of two: walks crane 1 (or the train of both at a constant distance), crane 2, and
+/// both together as the project asks for, makes the stress tables and checks the details, EN 1993-1-9 and EN 1993-6
+/// chapter 9.
 /// @throws RuntimeFault  naming detail and span, on an arithmetic fault
 [[nodiscard]] FatigueResults RunFatigueOverhead(const FatigueRun& run);
 

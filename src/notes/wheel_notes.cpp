@@ -214,7 +214,8 @@ constexpr NoteRule kRules[]{
      "less.",
      "at such an end", "EN 1993-6 6.7, Table 6.2", atFreeEnd},
     {"D7", NoteCheck::WheelLoad, NoteEffect::Unsafe,
-     "The beam's stress beside a hoist's wheel leaves out Mz and is divided by the partial factor by which it should be "
+     "The beam's stress beside a hoist's wheel leaves out Mz and is divided by the partial factor by which it should "
+     "be "
      "multiplied, and the largest wheel distance counts.",
      "with Mz, the factor and the smallest distance as the standard has them", "EN 1993-6 6.7", flangeStressOfBeam},
     {"D8", NoteCheck::VonMises, NoteEffect::Unsafe,

@@ -74,8 +74,10 @@ PicturePainter deflectionLimitPicture() {
         const struct {
             QString title, symbol;
             double at;
-        } planes[] = {{QStringLiteral("Vertical, EN 1993-6 Table 7.2:  δz ≤ L / 600 and ≤ 25 mm (25 mm is not checked)"), QStringLiteral("δz"), 0.0},
-                      {QStringLiteral("Horizontal, EN 1993-6 Table 7.1:  δy ≤ L / 600"), QStringLiteral("δy"), 0.5}};
+        } planes[] = {
+            {QStringLiteral("Vertical, EN 1993-6 Table 7.2:  δz ≤ L / 600 and ≤ 25 mm (25 mm is not checked)"),
+             QStringLiteral("δz"), 0.0},
+            {QStringLiteral("Horizontal, EN 1993-6 Table 7.1:  δy ≤ L / 600"), QStringLiteral("δy"), 0.5}};
         for (const auto& plane : planes) {
             const double top = area.top() + area.height() * plane.at;
             painter.setPen(ink.line);

@@ -22,10 +22,9 @@ private:
 /// @param lost  set to true where a character of some text has no place in the code page and was written as "?"
 [[nodiscard]] std::string ProjectBytes(const Project& project, bool& lost);
 
-/// Reads a record from the bytes of a project file; bytes behind the record are not looked at. Lengths and counts in the
-/// bytes are never trusted. Then names that an earlier layout of the file did not have are mended: a section without a
-/// DisplayName takes its TableName.
-/// On a fault the record holds what was read so far.
+/// Reads a record from the bytes of a project file; bytes behind the record are not looked at. Lengths and counts in
+/// the bytes are never trusted. Then names that an earlier layout of the file did not have are mended: a section
+/// without a DisplayName takes its TableName. On a fault the record holds what was read so far.
 /// @throws ProjectFileError  EndOfFile when the bytes end too early, Other when they can't be a project
 void ReadProjectBytes(const std::string& bytes, Project& project);
 

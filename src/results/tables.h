@@ -16,7 +16,7 @@ enum class Emphasis {
     Heading,    ///< a line that opens a group
     OverLimit,  ///< a ratio strictly greater than 1, negative or no number: the check does not hold; to be shown in red
                 ///< and with a mark that doesn't rest on colour alone
-    Note,  ///< a remark below the table
+    Note,       ///< a remark below the table
 };
 
 /// A cell: the text that is shown and, where it shows a number, that number with its mask, so that a spreadsheet can go

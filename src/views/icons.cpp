@@ -57,8 +57,12 @@ void draw(QPainter& painter, Picture picture, const QColor& ink) {
             painter.drawRoundedRect(QRectF(1.5, 6, 13, 5.5), 1, 1);
             painter.drawRect(QRectF(4.5, 9.5, 7, 4.5));
             break;
-        case Picture::OverLimit: drawSign(painter, kFail); break;
-        case Picture::OutOfDate: drawSign(painter, kWarning); break;
+        case Picture::OverLimit:
+            drawSign(painter, kFail);
+            break;
+        case Picture::OutOfDate:
+            drawSign(painter, kWarning);
+            break;
         case Picture::Good:
             painter.setPen(QPen(kGood, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
             painter.drawPolyline(QPolygonF{{2.5, 8.5}, {6.5, 12.5}, {13.5, 3.5}});
@@ -96,7 +100,9 @@ private:
 
 }  // namespace
 
-QIcon pictureIcon(Picture picture) { return QIcon(new PictureEngine(picture)); }
+QIcon pictureIcon(Picture picture) {
+    return QIcon(new PictureEngine(picture));
+}
 
 QIcon themeIcon(const char* name, QStyle::StandardPixmap otherwise) {
     return QIcon::fromTheme(QString::fromLatin1(name), QApplication::style()->standardIcon(otherwise));

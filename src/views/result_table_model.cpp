@@ -19,7 +19,8 @@ void ResultTableModel::setOutOfDate(bool outOfDate) {
     if (outOfDate == outOfDate_) return;
     outOfDate_ = outOfDate;
     if (rowCount() > 0 && columnCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole, Qt::DecorationRole});
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                           {Qt::ForegroundRole, Qt::DecorationRole});
 }
 
 int ResultTableModel::rowCount(const QModelIndex& parent) const {

@@ -152,7 +152,7 @@ private:
     const InputDialog* form_ = nullptr;  ///< the one that is open
     bool splicesDropped_ = false;        ///< by the input check, since the last edit
     std::string loadFaultTold_;          ///< so that it is told once
-    bool shownNotes_ = false;  ///< the table shown is that of the notes
+    bool shownNotes_ = false;            ///< the table shown is that of the notes
     bool running_ = false;
     std::unique_ptr<FrmProgress> progress_;
 

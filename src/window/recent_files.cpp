@@ -7,17 +7,26 @@ namespace borvik {
 namespace {
 constexpr const char* kSection = "Recent Files";
 
-std::string keyOf(int entry) { return "RecentFile" + std::to_string(entry); }
+std::string keyOf(int entry) {
+    return "RecentFile" + std::to_string(entry);
+}
 }  // namespace
 
-std::string RescentFile::stored(int entry) const { return store_.get(application_, kSection, keyOf(entry)); }
+std::string RescentFile::stored(int entry) const {
+    return store_.get(application_, kSection, keyOf(entry));
+}
 
-void RescentFile::store(int entry, const std::string& path) { store_.save(application_, kSection, keyOf(entry), path); }
+void RescentFile::store(int entry, const std::string& path) {
+    store_.save(application_, kSection, keyOf(entry), path);
+}
 
-std::string RescentFile::pathOf(const std::string& caption) { return caption.size() < 3 ? "" : caption.substr(3); }
+std::string RescentFile::pathOf(const std::string& caption) {
+    return caption.size() < 3 ? "" : caption.substr(3);
+}
 
 bool RescentFile::isShown(int entry, const std::string& path) const {
-    return static_cast<int>(captions_.size()) >= entry && pathOf(captions_[static_cast<std::size_t>(entry - 1)]) == path;
+    return static_cast<int>(captions_.size()) >= entry &&
+           pathOf(captions_[static_cast<std::size_t>(entry - 1)]) == path;
 }
 
 void RescentFile::ShowRecentFiles() {

@@ -15,7 +15,8 @@ public:
 
     RescentFile(SettingsStore& store, std::string application) : store_(store), application_(std::move(application)) {}
 
-    /// Makes the captions anew from the store: "1. " and the path, the latest first. A store without entries leaves them.
+    /// Makes the captions anew from the store: "1. " and the path, the latest first. A store without entries leaves
+    /// them.
     void ShowRecentFiles();
     /// Puts the path at the top and moves the others down; the oldest is lost. A path that is in the list already then
     /// stands there twice: the list shows what was saved, in order.

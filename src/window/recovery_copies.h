@@ -15,8 +15,8 @@ namespace borvik {
 
 /// A copy that a former run has left.
 struct LeftCopy {
-    QString path;       ///< of the copy
-    QDateTime written;  ///< local time
+    QString path;                    ///< of the copy
+    QDateTime written;               ///< local time
     std::string FileName;            ///< without a folder: a project that had no file yet
     std::string stamp;               ///< of the file that the changes were made to
     std::optional<Project> project;  ///< nothing where the copy is spoilt

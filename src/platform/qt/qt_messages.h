@@ -11,8 +11,8 @@ public:
     void show(const std::string& text) override;
 };
 
-/// Questions as modal boxes and the platform's file choosers, owned by the active window. The choosers remember the folder
-/// in which the user was last, as long as the program runs.
+/// Questions as modal boxes and the platform's file choosers, owned by the active window. The choosers remember the
+/// folder in which the user was last, as long as the program runs.
 class QtQuestions : public Questions {
 public:
     [[nodiscard]] Answer yesNoCancel(const std::string& text) override;
