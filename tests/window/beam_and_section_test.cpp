@@ -12,8 +12,8 @@
 #include <cstring>
 
 #include "dialogs/span_list.h"
-#include "forms/form_support.h"
 #include "section/section.h"
+#include "window/form_support.h"
 
 namespace borvik {
 namespace {

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "boxes/form_binder.h"
-#include "forms/form_support.h"
+#include "window/form_support.h"
 
 namespace borvik {
 namespace {

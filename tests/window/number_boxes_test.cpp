@@ -3,8 +3,8 @@
 
 #include "base/number_text.h"
 #include "boxes/form_binder.h"
-#include "forms/form_support.h"
 #include "support/temp_folder.h"
+#include "window/form_support.h"
 
 namespace borvik {
 namespace {

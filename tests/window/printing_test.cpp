@@ -14,8 +14,8 @@
 #include <filesystem>
 #include <functional>
 
-#include "forms/window_support.h"
 #include "support/temp_folder.h"
+#include "window/window_support.h"
 
 namespace borvik {
 namespace {

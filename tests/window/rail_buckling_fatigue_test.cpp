@@ -6,7 +6,7 @@
 #include <QTreeWidget>
 
 #include "base/number_text.h"
-#include "forms/form_support.h"
+#include "window/form_support.h"
 
 namespace borvik {
 namespace {

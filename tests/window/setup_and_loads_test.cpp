@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "forms/form_support.h"
+#include "window/form_support.h"
 
 namespace borvik {
 namespace {
