@@ -1,8 +1,8 @@
 #include "pictures.h"
 
 #include <algorithm>
-#include <cctype>
 
+#include "base/text.h"
 #include "diagrams/diagrams.h"
 #include "output.h"
 
@@ -14,12 +14,8 @@
 namespace borvik {
 
 bool isPictureName(const std::string& name) {
-    const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
     const std::vector<std::string> names = pictureNames();
-    return std::any_of(names.begin(), names.end(), [&](const std::string& known) {
-        return std::equal(name.begin(), name.end(), known.begin(), known.end(),
-                          [&](char a, char b) { return lower(a) == lower(b); });
-    });
+    return std::any_of(names.begin(), names.end(), [&](const std::string& known) { return sameName(name, known); });
 }
 
 #ifdef BORVIK_PICTURES

@@ -58,7 +58,7 @@ void drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
         lines.assign(1, "");
         for (std::size_t i = 0; i < names.size(); ++i) {
             const std::string entry = std::to_string(i + 1) + " - " + names[i] + "     ";
-            if (!lines.back().empty() && surface.textWidth(lines.back() + entry) > 1000.0) lines.emplace_back();
+            if (!lines.back().empty() && surface.textWidth(lines.back() + entry) > kDiagramWidth) lines.emplace_back();
             lines.back() += entry;
         }
         if (static_cast<double>(lines.size()) * surface.textHeight() <= room) break;
@@ -157,7 +157,7 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
 void drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0, DiagramMode mode) {
     Project project = input;
     project.NofSpans = static_cast<std::int16_t>(enteredSpans(input));
-    DiagramCanvas canvas(surface, Diagram::Sketch, project, X0, Y0, mode);
+    DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode);
     const SketchKind& kind = kindOf(project);
     const DistinctSections sections(project);
     const bool splices = !splicePlaces(project).empty();
@@ -166,7 +166,7 @@ void drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, do
     const double base = Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
     drawLegend(canvas, sections.names());
     surface.setFont(canvas.labelFont);
-    canvas.drawLine({X0 + 50.0, base}, {X0 + 950.0, base}, colours::black, 3);
+    canvas.drawLine({X0 + kBeamStart, base}, {X0 + kBeamStart + kBeamLength, base}, colours::black, 3);
     drawSupports(canvas, base, kind.cranesAbove);
     drawSplices(canvas, base);
     drawCranes(canvas, kind, base);

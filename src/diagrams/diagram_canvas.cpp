@@ -1,13 +1,8 @@
 #include "diagrams/diagram_canvas.h"
 
-#include "diagrams/diagram_series.h"
-
 namespace borvik {
 namespace {
 
-constexpr double kBeamStart = 50.0;
-constexpr double kBeamLength = 900.0;
-constexpr double kWidth = 1000.0;
 constexpr double kSupportMark = 6.0;
 constexpr double kSmallestRemark = 5.5;  // points
 
@@ -15,58 +10,19 @@ constexpr double kSmallestRemark = 5.5;  // points
 constexpr double kFramePen = 0.25;
 constexpr std::array<double, 3> kPaperPens{0.2, 0.35, 0.5};
 
-enum class Shape { Sketch, Forces, Deflection, Stress, Range, Reactions };
-
-Shape shapeOf(Diagram diagram) {
-    switch (diagram) {
-        case Diagram::Sketch:
-            return Shape::Sketch;
-        case Diagram::UlsMyVz:
-        case Diagram::UlsMzVy:
-            return Shape::Forces;
-        case Diagram::SlsUz:
-        case Diagram::SlsUy:
-            return Shape::Deflection;
-        case Diagram::FlsReactions:
-            return Shape::Reactions;
-        default:
-            return stressDiagram(diagram).range ? Shape::Range : Shape::Stress;
-    }
-}
-
 }  // namespace
 
-DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode) {
-    const bool screen = mode == DiagramMode::Screen;
-    switch (shapeOf(diagram)) {
-        case Shape::Sketch:
-            return screen ? DiagramLayout{{0.0, 140.0}, {80.0}} : DiagramLayout{{-10.0, 88.0}, {50.0}};
-        case Shape::Forces:
-            return screen ? DiagramLayout{{0.0, 268.0}, {76.0, 190.0}, 248.0}
-                          : DiagramLayout{{-10.0, 199.0}, {59.0, 139.0}, 186.0};
-        case Shape::Deflection:
-            return screen ? DiagramLayout{{80.0, 188.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {20.0}};
-        case Shape::Stress:
-            return screen ? DiagramLayout{{44.0, 184.0}, {120.0}} : DiagramLayout{{-10.0, 124.0}, {66.0}};
-        case Shape::Range:
-            return screen ? DiagramLayout{{40.0, 134.0}, {120.0}} : DiagramLayout{{-10.0, 88.0}, {70.0}};
-        case Shape::Reactions:
-            return screen ? DiagramLayout{{80.0, 180.0}, {120.0}, 128.0} : DiagramLayout{{-10.0, 88.0}, {20.0}, 27.0};
-    }
-    return {};
-}
-
-DiagramCanvas::DiagramCanvas(DrawingSurface& target, Diagram diagram, const Project& of, double left, double top,
-                             DiagramMode how)
+DiagramCanvas::DiagramCanvas(DrawingSurface& target, const DiagramKind& kind, const Project& of, double left,
+                             double top, DiagramMode how)
     : surface(target),
       project(of),
       mode(how),
       X0(left),
       Y0(top),
-      layout(diagramLayout(diagram, how)),
+      layout(kind.layout(how)),
       labelFont{"Arial Narrow", how == DiagramMode::Screen ? 9.0 : 7.0},
-      labels({left, top + layout.area.top, left + kWidth, top + layout.area.bottom}),
-      diagram_(diagram),
+      labels({left, top + layout.area.top, left + kDiagramWidth, top + layout.area.bottom}),
+      kind_(kind),
       penWidth_{1.0, 2.0, 3.0} {
     if (mode == DiagramMode::Paper)
         for (std::size_t i = 0; i < penWidth_.size(); ++i) penWidth_[i] = kPaperPens[i] * surface.unitsPerMillimetre();
@@ -93,12 +49,12 @@ void DiagramCanvas::drawHead(const std::string& remark, bool withSigns) {
     surface.setColour(colours::black);
     if (mode == DiagramMode::Paper) {
         surface.setPenWidth(kFramePen * surface.unitsPerMillimetre());
-        surface.rectangle({X0 - 5.0, top}, {X0 + 1010.0, Y0 + layout.area.bottom});
+        surface.rectangle({X0 + kFrameLeft, top}, {X0 + kFrameRight, Y0 + layout.area.bottom});
     }
     surface.setPenWidth(penWidth(1));
 
     Font titleFont{"Arial", labelFont.points, false, true};
-    const std::string title = diagramTitle(diagram_, project);
+    const std::string title = diagramTitle(kind_, project);
     surface.setFont(titleFont);
     const Place corner{X0, top + 1.0};
     const Extent size = surface.extent(title);
@@ -108,15 +64,15 @@ void DiagramCanvas::drawHead(const std::string& remark, bool withSigns) {
     const Box titleBox{corner.x, corner.y, corner.x + size.width, corner.y + size.height};
     surface.setFont(labelFont);
     if (withSigns) {
-        const double left = X0 + kWidth - signsWidth(surface, diagram_);
+        const double left = X0 + kDiagramWidth - signsWidth(surface, kind_);
         if (left > titleBox.right && remarkFits(remark, titleBox, left)) {
             drawRemark(remark, titleBox, left);
             surface.setFont(labelFont);
-            labels.keepClear(drawSigns(surface, diagram_, {X0 + kWidth, top + 1.0}));
+            labels.keepClear(drawSigns(surface, kind_, {X0 + kDiagramWidth, top + 1.0}));
             return;
         }
     }
-    drawRemark(remark, titleBox, X0 + kWidth);  // in a narrow picture the words count more than the signs
+    drawRemark(remark, titleBox, X0 + kDiagramWidth);  // in a narrow picture the words count more than the signs
 }
 
 double DiagramCanvas::remarkLeft(const Box& title) const {

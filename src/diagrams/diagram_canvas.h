@@ -4,18 +4,10 @@
 #include <functional>
 #include <vector>
 
-#include "diagrams/diagrams.h"
+#include "diagrams/diagram_kind.h"
 #include "diagrams/label_placer.h"
 
 namespace borvik {
-
-/// Heights of a diagram in units below Y0.
-struct DiagramLayout {
-    DiagramArea area;
-    std::vector<double> bases;  ///< beam line of each panel
-    double supportRow = 0.0;    ///< top of the texts at the supports
-};
-[[nodiscard]] DiagramLayout diagramLayout(Diagram diagram, DiagramMode mode);
 
 /// The largest value of a panel takes this many units.
 constexpr double kAmplitude = 40.0;
@@ -23,7 +15,7 @@ constexpr double kAmplitude = 40.0;
 /// A diagram being drawn: frame, title, beam line and labels, common to all members of the family.
 class DiagramCanvas {
 public:
-    DiagramCanvas(DrawingSurface& surface, Diagram diagram, const Project& project, double X0, double Y0,
+    DiagramCanvas(DrawingSurface& surface, const DiagramKind& kind, const Project& project, double X0, double Y0,
                   DiagramMode mode);
 
     /// Frame on paper, underlined title, remark and sign sketch behind it.
@@ -41,7 +33,7 @@ public:
     /// x of a support, 1..NofSpans + 1.
     [[nodiscard]] double supportX(int support) const;
     /// Units a mm along the beam.
-    [[nodiscard]] double unitsPerMm() const { return total_ > 0.0 ? 900.0 / total_ : 0.0; }
+    [[nodiscard]] double unitsPerMm() const { return total_ > 0.0 ? kBeamLength / total_ : 0.0; }
     /// PenWidth(1) to PenWidth(3); 1 is the width of ordinary lines.
     [[nodiscard]] double penWidth(int number) const { return penWidth_[static_cast<std::size_t>(number - 1)]; }
 
@@ -49,7 +41,7 @@ public:
     const Project& project;
     const DiagramMode mode;
     const double X0, Y0;
-    const DiagramLayout layout;  ///< heights below Y0
+    const DiagramLayout& layout;  ///< heights below Y0
     const Font labelFont;
     LabelPlacer labels;
 
@@ -58,15 +50,15 @@ private:
     [[nodiscard]] bool remarkFits(const std::string& remark, const Box& title, double right);
     void drawRemark(const std::string& remark, const Box& title, double right);
 
-    Diagram diagram_;
+    const DiagramKind& kind_;
     std::array<double, 3> penWidth_;
     double total_ = 0.0;          ///< length of the beam, mm
     std::vector<double> starts_;  ///< mm from the beam's start to each support
 };
 
 /// Width of the axes and signs in the current font.
-[[nodiscard]] double signsWidth(const DrawingSurface& surface, Diagram diagram);
+[[nodiscard]] double signsWidth(const DrawingSurface& surface, const DiagramKind& kind);
 /// Axes and positive signs, right-aligned in one row of a title. @return what they cover
-Box drawSigns(DrawingSurface& surface, Diagram diagram, Place topRight);
+Box drawSigns(DrawingSurface& surface, const DiagramKind& kind, Place topRight);
 
 }  // namespace borvik

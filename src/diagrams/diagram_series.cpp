@@ -30,8 +30,8 @@ struct ForcePlane {
     int placeSlot;  ///< of x in the span records
 };
 
-ForcePlane forcePlane(Diagram diagram, const UlsResults& uls) {
-    if (diagram == Diagram::UlsMyVz)
+ForcePlane forcePlane(bool horizontal, const UlsResults& uls) {
+    if (!horizontal)
         return {"My",
                 "Vz",
                 "Rz=+",
@@ -100,17 +100,6 @@ Panel shearPanel(const ForcePlane& plane, int spans) {
     return panel;
 }
 
-Panel deflectionPanel(Diagram diagram, const DiagramData& data) {
-    const SlsResults& sls = data.results->Sls;
-    const bool vertical = diagram == Diagram::SlsUz;
-    const Cube<Single>& points = vertical ? sls.UzMaxPoint : sls.UyMaxPoint;
-    const Table<Single>& extremes = vertical ? sls.UzMaxSpan : sls.UyMaxSpan;
-    Panel panel{"mm", Upwards::Never, {envelope(vertical ? "Uz" : "Uy", points, 1, 1.0)}, {}, true};
-    for (int span = 1; span <= data.project.NofSpans; ++span)
-        panel.peaks.push_back({span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1))});
-    return panel;
-}
-
 /// What differs between the three stresses.
 struct StressKind {
     const char* curve;     ///< name in a read-out
@@ -136,27 +125,47 @@ constexpr std::array<StressKind, 3> kStressKinds{{
      &StressSet::TauMaxPeak, &StressSet::TauMinPeak, &StressSet::TauRangePeak},
 }};
 
-/// The set of that crane. Two cranes at a constant distance run as one train, and crane 2 has no stresses of its own.
-const std::optional<StressSet>& stressSet(const DiagramData& data, int crane) {
-    return crane == 1 ? data.results->Fatigue.Cr1 : data.results->Fatigue.Cr2;
-}
-
 Curve stressCurve(std::string name, const std::optional<StressSet>& set, Table<Single> StressSet::*table) {
     if (!set) return {std::move(name), [](int, int) { return 0.0; }};
     const Table<Single>& stresses = (*set).*table;
     return {std::move(name), [&stresses](int span, int k) { return double(stresses(span, k)); }};
 }
 
-Panel stressPanel(const StressDiagram& stress, const DiagramData& data) {
-    const StressKind& kind = kStressKinds[static_cast<std::size_t>(stress.quantity)];
-    const std::optional<StressSet>& set = stressSet(data, stress.crane);
+std::string reactionText(const char* label, const Array<Single>& largest, const Array<Single>& smallest, int support) {
+    return label + oneDecimal(largest(support) / kPerKilo) + "/" + oneDecimal(smallest(support) / kPerKilo);
+}
+
+}  // namespace
+
+std::vector<Panel> forcePanels(const DiagramKind& kind, const DiagramData& data) {
+    const ForcePlane plane = forcePlane(kind.horizontal, data.results->Uls);
+    return {momentPanel(plane, data.project.NofSpans), shearPanel(plane, data.project.NofSpans)};
+}
+
+std::vector<Panel> deflectionPanel(const DiagramKind& kind, const DiagramData& data) {
+    const SlsResults& sls = data.results->Sls;
+    const Cube<Single>& points = kind.horizontal ? sls.UyMaxPoint : sls.UzMaxPoint;
+    const Table<Single>& extremes = kind.horizontal ? sls.UyMaxSpan : sls.UzMaxSpan;
+    Panel panel{"mm", Upwards::Never, {envelope(kind.horizontal ? "Uy" : "Uz", points, 1, 1.0)}, {}, true};
+    for (int span = 1; span <= data.project.NofSpans; ++span)
+        panel.peaks.push_back({span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1))});
+    return {panel};
+}
+
+const std::optional<StressSet>& stressSet(const DiagramData& data, int crane) {
+    return crane == 1 ? data.results->Fatigue.Cr1 : data.results->Fatigue.Cr2;
+}
+
+std::vector<Panel> stressPanel(const DiagramKind& diagram, const DiagramData& data) {
+    const StressKind& kind = kStressKinds[static_cast<std::size_t>(diagram.quantity)];
+    const std::optional<StressSet>& set = stressSet(data, diagram.crane);
     const std::string name = kind.curve;
-    Panel panel{"MPa", Upwards::Positive, {}, {}, stress.range};
-    if (stress.range)
+    Panel panel{"MPa", Upwards::Positive, {}, {}, diagram.range};
+    if (diagram.range)
         panel.curves = {stressCurve("d" + name, set, kind.range)};
     else
         panel.curves = {stressCurve(name + " max", set, kind.max), stressCurve(name + " min", set, kind.min)};
-    if (!set) return panel;
+    if (!set) return {panel};
 
     const auto addPeaks = [&](Table<Single> StressSet::*table, const char* label, bool magnitude, bool withPlace) {
         const Table<Single>& peaks = (*set).*table;
@@ -168,97 +177,40 @@ Panel stressPanel(const StressDiagram& stress, const DiagramData& data) {
             panel.peaks.push_back({span, peaks(span, 2), value, std::move(text)});
         }
     };
-    if (stress.range) {
+    if (diagram.range) {
         addPeaks(kind.rangePeak, kind.rangeLabel, false, true);
     } else {
         addPeaks(kind.maxPeak, kind.maxLabel, false, kind.withPlace);
         addPeaks(kind.minPeak, kind.minLabel, !kind.minSigned, kind.withPlace);
     }
-    return panel;
+    return {panel};
 }
 
-std::string reactionText(const char* label, const Array<Single>& largest, const Array<Single>& smallest, int support) {
-    return label + oneDecimal(largest(support) / kPerKilo) + "/" + oneDecimal(smallest(support) / kPerKilo);
-}
-
-}  // namespace
-
-StressDiagram stressDiagram(Diagram diagram) {
-    const int first = static_cast<int>(Diagram::Cr1Top);
-    const int last = static_cast<int>(Diagram::Cr2ShearRange);
-    const int place = static_cast<int>(diagram);
-    if (place < first || place > last) return {};
-    const int number = place - first;  // six a crane: three quantities, each as stress and as range
-    return {1 + number / 6, static_cast<StressDiagram::Quantity>(number % 6 / 2), number % 2 == 1};
-}
-
-std::vector<Panel> diagramPanels(Diagram diagram, const DiagramData& data) {
-    if (data.results == nullptr || (isHorizontal(diagram) && !data.project.HasLoadsY)) return {};
-    if (diagram == Diagram::UlsMyVz || diagram == Diagram::UlsMzVy) {
-        const ForcePlane plane = forcePlane(diagram, data.results->Uls);
-        return {momentPanel(plane, data.project.NofSpans), shearPanel(plane, data.project.NofSpans)};
-    }
-    if (diagram == Diagram::SlsUz || diagram == Diagram::SlsUy) return {deflectionPanel(diagram, data)};
-    if (const StressDiagram stress = stressDiagram(diagram); stress.crane != 0) return {stressPanel(stress, data)};
-    return {};
-}
-
-std::vector<std::vector<std::string>> supportTexts(Diagram diagram, const DiagramData& data) {
-    std::vector<std::vector<std::string>> texts;
-    if (data.results == nullptr || (isHorizontal(diagram) && !data.project.HasLoadsY)) return texts;
-    const int supports = data.project.NofSpans + 1;
-    if (diagram == Diagram::UlsMyVz || diagram == Diagram::UlsMzVy) {
-        const ForcePlane plane = forcePlane(diagram, data.results->Uls);
-        for (int support = 1; support <= supports; ++support)
-            texts.push_back({reactionText(plane.reaction, plane.reactionMax, plane.reactionMin, support)});
-    } else if (diagram == Diagram::FlsReactions) {
-        const FatigueResults& fatigue = data.results->Fatigue;
-        struct Set {
-            const std::optional<StressSet>& stresses;
-            const char* crane;
-        };
-        const std::array<Set, 3> sets{
-            {{fatigue.Cr1, " (Crane1)"}, {fatigue.Cr2, " (Crane2)"}, {fatigue.Cr12, " (Crane 1+2)"}}};
-        for (int support = 1; support <= supports; ++support) {
-            std::vector<std::string> lines;
-            for (const Set& set : sets)
-                if (set.stresses)
-                    lines.push_back(reactionText("Rz=+", set.stresses->RzMax, set.stresses->RzMin, support) +
-                                    set.crane);
-            texts.push_back(std::move(lines));
-        }
-    }
+SupportTexts ulsReactions(const DiagramData& data, bool horizontal) {
+    const ForcePlane plane = forcePlane(horizontal, data.results->Uls);
+    SupportTexts texts;
+    for (int support = 1; support <= data.project.NofSpans + 1; ++support)
+        texts.push_back({reactionText(plane.reaction, plane.reactionMax, plane.reactionMin, support)});
     return texts;
 }
 
-std::string signRemark(Diagram diagram, const DiagramData& data) {
-    switch (diagram) {
-        case Diagram::UlsMyVz:
-            return "My on the tension side, + sagging below; L from the left support";
-        case Diagram::UlsMzVy:
-            return "Mz on the tension side, + below; L from the left support";
-        case Diagram::SlsUz:
-        case Diagram::SlsUy:
-            return "largest magnitude, drawn below the beam";
-        // The reaction at the last support is that of the shear there, as the fatigue walk keeps it.
-        case Diagram::FlsReactions:
-            return "max/min; at the last support with the sign of the shear";
-        default:
-            break;
+SupportTexts flsReactions(const DiagramData& data, bool) {
+    const FatigueResults& fatigue = data.results->Fatigue;
+    struct Set {
+        const std::optional<StressSet>& stresses;
+        const char* crane;
+    };
+    const std::array<Set, 3> sets{
+        {{fatigue.Cr1, " (Crane1)"}, {fatigue.Cr2, " (Crane2)"}, {fatigue.Cr12, " (Crane 1+2)"}}};
+    SupportTexts texts;
+    for (int support = 1; support <= data.project.NofSpans + 1; ++support) {
+        std::vector<std::string> lines;
+        for (const Set& set : sets)
+            if (set.stresses)
+                lines.push_back(reactionText("Rz=+", set.stresses->RzMax, set.stresses->RzMin, support) + set.crane);
+        texts.push_back(std::move(lines));
     }
-    const StressDiagram stress = stressDiagram(diagram);
-    if (stress.crane == 0) return "";
-    if (data.results != nullptr && !stressSet(data, stress.crane)) return "both cranes run as one train: see crane 1";
-    if (stress.range) return "";
-    switch (stress.quantity) {
-        case StressDiagram::Quantity::Top:
-            return "Max/Min, + tension";
-        case StressDiagram::Quantity::Bottom:
-            return "Max/Min in the bottom flange, + tension";
-        case StressDiagram::Quantity::Shear:
-            break;
-    }
-    return "Max/Min";
+    return texts;
 }
 
 }  // namespace borvik

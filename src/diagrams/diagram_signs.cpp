@@ -2,7 +2,6 @@
 #include <vector>
 
 #include "diagrams/diagram_canvas.h"
-#include "diagrams/diagram_series.h"
 
 namespace borvik {
 namespace {
@@ -73,43 +72,29 @@ void drawShear(Pencil& pencil) {
     pencil.arrow({2.1, 0.15}, {2.1, 1.35});
 }
 
-struct Symbol {
-    void (*draw)(Pencil&);
-    const char* text;
-};
-
-std::vector<Symbol> symbolsOf(Diagram diagram) {
-    const StressDiagram stress = stressDiagram(diagram);
-    if (diagram == Diagram::UlsMyVz) return {{drawMoment, "+My"}, {drawShear, "+Vz"}};
-    if (diagram == Diagram::UlsMzVy) return {{drawMoment, "+Mz"}, {drawShear, "+Vy"}};
-    if (stress.crane != 0 && !stress.range && stress.quantity == StressDiagram::Quantity::Shear)
-        return {{drawShear, "+Tau"}};
-    return {};
-}
-
 }  // namespace
 
-double signsWidth(const DrawingSurface& surface, Diagram diagram) {
+double signsWidth(const DrawingSurface& surface, const DiagramKind& kind) {
     const Em em = emOf(surface);
     double width = kAxesWidth * em.x;
-    for (const Symbol& symbol : symbolsOf(diagram)) width += kSymbolAndGap * em.x + surface.textWidth(symbol.text);
+    for (const Sign& sign : kind.signs) width += kSymbolAndGap * em.x + surface.textWidth(sign.text);
     return width;
 }
 
-Box drawSigns(DrawingSurface& surface, Diagram diagram, Place topRight) {
+Box drawSigns(DrawingSurface& surface, const DiagramKind& kind, Place topRight) {
     const Em em = emOf(surface);
-    double left = topRight.x - signsWidth(surface, diagram);
+    double left = topRight.x - signsWidth(surface, kind);
     const Box covered{left, topRight.y, topRight.x, topRight.y + kRow * em.y};
 
     surface.setColour(colours::grey);
-    for (const Symbol& symbol : symbolsOf(diagram)) {
+    for (const Sign& sign : kind.signs) {
         Pencil pencil(surface, {left, topRight.y});
-        symbol.draw(pencil);
-        pencil.text({kSymbolWidth, 0.25}, symbol.text);
-        left += kSymbolAndGap * em.x + surface.textWidth(symbol.text);
+        (sign.shape == Sign::Shape::Moment ? drawMoment : drawShear)(pencil);
+        pencil.text({kSymbolWidth, 0.25}, sign.text);
+        left += kSymbolAndGap * em.x + surface.textWidth(sign.text);
     }
     Pencil pencil(surface, {left, topRight.y});
-    drawAxes(pencil, isHorizontal(diagram) ? "y" : "z");
+    drawAxes(pencil, kind.horizontal ? "y" : "z");
     surface.setColour(colours::black);
     return covered;
 }

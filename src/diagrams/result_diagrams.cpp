@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "diagrams/diagram_canvas.h"
-#include "diagrams/diagram_series.h"
 
 namespace borvik {
 namespace {
@@ -70,7 +69,7 @@ void drawPanel(DiagramCanvas& canvas, const Panel& panel, double base) {
     addPeakLabels(canvas, panel, base, largest);
 }
 
-void addSupportLabels(DiagramCanvas& canvas, const std::vector<std::vector<std::string>>& texts) {
+void addSupportLabels(DiagramCanvas& canvas, const SupportTexts& texts) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         Label label{texts[i], {canvas.supportX(static_cast<int>(i) + 1), canvas.Y0 + canvas.layout.supportRow}, true};
         canvas.surface.setFont(canvas.labelFont);
@@ -83,13 +82,13 @@ void addSupportLabels(DiagramCanvas& canvas, const std::vector<std::vector<std::
 
 }  // namespace
 
-void drawResultDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0, double Y0,
+void drawResultDiagram(DrawingSurface& surface, const DiagramKind& kind, const DiagramData& data, double X0, double Y0,
                        DiagramMode mode) {
-    DiagramCanvas canvas(surface, diagram, data.project, X0, Y0, mode);
-    const std::vector<Panel> panels = diagramPanels(diagram, data);
-    const auto texts = supportTexts(diagram, data);
+    DiagramCanvas canvas(surface, kind, data.project, X0, Y0, mode);
+    const std::vector<Panel> panels = diagramPanels(kind, data);
+    const SupportTexts texts = supportTexts(kind, data);
     const bool hasResults = !panels.empty() || !texts.empty();
-    canvas.drawHead(hasResults ? signRemark(diagram, data) : "", hasResults);
+    canvas.drawHead(hasResults ? diagramRemark(kind, data) : "", hasResults);
     for (const double base : canvas.layout.bases) canvas.drawBeam(Y0 + base, colours::black);
     addSupportLabels(canvas, texts);
     for (std::size_t i = 0; i < panels.size(); ++i) drawPanel(canvas, panels[i], Y0 + canvas.layout.bases[i]);

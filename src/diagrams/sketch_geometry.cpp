@@ -3,12 +3,10 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "diagrams/diagram.h"
 
 namespace borvik {
 namespace {
-
-constexpr double kBeamStart = 50.0;
-constexpr double kBeamLength = 900.0;
 
 /// Wheels of a crane that are worth drawing: the first, and all up to the last that has a load or a distance to its
 /// neighbour.

@@ -203,9 +203,6 @@ void ReportPage::ruleAcross(Colour colour) {
 }
 
 void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step) {
-    // Width of the frame around a diagram: 5 units to the left of its 1000 and 10 to the right.
-    constexpr double kFrameLeft = -5.0;
-    constexpr double kFrameRight = 1010.0;
     const DiagramArea area = diagramArea(diagram, DiagramMode::Paper);
     const double linesPerUnit = LinesPerPage / pageUnits;
     if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));

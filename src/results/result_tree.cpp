@@ -1,5 +1,7 @@
 #include "results/result_tree.h"
 
+#include "diagrams/diagram_kind.h"
+
 namespace borvik {
 namespace {
 
@@ -15,20 +17,21 @@ TreeNode table(const char* key, const char* text, const char* name, bool needsLo
     return {key, text, NodeOpens::Table, name, needsLoadsY, {}};
 }
 
-TreeNode picture(const char* key, const char* text, bool needsLoadsY = false) {
-    return {key, text, NodeOpens::Picture, key, needsLoadsY, {}};
-}
-
-TreeNode flsDiagrams(const Project& project) {
-    TreeNode fls =
-        head("FLS", "FLS",
-             {picture("Cr1Sp1", "Cr1-Point 1"), picture("Cr1Sp2", "Cr1-Point 2"), picture("Cr1Sp3", "Cr1-Point 3")});
-    if (project.NofCranes == 2) {
-        fls.children.push_back(picture("Cr2Sp1", "Cr2-Point 1"));
-        fls.children.push_back(picture("Cr2Sp2", "Cr2-Point 2"));
-        fls.children.push_back(picture("Cr2Sp3", "Cr2-Point 3"));
+/// The pictures, below the heads that they stand under.
+TreeNode diagrams(const Project& project) {
+    TreeNode tree = head("Diagram", "Diagram");
+    for (const PictureKind& picture : pictureKinds()) {
+        if (picture.crane() == 2 && project.NofCranes != 2) continue;
+        TreeNode node{picture.name, picture.node, NodeOpens::Picture, picture.name, picture.needsLoadsY(), {}};
+        if (*picture.group == '\0') {
+            tree.children.push_back(std::move(node));
+            continue;
+        }
+        if (tree.children.empty() || tree.children.back().text != picture.group)
+            tree.children.push_back(head(picture.group, picture.group));
+        tree.children.back().children.push_back(std::move(node));
     }
-    return fls;
+    return tree;
 }
 
 }  // namespace
@@ -44,11 +47,7 @@ TreeNode mainTree(const Project& project, bool withResults) {
         head("Result", "Results",
              {table("Uls", "ULS", "SummaryULS"), table("UlsSLs", "ULS + SLS", "SummaryULSSLS"),
               table("UlsSlsFls", "ULS + SLS + FLS", "SummaryAll"), table("Sum", "Summary", "Summary")}));
-    root.children.push_back(
-        head("Diagram", "Diagram",
-             {head("ULS/SLS", "ULS/SLS",
-                   {picture("MyVz", "My + Vz"), picture("MzVy", "Mz + Vy", true), picture("Uz", "Uz + Uy")}),
-              flsDiagrams(project), picture("CrRz", "Reactions")}));
+    root.children.push_back(diagrams(project));
     root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
     root.children.push_back({"Notes", "Notes", NodeOpens::Notes, "", false, {}});
     return root;

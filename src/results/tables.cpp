@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "base/shown_text.h"
+#include "base/text.h"
 #include "results/table_cells.h"
 
 namespace borvik {
@@ -76,11 +76,6 @@ ResultTable stressTable(const Project& project, const std::optional<StressSet>& 
             row.push_back(numberCell(set ? double(((*set).*column.stress)(span, k)) : 0.0, "0.0"));
     });
     return table;
-}
-
-bool sameName(std::string_view a, std::string_view b) {
-    const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
 }
 
 /// The fatigue rows of the crane type at hand.

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "base/fault.h"
+#include "diagrams/diagram_reading.h"
 #include "platform/qt/picture.h"
 #include "platform/qt/qt_surface.h"
 #include "views/icons.h"

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 
+#include "diagrams/diagram_kind.h"
 #include "help/help_window.h"
 
 namespace borvik {
@@ -50,10 +51,6 @@ constexpr PageOfNode kNodes[] = {
     {"ULS + SLS", "summaries.md"},
     {"ULS + SLS + FLS", "summaries.md"},
     {"Summary", "summaries.md"},
-    {"My + Vz", "diagram-forces.md"},
-    {"Mz + Vy", "diagram-forces.md"},
-    {"Uz + Uy", "diagram-deflections.md"},
-    {"Reactions", "diagram-reactions.md"},
     {"Detailed Results", "detailed-results.md"},
     {"Notes", "notes.md"},
 };
@@ -92,7 +89,8 @@ QString helpPageOf(const QWidget* window) {
 QString helpPageOf(const TreeNode& node, bool monorail) {
     if (node.text == "Loads") return monorail ? "loads-monorail.md" : "loads-overhead-crane.md";
     if (node.text == "Fatigue") return monorail ? "fatigue-monorail.md" : "fatigue-overhead-crane.md";
-    if (node.text.starts_with("Cr1-") || node.text.starts_with("Cr2-")) return "diagram-fatigue.md";
+    for (const PictureKind& picture : pictureKinds())
+        if (node.text == picture.node) return picture.helpPage;
     for (const PageOfNode& known : kNodes)
         if (node.text == known.node) return known.page;
     return "main-window.md";

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "diagrams/diagram_kind.h"
+#include "diagrams/diagram_reading.h"
 #include "diagrams/sketch_geometry.h"
 #include "results/result_tree.h"
 #include "samples.h"
@@ -161,8 +163,8 @@ TEST(Paper, hasItsFrameAndKeepsToIt) {
     Project project = sampleProject(3);
     project.NofCranes = 2;
     const Results results = sampleResults(project);
-    for (int i = 0; i < kDiagrams; ++i) {
-        const auto diagram = static_cast<Diagram>(i);
+    for (const DiagramKind& kind : diagramKinds()) {
+        const Diagram diagram = kind.id;
         RecordingSurface surface(700, 1000);
         surface.scale(-5, 0, 1015, diagram == Diagram::Sketch || diagram == Diagram::UlsMyVz ? 1400 : 2000);
         const double X0 = 3;

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "calculation/session.h"
+
+namespace borvik {
+
+/// The diagrams. What each of them is called, shows and looks like is a row of diagram_table.cpp.
+enum class Diagram {
+    Sketch,  ///< the beam with its cranes, or with its hoist
+    UlsMyVz,
+    UlsMzVy,
+    SlsUz,
+    SlsUy,
+    Cr1Top,
+    Cr1TopRange,
+    Cr1Bottom,
+    Cr1BottomRange,
+    Cr1Shear,
+    Cr1ShearRange,
+    Cr2Top,
+    Cr2TopRange,
+    Cr2Bottom,
+    Cr2BottomRange,
+    Cr2Shear,
+    Cr2ShearRange,
+    FlsReactions,
+};
+
+enum class DiagramMode { Screen, Paper };
+
+/// What the diagrams read. Only the sketch does without results.
+struct DiagramData {
+    const Project& project;
+    const Results* results = nullptr;
+};
+
+/// What a diagram covers from top to bottom, in units below its origin.
+struct DiagramArea {
+    double top, bottom;
+};
+
+// Units across of every diagram: its width, and where the beam stands in it.
+constexpr double kDiagramWidth = 1000.0;
+constexpr double kBeamStart = 50.0;
+constexpr double kBeamLength = 900.0;
+// And the frame around it on paper.
+constexpr double kFrameLeft = -5.0;
+constexpr double kFrameRight = 1010.0;
+
+}  // namespace borvik

@@ -1,0 +1,111 @@
+#include "diagrams/diagram_reading.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/number_text.h"
+#include "diagrams/diagram_kind.h"
+#include "diagrams/diagrams.h"
+
+namespace borvik {
+namespace {
+
+/// The value of a curve between two points of calculation.
+double between(const Curve& curve, int span, double position, double length) {
+    const double place = length > 0.0 ? position / length * (kPoints - 1) : 0.0;
+    const int k = std::clamp(static_cast<int>(place) + 1, 1, kPoints - 1);
+    const double share = place - (k - 1);
+    return curve.at(span, k) * (1.0 - share) + curve.at(span, k + 1) * share;
+}
+
+std::vector<DiagramReading::Quantity> quantitiesAt(const std::vector<Panel>& panels, int span, double position,
+                                                   double length) {
+    std::vector<DiagramReading::Quantity> quantities;
+    for (const Panel& panel : panels)
+        for (const Curve& curve : panel.curves)
+            quantities.push_back({curve.name, between(curve, span, position, length), panel.unit});
+    return quantities;
+}
+
+}  // namespace
+
+std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
+                                          double reach) {
+    if (diagrams.empty()) return std::nullopt;
+    Diagram diagram = diagrams.back();
+    double bottom = 0.0;
+    for (const Diagram candidate : diagrams) {
+        bottom += diagramHeight(candidate, DiagramMode::Screen);
+        if (place.y < bottom) {
+            diagram = candidate;
+            break;
+        }
+    }
+    const std::vector<Panel> panels = diagramPanels(diagramKind(diagram), data);
+    double total = 0.0;
+    for (int span = 1; span <= data.project.NofSpans; ++span) total += data.project.Span(span);
+    if (panels.empty() || total <= 0.0) return std::nullopt;
+
+    DiagramReading reading{diagram, {}};
+    const auto read = [&](int span, double position) {
+        reading.points.push_back({span, position, quantitiesAt(panels, span, position, data.project.Span(span))});
+    };
+    const double position = (place.x - kBeamStart) / kBeamLength * total;
+    const double near = std::max(reach / kBeamLength, 1e-9) * total;  // a support is met in spite of rounding
+    const int last = data.project.NofSpans;
+    int support = 1;  // the nearest one
+    double start = 0.0, nearest = std::abs(position);
+    for (int span = 1; span <= last; ++span) {
+        const double length = data.project.Span(span), end = start + length;
+        if (nearest > near && position > start && position < end - near) {
+            read(span, position - start);
+            return reading;
+        }
+        if (std::abs(position - end) < nearest) {
+            nearest = std::abs(position - end);
+            support = span + 1;
+        }
+        start = end;
+    }
+    if (nearest > near) return std::nullopt;
+    if (support > 1) read(support - 1, data.project.Span(support - 1));
+    if (support <= last) read(support, 0.0);
+    return reading;
+}
+
+std::vector<double> readingStops(const Project& project, bool supportsOnly) {
+    constexpr int kParts = 20;
+    double total = 0.0, start = 0.0;
+    for (int span = 1; span <= project.NofSpans; ++span) total += project.Span(span);
+    if (total <= 0.0) return {};
+    std::vector<double> stops{kBeamStart};
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        const double length = project.Span(span);
+        for (int part = supportsOnly ? kParts : 1; part <= kParts; ++part)
+            stops.push_back(kBeamStart + kBeamLength * (start + length * part / kParts) / total);
+        start += length;
+    }
+    return stops;
+}
+
+std::string DiagramReading::text() const {
+    const Point& point = points.front();
+    const bool onSupport = points.size() == 2;
+    std::string text =
+        onSupport ? "Support " + std::to_string(points.back().span)
+                  : "Span " + std::to_string(point.span) + ", x = " + formatNumber(point.position, "0") + " mm";
+    const char* separator = ": ";
+    for (std::size_t i = 0; i < point.quantities.size(); ++i) {
+        const Quantity& quantity = point.quantities[i];
+        std::string value = formatNumber(quantity.value, "0.0");
+        if (onSupport) {
+            const std::string right = formatNumber(points.back().quantities[i].value, "0.0");
+            if (right != value) value += " | " + right;
+        }
+        text += separator + quantity.name + " " + value + " " + quantity.unit;
+        separator = ", ";
+    }
+    return text;
+}
+
+}  // namespace borvik

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "diagrams/diagram.h"
+#include "platform/drawing_surface.h"
+
+namespace borvik {
+
+/// What stands under the mouse.
+struct DiagramReading {
+    struct Quantity {
+        std::string name;  ///< "My max"
+        double value;      ///< between two points of calculation on the straight line
+        std::string unit;
+    };
+    /// A point of one span.
+    struct Point {
+        int span = 0;           ///< 1..NofSpans
+        double position = 0.0;  ///< mm from the left support of the span
+        std::vector<Quantity> quantities;
+    };
+    Diagram diagram = Diagram::Sketch;
+    std::vector<Point> points;  ///< one; two on an inner support, the end of one span and the start of the next
+    /// "Span 2, x = 1250 mm: My max 123.4 kNm, My min -20.1 kNm", on an inner support
+    /// "Support 2: My max 0.0 kNm, My min -1019.8 kNm, Vz max 3.1 | 240.0 kN", left and right of it where they differ.
+    [[nodiscard]] std::string text() const;
+};
+
+/// Reads a picture at a logical place of its frame.
+/// @param reach  units across within which a support is taken for the place
+/// @return nothing left and right of the beam, or without results
+[[nodiscard]] std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data,
+                                                        Place place, double reach = 0.0);
+
+/// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each
+/// span.
+/// @return nothing for a beam without length
+[[nodiscard]] std::vector<double> readingStops(const Project& project, bool supportsOnly);
+
+}  // namespace borvik
