@@ -47,7 +47,7 @@ ForcePlane forcePlane(bool horizontal, const UlsResults& uls) {
                 uls.RzMin,
                 1,
                 2,
-                9};
+                UlsResults::kPlaceSlot};
     return {"Mz",
             "Vy",
             "Ry=+",
@@ -63,7 +63,7 @@ ForcePlane forcePlane(bool horizontal, const UlsResults& uls) {
             uls.RyMin,
             3,
             4,
-            7};
+            UlsResults::kPlaceSlotY};
 }
 
 Curve envelope(std::string name, const Cube<Single>& points, int slot, double divisor) {

@@ -15,7 +15,6 @@ namespace borvik {
 
 namespace {
 
-constexpr int kSplices = 4;
 
 /// A point of the girder; at a support or splice also its number.
 struct Place {
@@ -128,7 +127,7 @@ const SpliceFields& DetailCheck::splices() const {
 }
 
 int DetailCheck::rowCount() const {
-    if (atSplices()) return kSplices;
+    if (atSplices()) return kCheckedSplices;
     return detail_.places == Places::SpanPoints ? project_.NofSpans : project_.NofSpans + 1;
 }
 

@@ -42,12 +42,11 @@ std::vector<CheckedRatio> allRatios(const Session& session) {
 }
 
 std::optional<NoteFinding> grown(const std::vector<CheckedRatio>& shown, const std::vector<CheckedRatio>& other) {
-    constexpr double kLeast = 0.0005;  // smaller growth doesn't show in three decimals
     NoteFinding finding;
     for (std::size_t i = 0; i < std::min(shown.size(), other.size()); ++i) {
         if (shown[i].what != other[i].what) continue;
         NoteChange change{shown[i].what, shown[i].largest, other[i].largest};
-        if (change.growth() >= kLeast) finding.changes.push_back(std::move(change));
+        if (change.growth() >= kShownGrowth) finding.changes.push_back(std::move(change));
     }
     if (finding.changes.empty()) return std::nullopt;
     std::stable_sort(finding.changes.begin(), finding.changes.end(),

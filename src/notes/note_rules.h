@@ -42,6 +42,9 @@ namespace borvik {
     return matters(session.project.CraneType != 1);
 }
 
+/// Smaller growth of a ratio doesn't show in three decimals.
+constexpr double kShownGrowth = 0.0005;
+
 /// A finding of one ratio.
 [[nodiscard]] inline NoteFinding changed(std::string what, double shown, double other) {
     return NoteFinding{{{std::move(what), shown, other}}, ""};
@@ -51,10 +54,9 @@ namespace borvik {
 /// none does.
 [[nodiscard]] inline std::optional<NoteFinding> worstOf(const std::vector<NoteChange>& changes,
                                                         std::string remark = "") {
-    constexpr double kLeast = 0.0005;  // smaller growth doesn't show in three decimals
     const NoteChange* worst = nullptr;
     for (const NoteChange& change : changes)
-        if (change.growth() >= kLeast && (worst == nullptr || change.other > worst->other)) worst = &change;
+        if (change.growth() >= kShownGrowth && (worst == nullptr || change.other > worst->other)) worst = &change;
     if (worst == nullptr) return std::nullopt;
     return NoteFinding{{*worst}, std::move(remark)};
 }

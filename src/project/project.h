@@ -10,6 +10,7 @@
 namespace borvik {
 
 constexpr int kMaxSpans = 30;
+constexpr int kCheckedSplices = 4;  // of the ten that a file holds
 
 /// Every value that the user enters, and the few lengths that the calculation writes back. Fields stand in the order of
 /// the project file; fields named Spare are never used and survive load and save unchanged. mm, kN, kN/m, MPa. Flags

@@ -72,11 +72,10 @@ constexpr DetailInputs kMonorail[] = {
 
 void printSplices(ReportPage& page, const Project& project) {
     const bool monorail = project.CraneType == 2;
-    constexpr int kSplices = 4;
     const auto& used = monorail ? project.ChkFatR5Sp : project.ChkFat5Sp;
     const auto& spans = monorail ? project.FatR5Span : project.Fat5Span;
     const auto& places = monorail ? project.FatR5d1 : project.Fat5d1;
-    for (int splice = 1; splice <= kSplices; ++splice) {
+    for (int splice = 1; splice <= kCheckedSplices; ++splice) {
         if (!used(splice)) continue;
         page.put(page.Col3.stop1,
                  "Span: " + formatNumber(spans(splice), "0") + "  x = " + formatNumber(places(splice), "0") + " mm");

@@ -134,8 +134,7 @@ private:
 };
 
 std::string pointOf(int span, const Table<Single>& records) {
-    constexpr int kPlaceSlot = 9;  // x of the governing point in the span records
-    return std::to_string(span) + "/" + formatNumber(records(span, kPlaceSlot), "0");
+    return std::to_string(span) + "/" + formatNumber(records(span, UlsResults::kPlaceSlot), "0");
 }
 
 void ultimateRows(CheckList& list, const Project& project, const Results& results) {

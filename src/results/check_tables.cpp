@@ -156,7 +156,6 @@ void addFatigue(ResultTable& table, const Project& project, const FatigueResults
 ResultTable TableCodeStatic(const Project& project, const Results& results) {
     const CheckResults& checks = results.Checks;
     const UlsResults& uls = results.Uls;
-    constexpr int kPlaceSlot = 9;  // x of the governing point in the span records
 
     ResultTable table;
     table.columns = checkColumns();
@@ -165,10 +164,10 @@ ResultTable TableCodeStatic(const Project& project, const Results& results) {
     table.note = "A ratio over 1.000 is not acceptable";
     StaticRows rows(table, project);
     for (int span = 1; span <= project.NofSpans; ++span) {
-        rows.section(checks.ShearMax, span, uls.VzMaxSpan(span, kPlaceSlot));
-        rows.section(checks.ShearMin, span, uls.VzMinSpan(span, kPlaceSlot));
-        rows.section(checks.BendMax, span, uls.MyMaxSpan(span, kPlaceSlot));
-        rows.section(checks.BendMin, span, uls.MyMinSpan(span, kPlaceSlot));
+        rows.section(checks.ShearMax, span, uls.VzMaxSpan(span, UlsResults::kPlaceSlot));
+        rows.section(checks.ShearMin, span, uls.VzMinSpan(span, UlsResults::kPlaceSlot));
+        rows.section(checks.BendMax, span, uls.MyMaxSpan(span, UlsResults::kPlaceSlot));
+        rows.section(checks.BendMin, span, uls.MyMinSpan(span, UlsResults::kPlaceSlot));
         rows.wholeSpan(checks.LtbPos, span);
         rows.wholeSpan(checks.LtbNeg, span);
         rows.local(checks.LocalSpan, span);
