@@ -1,6 +1,6 @@
 #pragma once
 
-#include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "base/array.h"
@@ -18,7 +18,7 @@ struct RowSet {
     double LargestOfPoints = 0.0;
 
     /// The largest ratio that stands behind these rows, shown or not.
-    [[nodiscard]] double largest() const { return std::max(LargestOfPoints, Ratio); }
+    [[nodiscard]] double largest() const { return std::fmax(LargestOfPoints, Ratio); }
     [[nodiscard]] std::string& operator()(int row) { return Text(row); }
     [[nodiscard]] const std::string& operator()(int row) const { return Text(row); }
     bool operator==(const RowSet&) const = default;
@@ -34,9 +34,9 @@ void copyRows(RowSet<To>& to, const RowSet<From>& from, int first, int last) {
 }
 
 /// True when a ratio shows that its check holds. A negative one does not: the resistance is used up by something else,
-/// or a factor is senseless; nor does what is no number.
+/// or a factor is senseless; nor does what is no number, whose comparison is no arithmetic fault here.
 [[nodiscard]] inline bool isSatisfied(double ratio) {
-    return ratio >= 0.0 && ratio <= 1.0;
+    return std::isgreaterequal(ratio, 0.0) && ratio <= 1.0;
 }
 
 /// True when ratio text `a` ranks above `b`: the texts are compared character by character, so that "10.000" ranks

@@ -21,7 +21,8 @@ RowSet<5> deflectionRows(const char* formula, double length, double limit, const
     return rows;
 }
 
-/// The span whose ratio ranks highest, the earlier one at a tie. Row 5 stays that of the first span: note E6.
+/// The span whose ratio ranks highest, the earlier one at a tie. Row 5, which no
+/// table shows of it, stays that of the first span.
 RowSet<5> governing(const Array<RowSet<5>>& perSpan) {
     RowSet<5> rows = perSpan(1);
     for (int span = 2; span <= perSpan.last(); ++span)

@@ -1,6 +1,5 @@
-#include <algorithm>
-
-#include "base/number_text.h"
+#include "analysis/loads.h"
+#include "checks/deflection_checks.h"
 #include "notes/note_rules.h"
 
 namespace borvik {
@@ -32,26 +31,27 @@ std::optional<NoteFinding> absoluteLimit(const Session& session) {
     return worstOf(changes);
 }
 
-/// Vertical deflection times the dynamic factor, where that passes the limit.
+/// Vertical deflection under wheels with the dynamic factor of their crane, where that passes the limit. Dead load has
+/// no such factor.
 std::optional<NoteFinding> withDynamicFactor(const Session& session) {
     const Project& project = session.project;
-    const double psi = std::max<double>(project.PsiV1, project.NofCranes == 2 ? double(project.PsiV2) : 0.0);
+    const bool moves = project.PsiV1 != 1 || (project.NofCranes == 2 && project.PsiV2 != 1);
+    if (!moves || !quicklyWalked(session)) return std::nullopt;
+    Project factored = project;
+    factored.LfULS = project.LfSLS;
+    RunLoads loads;
+    loads.NCranes = project.NofCranes;
+    SetUlsLoads(factored, session.context.CurrentRail, loads);
+    SilentMessages silent;
+    Progress progress;
+    CheckResults checks;
+    DeflectionChecks(project, RunSls(project, loads, WalkMethod::Fast, silent, progress), checks);
     std::vector<NoteChange> changes;
-    for (int span = 1; span <= project.NofSpans; ++span) {
-        const double shown = session.results->Checks.DefZSpan(span).Ratio;
-        if (shown * psi > 1) changes.push_back({inSpan("vertical deflection", span), shown, shown * psi});
-    }
+    for (int span = 1; span <= project.NofSpans; ++span)
+        if (checks.DefZSpan(span).Ratio > 1)
+            changes.push_back({inSpan("vertical deflection", span), session.results->Checks.DefZSpan(span).Ratio,
+                               checks.DefZSpan(span).Ratio});
     return worstOf(changes);
-}
-
-/// The crane's position of the governing row, where that is not the first span's.
-std::optional<NoteFinding> positionOfFirstSpan(const Session& session) {
-    const CheckResults& checks = session.results->Checks;
-    int span = 1;
-    while (span < checks.DefZSpan.last() && checks.DefZSpan(span)(3) != checks.DefZGov(3)) ++span;
-    if (span == 1 || checks.DefZSpan(span)(5) == checks.DefZGov(5)) return std::nullopt;
-    return matters(true, "the governing deflection of span " + std::to_string(span) + " belongs to wheel 1 at " +
-                             checks.DefZSpan(span)(5) + " mm");
 }
 
 constexpr NoteRule kRules[]{
@@ -69,11 +69,8 @@ constexpr NoteRule kRules[]{
      "The deflection of a hoist's beam under the payload alone is not checked against a limit of its own.", "",
      "EN 1993-6 Table 7.2", ofMonorails, true},
     {"E4", NoteCheck::Deflection, NoteEffect::Either,
-     "Deflections are calculated without dynamic factor, which some national annexes want.", "with it",
+     "Deflections are calculated without dynamic factor, which some national annexes want.", "with it on the wheels",
      "EN 1991-3 2.2.2", withDynamicFactor},
-    {"E6", NoteCheck::Deflection, NoteEffect::Information,
-     "The governing row of the vertical deflection names the crane's position for the first span.", "", "",
-     positionOfFirstSpan},
 };
 
 }  // namespace

@@ -91,14 +91,16 @@ std::optional<NoteFinding> gapsOfCrane2(const Session& session) {
     return growthOfAll(session, other);
 }
 
-/// The local stress under a wheel does not grow where cranes meet: the weld of top flange and web is left out.
+/// The local stress under a wheel does not grow where cranes meet: the weld of top flange and web is left out. A rolled
+/// web stands on the support as it does for crane 1, without fillets.
 std::optional<NoteFinding> cranesThatMeet(const Session& session) {
     const Project& project = session.project;
     if (!twoFreeCranes(session) || project.TwoCraneMode != 1) return std::nullopt;
+    constexpr History kWhereTheyMeet{"Stress history of both cranes", SupportArea::StiffenedWebRolledWhole};
     FatigueRecheck other(session);
     CraneFactors& both = other.factors.Cr12;
     both = craneFactors(classOfBoth(project), other.factors.Cr1.NofWheels + other.factors.Cr2.NofWheels, 0.0);
-    other.Cr12 = walkedTogether(session, StressHistoryCr12, both);
+    other.Cr12 = walkedTogether(session, kWhereTheyMeet, both);
     NoteFinding finding;
     for (const int number : {1, 2, 4, 5, 6})
         if (const Detail* detail = checkedDetail(session, number))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <initializer_list>
 #include <optional>
 #include <span>
@@ -56,7 +57,8 @@ constexpr double kShownGrowth = 0.0005;
                                                         std::string remark = "") {
     const NoteChange* worst = nullptr;
     for (const NoteChange& change : changes)
-        if (change.growth() >= kShownGrowth && (worst == nullptr || change.other > worst->other)) worst = &change;
+        if (std::isgreaterequal(change.growth(), kShownGrowth) &&
+            (worst == nullptr || change.other > worst->other)) worst = &change;
     if (worst == nullptr) return std::nullopt;
     return NoteFinding{{*worst}, std::move(remark)};
 }

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "notes/all_ratios.h"
 
 namespace borvik {
@@ -9,7 +11,7 @@ template <class Wanted>
 std::optional<NoteFinding> hiddenRatios(const Session& session, Wanted wanted) {
     std::vector<NoteChange> hidden;
     for (const CheckedRatio& ratio : allRatios(session))
-        if (ratio.largest > ratio.shown && wanted(ratio))
+        if (std::isgreater(ratio.largest, ratio.shown) && wanted(ratio))
             hidden.push_back(
                 {ratio.at > 0 ? inSpan(ratio.what.c_str(), ratio.at) : ratio.what, ratio.shown, ratio.largest});
     if (hidden.empty()) return std::nullopt;
@@ -30,7 +32,7 @@ std::optional<NoteFinding> lastTwoSpans(const Session& session) {
 
 /// Checks whose ratio says nothing, because of what the load is divided by.
 std::optional<NoteFinding> noSoundRatio(const Session& session) {
-    const auto unsound = [](const auto& rows) { return !(rows.Ratio >= 0.0); };
+    const auto unsound = [](const auto& rows) { return !std::isgreaterequal(rows.Ratio, 0.0); };
     const CheckResults& checks = session.results->Checks;
     std::string all;
     const auto add = [&all](const std::string& what) { all += (all.empty() ? "" : "; ") + what; };

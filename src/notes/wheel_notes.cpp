@@ -34,12 +34,10 @@ std::optional<NoteFinding> patchLoadFactors(const Session& session) {
     return NoteFinding{{worst("patch load", session.results->Checks.LocalSpan, checks.LocalSpan)}, ""};
 }
 
-/// leff of the rail in use, worn; without rail the flange spreads the load alone.
-double loadedLength(const Session& session, const SectionRecord& section, bool withRail) {
+/// leff of the rail in use, worn.
+double loadedLength(const Session& session, const SectionRecord& section) {
     const RailRecord& rail = session.context.CurrentRail;
-    WornRail worn = wearRail(rail, kWearStatic);
-    if (!withRail) worn = {};
-    return effectiveLoadedLength(rail, worn, session.project.RailFix, section);
+    return effectiveLoadedLength(rail, wearRail(rail, kWearStatic), session.project.RailFix, section);
 }
 
 /// Patch load of every span of an overhead crane with a resistance of another making.
@@ -58,16 +56,8 @@ std::optional<NoteFinding> withPatchResistance(const Session& session, Resistanc
 
 std::optional<NoteFinding> stockyWeb(const Session& session) {
     return withPatchResistance(session, [&](int span, const SectionRecord& section) {
-        return PatchResistance(session.project, section, loadedLength(session, section, true),
-                               session.project.Span(span), true);
-    });
-}
-
-std::optional<NoteFinding> noRail(const Session& session) {
-    if (session.project.RailOn) return std::nullopt;
-    return withPatchResistance(session, [&](int span, const SectionRecord& section) {
-        return PatchResistance(session.project, section, loadedLength(session, section, false),
-                               session.project.Span(span));
+        return PatchResistance(session.project, section, loadedLength(session, section), session.project.Span(span),
+                               true);
     });
 }
 
@@ -91,7 +81,7 @@ std::optional<NoteFinding> closeWheels(const Session& session) {
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
-        const double leff = loadedLength(session, section, true);
+        const double leff = loadedLength(session, section);
         const auto pair = [&](int wheel, double gap) {
             if (!(gap > 0 && gap < leff) || project.V(wheel) == 0 || project.V(wheel + 1) == 0) return;
             const double both = project.V(wheel) + project.V(wheel + 1);
@@ -207,8 +197,9 @@ constexpr NoteRule kRules[]{
     {"D4", NoteCheck::WheelLoad, NoteEffect::Unsafe, "Wheels that stand close together are checked one by one.",
      "with both on their common length", "EN 1993-1-5 6.3(4), EN 1993-6 5.7.1", closeWheels},
     {"D5", NoteCheck::WheelLoad, NoteEffect::Unsafe,
-     "The rail spreads the wheel load in the patch load check although its weight is left out.", "without rail",
-     "EN 1993-6 Table 5.1", noRail},
+     "The rail is taken to lie on the beam and to spread the wheel loads, also where its weight is left out; without a "
+     "rail they act on a shorter length.",
+     "", "EN 1993-6 Table 5.1", ofOverheadCranes, true},
     {"D6", NoteCheck::WheelLoad, NoteEffect::Unsafe,
      "The flange's resistance to a hoist's wheel is that away from the ends; at an end that is not stiffened it is "
      "less.",

@@ -153,6 +153,16 @@ const NoteCase kCases[]{
 
     // Two cranes with 0.9926^3 each. Both at 3 and 7 m: 150 kNm x 0.63 = 75.04 MPa.
     {"G7", twoCranes(1, splice), oneCrane(splice), "fatigue detail 5, splice 1", 1.9559, 2.3784},
+    // At the support, on the areas of G18: crane 1 (50000/3703/10)^3 = 2.4619, crane 2 on fillets 2.1154; both
+    // 0.63 (50 + 0.6 x 50) = 50.4 kN on the rolled web, (50400/3703/10)^3 = 2.5213 more.
+    {"G7",
+     twoCranes(1,
+               [](Project& p) {
+                   p.Fat6 = true;
+                   p.Fat6C1 = 10;
+                   p.W3a = 5;
+               }),
+     oneCrane([](Project& p) { p.Fat6 = true; }), "fatigue detail 6, support 1", 4.5773, 7.0986},
 
     // (80.67/160)^3, and at the edge of the flange 99.26 x 131/145 = 89.68, (89.68/160)^3 more.
     {"G8", oneCrane(detail3), oneCrane(splice), "fatigue detail 3, span 1", 0.12817, 0.30426},

@@ -58,8 +58,8 @@ const NoteCase kWheelCases[]{
      0.1421,
      0.2592,
      0.002},
-    {"D5", [](Session& session) { session.project.RailOn = false; },
-     [](Session& session) { session.project.RailOn = true; }},
+    {"D5", [](Session& session) { session.project.RailOn = true; },
+     [](Session& session) { session.project.CraneType = 2; }},
     // m = (300 - 8.5)/2 - 0.8 x 27 - 25 = 99.15, m + n = 124.15, leff = 248.3; 14^2 x 248.3 x 355/(4 x 99.15) = 43.56
     // kN for 20. Inside, one wheel: leff = 2 sqrt(2) 124.15 = 351.2; stress 60e6/182.6e6 x 145 = 47.6: 61.60 (1 -
     // 0.134^2) = 60.49.
