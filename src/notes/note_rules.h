@@ -57,8 +57,8 @@ constexpr double kShownGrowth = 0.0005;
                                                         std::string remark = "") {
     const NoteChange* worst = nullptr;
     for (const NoteChange& change : changes)
-        if (std::isgreaterequal(change.growth(), kShownGrowth) &&
-            (worst == nullptr || change.other > worst->other)) worst = &change;
+        if (std::isgreaterequal(change.growth(), kShownGrowth) && (worst == nullptr || change.other > worst->other))
+            worst = &change;
     if (worst == nullptr) return std::nullopt;
     return NoteFinding{{*worst}, std::move(remark)};
 }

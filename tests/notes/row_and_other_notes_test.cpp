@@ -27,7 +27,8 @@ const NoteCase kCases[]{
      "vertical deflection, span 1", 10.562, 12.674},
     {"E3a", {}, [](Session& session) { session.project.CraneType = 2; }},
     {"E3b", [](Session& session) { session.project.CraneType = 2; }, {}},
-    // 11.735 mm under the wheel and 5 x 2 x 6000^4/(384 E 182.6e6) = 0.880 under the gangway, of 10; 1.1 x 11.735 + 0.880.
+    // 11.735 mm under the wheel and 5 x 2 x 6000^4/(384 E 182.6e6) = 0.880 under the gangway, of 10; 1.1 x 11.735 +
+    // 0.880.
     {"E4",
      [](Session& session) {
          spanOf(session, 6000);
