@@ -1,6 +1,8 @@
 #include "results/notes_table.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <initializer_list>
 
 #include "results/table_cells.h"
 
@@ -32,30 +34,68 @@ std::string detailOf(const Note& note) {
     return text;
 }
 
-/// The formula that stands in the summary for what a note speaks of.
-std::string formulaOf(const Note& note, const Results& results) {
-    const CheckResults& checks = results.Checks;
-    const std::string what = note.finding.changes.empty() ? "" : note.finding.changes.front().what;
-    if (what.starts_with("shear")) return checks.ShearGov(1);
-    if (what.starts_with("horizontal")) return checks.DefYGov(1);
-    switch (note.rule->check) {
-        case NoteCheck::General:
-            return what.starts_with("bending") ? checks.BendGov(1) : "";
-        case NoteCheck::Section:
-            return checks.BendGov(1);
-        case NoteCheck::LateralBuckling:
-            return checks.LtbGov(1);
-        case NoteCheck::WheelLoad:
-            return checks.LocalGov(1);
-        case NoteCheck::VonMises:
-            return checks.VonMisesGov(1);
-        case NoteCheck::Deflection:
-            return checks.DefZGov(1);
-        case NoteCheck::Fatigue:
-            break;
+/// The whole number that a text begins with: 2 of "2/3000"; 0 where it begins with none.
+int leadingNumber(const std::string& text) {
+    return static_cast<int>(std::strtol(text.c_str(), nullptr, 10));
+}
+
+/// The number behind `words` in "bending, span 2, x = 3000 mm"; 0 where they don't stand in it.
+int numberBehind(const std::string& what, const std::string& words) {
+    const std::size_t at = what.find(words);
+    return at == std::string::npos ? 0 : leadingNumber(what.substr(at + words.size()));
+}
+
+/// Calls visit(rows of the spans, governing row) with the check that a number belongs to. Without a number it is the
+/// check of the note.
+template <class Visit>
+void visitCheck(const std::string& what, NoteCheck check, const CheckResults& c, Visit visit) {
+    const auto is = [&](NoteCheck own, std::initializer_list<const char*> names) {
+        if (what.empty()) return check == own;
+        return std::any_of(names.begin(), names.end(), [&](const char* name) { return what.starts_with(name); });
+    };
+    if (what.starts_with("shear")) return visit(c.ShearSpan, c.ShearGov);
+    if (what.starts_with("horizontal deflection")) return visit(c.DefYSpan, c.DefYGov);
+    if (is(NoteCheck::Section, {"bending"})) return visit(c.BendSpan, c.BendGov);
+    if (is(NoteCheck::LateralBuckling, {"lateral torsional buckling"})) return visit(c.LtbSpan, c.LtbGov);
+    if (is(NoteCheck::WheelLoad, {"patch load", "flange bending"})) return visit(c.LocalSpan, c.LocalGov);
+    if (is(NoteCheck::VonMises, {"von Mises stress"})) return visit(c.VonMisesSpan, c.VonMisesGov);
+    if (is(NoteCheck::Deflection, {"vertical deflection"})) return visit(c.DefZSpan, c.DefZGov);
+}
+
+/// The first row of a table that is one of those wanted; -1 where there is none.
+template <class Wanted>
+int firstRow(const ResultTable& table, Wanted wanted) {
+    const auto row = std::find_if(table.rows.begin(), table.rows.end(), wanted);
+    return row == table.rows.end() ? -1 : static_cast<int>(row - table.rows.begin());
+}
+
+/// The row of a governing ratio in the table ShowSummaryAll.
+template <class Governing>
+NoteTarget inSummary(const Governing& governing, const Project& project, const Results& results) {
+    return {"SummaryAll", firstRow(ShowSummaryAll(project, results),
+                                   [&](const auto& cells) { return cells[0].text == governing(1) + governing(2); })};
+}
+
+/// The row of a span in the table of the static checks: "2" or "2/3000" with the formula and its numbers.
+template <class Rows>
+NoteTarget inStatic(const Rows& rows, int span, const Project& project, const Results& results) {
+    return {"CodeStatic", firstRow(TableCodeStatic(project, results), [&](const auto& cells) {
+                return leadingNumber(cells[0].text) == span && cells[1].text == rows(1) && cells[2].text == rows(2);
+            })};
+}
+
+/// The row of a place among those of a fatigue detail.
+NoteTarget inFatigue(int detail, int place, const Project& project, const Results& results) {
+    const NoteTarget none{"CodeFatigue", -1};
+    const auto rows = findTable(none.table)->fill(project, results).rows;
+    bool ofDetail = false;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row][0].emphasis == Emphasis::Heading)
+            ofDetail = rows[row][1].text.starts_with(std::to_string(detail) + " ");
+        else if (ofDetail && rows[row][0].text == std::to_string(place))
+            return {none.table, static_cast<int>(row)};
     }
-    const std::string detail = "fatigue detail ";
-    return what.starts_with(detail) ? what.substr(detail.size(), 1) + ":" : "";
+    return none;
 }
 
 }  // namespace
@@ -83,13 +123,22 @@ ResultTable TableNotes(const Notes& notes) {
     return table;
 }
 
-int SummaryRowOf(const Note& note, const Project& project, const Results& results) {
-    const std::string formula = formulaOf(note, results);
-    if (formula.empty()) return -1;
-    const auto rows = ShowSummaryAll(project, results).rows;
-    const auto row = std::find_if(rows.begin(), rows.end(),
-                                  [&](const auto& cells) { return cells.at(0).text.starts_with(formula); });
-    return row == rows.end() ? -1 : static_cast<int>(row - rows.begin());
+NoteTarget TargetOf(const Note& note, const Project& project, const Results& results) {
+    const std::string what = note.finding.changes.empty() ? "" : note.finding.changes.front().what;
+    if (const int support = numberBehind(what, "reaction, support ")) return {"Reactions", support - 1};
+    const int span = numberBehind(what, ", span ");
+    if (const int detail = numberBehind(what, "fatigue detail ")) {
+        const int place = std::max({span, numberBehind(what, ", support "), numberBehind(what, ", splice ")});
+        const NoteTarget target = inFatigue(detail, place, project, results);
+        const auto& governing = results.Fatigue.FatResult(detail);
+        return target.row >= 0 || !governing ? target : inSummary(*governing, project, results);
+    }
+    NoteTarget target{"SummaryAll", -1};
+    visitCheck(what, note.rule->check, results.Checks, [&](const auto& spans, const auto& governing) {
+        target = span > 0 && spans.has(span) ? inStatic(spans(span), span, project, results)
+                                             : inSummary(governing, project, results);
+    });
+    return target;
 }
 
 }  // namespace borvik

@@ -9,8 +9,14 @@ namespace borvik {
 /// closing row of the assumptions.
 [[nodiscard]] ResultTable TableNotes(const Notes& notes);
 
-/// Where a note leads: the row of the table ShowSummaryAll, from 0, with the check that it speaks of; -1 where it
-/// speaks of none of them.
-[[nodiscard]] int SummaryRowOf(const Note& note, const Project& project, const Results& results);
+/// A row of a table, from 0; -1 where no row of it is meant.
+struct NoteTarget {
+    const char* table;  ///< by its name, for findTable
+    int row;
+};
+
+/// Where a note leads: to the row of the span, support or splice that its first number names, among all rows of the
+/// checks; without a place to the governing row of its check in the table ShowSummaryAll.
+[[nodiscard]] NoteTarget TargetOf(const Note& note, const Project& project, const Results& results);
 
 }  // namespace borvik

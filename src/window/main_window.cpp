@@ -172,7 +172,10 @@ void MainWindow::buildStatusBar() {
     stateNotes_->setObjectName("stateNotes");
     stateNotes_->setAutoRaise(true);
     stateNotes_->setToolTip(tr("What the checks assume or leave out, where it matters in this project"));
-    connect(stateNotes_, &QToolButton::clicked, this, &MainWindow::showNotes);
+    connect(stateNotes_, &QToolButton::clicked, this, [this] {
+        showNotes();
+        results_->list()->setFocus();
+    });
     // Temporary messages cover it and give it free again, so that it can't vanish unread.
     stateRemark_ = new QLabel;
     stateRemark_->setObjectName("stateRemark");

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QStatusBar>
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "base/number_text.h"
@@ -239,13 +240,15 @@ void MainWindow::showNotes() {
     results_->showTable(tr("Notes for the checking engineer"), TableNotes(calculation_->notes));
 }
 
-/// From a note to the check that it speaks of, in the summary of all checks.
+/// From a note to the row that it names, in the summary of all checks or in one of the tables of the detailed results.
 void MainWindow::goToCheckOf(int note) {
     const auto& notes = calculation_->notes.notes;
     if (!shownNotes_ || !session_.Calculated || note < 0 || static_cast<std::size_t>(note) >= notes.size()) return;
-    const int row = SummaryRowOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
-    tree_->setCurrentItem(tree_->itemOf("ULS + SLS + FLS"));
-    showTable("SummaryAll");
+    const auto [table, row] =
+        TargetOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
+    const bool ofSummary = std::string_view(table) == "SummaryAll";
+    tree_->setCurrentItem(tree_->itemOf(ofSummary ? "ULS + SLS + FLS" : "Detailed Results"));
+    showTable(table);
     if (row >= 0) results_->list()->selectRow(row);
 }
 

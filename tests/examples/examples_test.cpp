@@ -6,8 +6,10 @@
 #include <filesystem>
 #include <set>
 
+#include "base/number_text.h"
 #include "calculation/calculation.h"
 #include "project/project_file.h"
+#include "results/notes_table.h"
 #include "results/ratios.h"
 
 namespace borvik {
@@ -55,6 +57,22 @@ TEST_P(Examples, calculateAsSavedAndHold) {
     EXPECT_GE(verdictOf(*example.session.results).largest, 0.49);
     // They were saved after a run, so another run changes nothing in them: no splice is dropped, no section moves.
     EXPECT_TRUE(example.session.project == example.loaded);
+}
+
+TEST_P(Examples, notesLeadToTheNumberThatTheyName) {
+    const CalculatedExample example(GetParam());
+    const Results& results = *example.session.results;
+    for (const Note& note : ProjectNotes(example.session, 0.0).notes) {
+        if (note.finding.changes.empty()) continue;
+        const NoteChange& change = note.finding.changes.front();
+        const NoteTarget target = TargetOf(note, example.session.project, results);
+        ASSERT_GE(target.row, 0) << change.what;
+        const auto row = findTable(target.table)->fill(example.session.project, results).rows.at(target.row);
+        const std::string number = formatNumber(change.shown, change.mask);
+        EXPECT_TRUE(std::any_of(row.begin(), row.end(), [&](const auto& cell) { return cell.text == number; }))
+            << note.rule->key << ", " << change.what << ": " << number << " is not in row " << target.row << " of "
+            << target.table;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Examples, testing::ValuesIn(exampleFiles()), [](const auto& test) {
