@@ -1,6 +1,8 @@
 #include "notes_chapter.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <string_view>
 
 #include "notes/notes.h"
 
@@ -34,12 +36,32 @@ constexpr Chapter kChapters[] = {{'A', "Loads and walk"},
                                  {'I', "What is not checked"},
                                  {'J', "Values of the input"}};
 
-/// The text with what Markdown would read as its own signs escaped.
-std::string escaped(const std::string& text) {
+/// Formulas that notes write on a line, and how the manual sets them.
+struct LineFormula {
+    std::string_view line, set;
+};
+constexpr LineFormula kFormulas[] = {
+    {"rho hw^2 tw/4", "$\\rho h_w^2 t_w/4$"},
+    {"C1 = 1.77 - 1.04 psi + 0.27 psi^2", "$C_1 = 1.77 - 1.04 \\psi + 0.27 \\psi^2$"},
+    {"C1 = 2.60", "$C_1 = 2.60$"},
+    {"tw/(2a)", "$t_w/(2a)$"},
+    {"(25/t)^0.2", "$(25/t)^{0.2}$"},
+};
+
+/// The text with its formulas set, and with what Markdown would read as its own signs escaped.
+std::string typeset(std::string_view text) {
     std::string safe;
-    for (const char letter : text) {
-        if (std::string("*_<^").find(letter) != std::string::npos) safe += '\\';
-        safe += letter;
+    while (!text.empty()) {
+        const auto* formula = std::find_if(std::begin(kFormulas), std::end(kFormulas),
+                                           [&](const LineFormula& each) { return text.starts_with(each.line); });
+        if (formula != std::end(kFormulas)) {
+            safe += formula->set;
+            text.remove_prefix(formula->line.size());
+            continue;
+        }
+        if (std::string_view("*_<^").find(text[0]) != std::string_view::npos) safe += '\\';
+        safe += text[0];
+        text.remove_prefix(1);
     }
     return safe;
 }
@@ -47,8 +69,8 @@ std::string escaped(const std::string& text) {
 /// "- **D1**, unsafe. The patch load check ... *With both.* EN 1993-6 6.5"
 std::string entryOf(const NoteRule& rule) {
     std::string text = std::string("- **") + rule.key + "**, " + nameOf(rule.effect) +
-                       (rule.assumption ? ", assumption" : "") + ". " + escaped(rule.says);
-    if (*rule.with != '\0') text += " *" + escaped(capitalised(rule.with)) + ".*";
+                       (rule.assumption ? ", assumption" : "") + ". " + typeset(rule.says);
+    if (*rule.with != '\0') text += " *" + typeset(capitalised(rule.with)) + ".*";
     if (*rule.clause != '\0') text += std::string(" ") + rule.clause;
     return text + "\n";
 }
