@@ -10,7 +10,7 @@
 #include "base/number_text.h"
 #include "project/project_file.h"
 #include "results/spreadsheet.h"
-#include "samples.h"
+#include "support/samples.h"
 #include "support/temp_folder.h"
 
 namespace borvik {

@@ -4,14 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 
 #include "notes/notes.h"
 #include "project/input_ranges.h"
 #include "recording_printer.h"
 #include "results/json.h"
 #include "results/tables.h"
-#include "samples.h"
+#include "support/samples.h"
 
 namespace borvik {
 namespace {
@@ -20,12 +19,6 @@ using namespace testing_support;
 
 constexpr Extent kA4{200.0, 287.0};  // printable, mm
 constexpr Extent kLetter{206.0, 269.0};
-
-const Session& sessionOf(Sample sample) {
-    static std::map<Sample, Session> sessions;
-    const auto found = sessions.find(sample);
-    return found != sessions.end() ? found->second : sessions.emplace(sample, calculated(sample)).first->second;
-}
 
 RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, bool withNotes = false) {
     RecordingPrinter printer(paper.width, paper.height);
@@ -66,11 +59,11 @@ std::vector<std::string> chapters(Sample sample, ReportScope scope) {
     return texts;
 }
 
-constexpr Sample kSamples[] = {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail, Sample::ThirtySpans};
+constexpr Sample kPlain[] = {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail, Sample::ThirtySpans};
 constexpr ReportScope kScopes[] = {ReportScope::Uls, ReportScope::UlsSls, ReportScope::All, ReportScope::Compressed};
 
 TEST(Report, chaptersOfEveryScopeStandInOrder) {
-    for (const Sample sample : kSamples)
+    for (const Sample sample : kPlain)
         for (const ReportScope scope : kScopes)
             EXPECT_EQ(firstMissing(printed(sample, scope).text(), chapters(sample, scope)), "")
                 << "sample " << int(sample) << " scope " << int(scope);
@@ -106,7 +99,7 @@ std::string withoutBlanks(const std::string& text) {
 }
 
 TEST(Report, everyRowOfTheChecksIsPrinted) {
-    for (const Sample sample : kSamples) {
+    for (const Sample sample : kPlain) {
         const Session& session = sessionOf(sample);
         // Lines are broken to fit their column, so the blanks between the pieces don't count.
         const std::string document = withoutBlanks(printed(sample, ReportScope::All).text());
@@ -177,7 +170,7 @@ TEST(Report, tablesGoOnWithTheirHeadOnANewPage) {
 TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
     constexpr double kTolerance = 0.5;  // pixels
     for (const Extent paper : {kA4, kLetter})
-        for (const Sample sample : kSamples)
+        for (const Sample sample : kPlain)
             for (const ReportScope scope : kScopes) {
                 const RecordingPrinter printer = printed(sample, scope, paper, true);
                 for (const auto& page : printer.pages) {

@@ -3,11 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <filesystem>
-
-#include "base/number_text.h"
-#include "calculation/calculation.h"
-#include "project/project_file.h"
 
 namespace borvik {
 namespace {
@@ -32,45 +27,6 @@ TEST(RatioVerdict, looksBehindTheShownRows) {
         EXPECT_EQ(verdictOf(results).largest, 12.0);
         EXPECT_NE(verdictOf(results).remark(), "");
     }
-}
-
-template <int Rows>
-void expectNumberBehind(const RowSet<Rows>& rows, const std::string& where) {
-    if (rows(3).empty()) return;
-    EXPECT_EQ(rows(3), formatNumber(rows.Ratio, "0.000")) << where << ": " << rows(1) << rows(2);
-}
-
-template <int Rows>
-void expectNumberBehind(const Array<RowSet<Rows>>& items, const std::string& where) {
-    for (const auto& item : items) expectNumberBehind(item, where);
-}
-
-/// Marks in tables and the exit code of the command line rest on the numbers, so each must stand behind its text.
-TEST(Ratios, everyShownRatioHasItsNumber) {
-    for (const char* folder : {"/examples", "/tests/data/vectors"})
-        for (const auto& entry : std::filesystem::directory_iterator(std::string(BORVIK_SOURCE_DIR) + folder)) {
-            if (entry.path().extension() != ".brvk") continue;
-            const std::string where = entry.path().stem().string();
-            Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
-            LoadProject(entry.path().string(), session.project);
-            FollowProject(session.tables, session.project, session.context);
-            MessageList messages;
-            Progress progress;
-            if (!Calculate(session, messages, progress)) continue;
-            const CheckResults& c = session.results->Checks;
-            for (const auto* rows : {&c.ShearMax, &c.ShearMin, &c.ShearSpan, &c.BendMax, &c.BendMin, &c.BendSpan,
-                                     &c.LtbPos, &c.LtbNeg, &c.LtbSpan})
-                expectNumberBehind(*rows, where);
-            for (const auto* rows : {&c.ShearGov, &c.BendGov, &c.LtbGov}) expectNumberBehind(*rows, where);
-            for (const auto* rows : {&c.LocalSpan, &c.VonMisesSpan}) expectNumberBehind(*rows, where);
-            for (const auto* rows : {&c.LocalGov, &c.VonMisesGov}) expectNumberBehind(*rows, where);
-            for (const auto* rows : {&c.DefZSpan, &c.DefYSpan}) expectNumberBehind(*rows, where);
-            for (const auto* rows : {&c.DefZGov, &c.DefYGov}) expectNumberBehind(*rows, where);
-            for (int detail = 1; detail <= 6; ++detail) {
-                if (const auto& rows = session.results->Fatigue.FatRows(detail)) expectNumberBehind(*rows, where);
-                if (const auto& row = session.results->Fatigue.FatResult(detail)) expectNumberBehind(*row, where);
-            }
-        }
 }
 
 }  // namespace

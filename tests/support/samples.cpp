@@ -1,6 +1,8 @@
-#include "samples.h"
+#include "support/samples.h"
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 #include "project/project_file.h"
 #include "section/section.h"
@@ -92,7 +94,18 @@ Session calculated(Sample sample) {
             setSplices(p, 4);
             break;
         case Sample::Overloaded:
-            p.V(1) = p.V(2) = 900.0;
+            p.Span(1) = 6000;
+            p.Span(2) = p.Span(3) = 0;
+            p.SpanSection(2) = p.SpanSection(3) = SectionRecord{};
+            p.V(1) = p.V(2) = 1400.0;
+            p.H(1) = p.H(2) = 0.0;
+            p.Fat5 = false;
+            break;
+        case Sample::Together:
+            setTwoCranes(p);
+            p.TwoCraneMode = 2;
+            p.MinDistConst = 1.0;
+            p.Fat6 = false;
             break;
     }
     session.context.FileName = session.context.FileTitle = "/projects/Hall ÅMÅL.brvk";
@@ -101,6 +114,19 @@ Session calculated(Sample sample) {
     EXPECT_TRUE(Calculate(session, messages, progress))
         << (messages.texts.empty() ? session.Fault : messages.texts.front());
     return session;
+}
+
+const Session& sessionOf(Sample sample) {
+    static std::map<Sample, Session> sessions;
+    const auto found = sessions.find(sample);
+    return found != sessions.end() ? found->second : sessions.emplace(sample, calculated(sample)).first->second;
+}
+
+std::string nameOf(Sample sample) {
+    static const std::map<Sample, std::string> names{
+        {Sample::OneCrane, "one-crane"},       {Sample::TwoCranes, "two-cranes"},  {Sample::Monorail, "monorail"},
+        {Sample::ThirtySpans, "thirty-spans"}, {Sample::Overloaded, "overloaded"}, {Sample::Together, "together"}};
+    return names.at(sample);
 }
 
 Session calculatedAndSaved(Sample sample, const std::string& file) {
