@@ -11,7 +11,8 @@ namespace {
 
 /// The number of a span and the value there, where some span passes the limit: "250.3 in span 2".
 template <class Value>
-std::optional<NoteFinding> beyond(const Session& session, const char* what, double limit, Value value) {
+std::optional<NoteFinding> beyond(const Session& session, const char* what, double limit, Value value,
+                                  const char* unit = "") {
     double worst = limit;
     int at = 0;
     for (int span = 1; span <= session.project.NofSpans; ++span) {
@@ -22,7 +23,8 @@ std::optional<NoteFinding> beyond(const Session& session, const char* what, doub
         }
     }
     if (at == 0) return std::nullopt;
-    return matters(true, std::string(what) + " " + formatNumber(worst, "0.0") + " in span " + std::to_string(at));
+    return matters(true,
+                   std::string(what) + " " + formatNumber(worst, "0.0") + unit + " in span " + std::to_string(at));
 }
 
 /// sigma_x, sigma_oz and tau at the web's top where My is largest, as part of the yield strength; spoken of from 0.8
@@ -71,9 +73,10 @@ std::optional<NoteFinding> flangeInducedBuckling(const Session& session) {
 }
 
 std::optional<NoteFinding> thickProduct(const Session& session) {
-    return beyond(session, "thickness in mm", 30, [](int, const SectionRecord& section) {
+    const auto thickest = [](int, const SectionRecord& section) {
         return std::max({double(section.tf1), double(section.tf2), double(section.tw)});
-    });
+    };
+    return beyond(session, "a thickness of", 30, thickest, " mm");
 }
 
 constexpr NoteRule kRules[]{

@@ -58,12 +58,6 @@ const NoteCase kCases[]{
      },
      {}},
     {"I6", {}, [](Session& session) { session.project.CraneType = 2; }},
-    {"I8",
-     [](Session& session) {
-         spanOf(session, 6000);
-         weldedSection(session, "Is", 600, 300, 300, 12, 40);
-     },
-     {}},
     {"J1", [](Session& session) { session.project.GammaM0 = 0.1; }, {}},
 };
 
@@ -80,6 +74,15 @@ TEST(InputNotes, NameEachValueThatCountsAndItsRange) {
     });
     EXPECT_EQ(findingOf(session, "J1")->remark,
               "Setup: gammaM0 = 0.1 lies outside 0.5 to 1.5; Loads: Psi1H = 0.9 is not at least 1");
+}
+
+TEST(MissingNotes, NameTheThickestPlate) {
+    const Session session = calculated([](Session& made) {
+        spanOf(made, 6000);
+        weldedSection(made, "Is", 600, 300, 300, 12, 40);
+    });
+    EXPECT_FALSE(findingOf(calculated(), "I8"));
+    EXPECT_EQ(findingOf(session, "I8")->remark, "a thickness of 40.0 mm in span 1");
 }
 
 TEST(RowNotes, EveryCheckWithoutASoundRatioIsNamed) {
