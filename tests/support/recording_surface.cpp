@@ -1,14 +1,38 @@
 #include "support/recording_surface.h"
 
 #include <algorithm>
+#include <cmath>
 #include <sstream>
+#include <utility>
 
 namespace borvik {
 namespace {
 
+std::string general(double number) {
+    std::ostringstream out;
+    out << number;
+    return out.str();
+}
+
+double tenths(double number) {
+    return std::floor(10.0 * number + 0.5) / 10.0;
+}
+
 std::string shown(Place place) {
     std::ostringstream out;
-    out << '(' << place.x << ' ' << place.y << ')';
+    out << '(' << tenths(place.x) << ' ' << tenths(place.y) << ')';
+    return out.str();
+}
+
+std::string shown(std::span<const Place> places) {
+    std::string all;
+    for (const Place place : places) all += shown(place);
+    return all;
+}
+
+std::string shown(Colour colour) {
+    std::ostringstream out;
+    out << int(colour.red) << ' ' << int(colour.green) << ' ' << int(colour.blue);
     return out.str();
 }
 
@@ -33,33 +57,66 @@ void RecordingSurface::scale(double newLeft, double newTop, double newRight, dou
 
 void RecordingSurface::line(Place from, Place to) {
     lines.push_back({from, to, colour_, penWidth_});
-    log_ += "line " + shown(from) + " " + shown(to) + "\n";
+    draw("line " + shown(from) + " " + shown(to));
 }
 
 void RecordingSurface::polyline(std::span<const Place> places) {
-    for (std::size_t i = 1; i < places.size(); ++i) line(places[i - 1], places[i]);
+    for (std::size_t i = 1; i < places.size(); ++i) lines.push_back({places[i - 1], places[i], colour_, penWidth_});
+    draw("polyline " + shown(places));
 }
 
-void RecordingSurface::polygon(std::span<const Place> places, Colour) {
+void RecordingSurface::polygon(std::span<const Place> places, Colour fill) {
     polygons.emplace_back(places.begin(), places.end());
-    log_ += "polygon of " + std::to_string(places.size()) + "\n";
+    draw("polygon " + shown(fill) + ": " + shown(places));
 }
 
 void RecordingSurface::rectangle(Place corner, Place opposite) {
     rectangles.emplace_back(corner, opposite);
-    log_ += "rectangle " + shown(corner) + " " + shown(opposite) + "\n";
+    draw("rectangle " + shown(corner) + " " + shown(opposite));
 }
 
 void RecordingSurface::circle(Place centre, double radius) {
     circles.push_back({centre, radius});
-    log_ += "circle " + shown(centre) + "\n";
+    draw("circle " + shown(centre) + " " + general(radius));
 }
 
 void RecordingSurface::text(Place corner, std::string_view text, TextDirection direction) {
     const Extent box = extent(text, direction);
     texts.push_back(
         {std::string(text), corner.x, corner.y, corner.x + box.width, corner.y + box.height, font_, colour_});
-    log_ += "text " + shown(corner) + " " + std::string(text) + "\n";
+    draw(std::string(direction == TextDirection::Up ? "upwards " : "text ") + shown(corner) + " " + std::string(text));
+}
+
+void RecordingSurface::draw(const std::string& primitive) {
+    const bool written = primitive.starts_with("text") || primitive.starts_with("upwards");
+    for (const auto& [kind, state] : states_)
+        if (kind == "colour" || (kind == "font") == written)
+            if (std::exchange(logged_[kind], state) != state) log_ += kind + " " + state + "\n";
+    log_ += primitive + "\n";
+}
+
+void RecordingSurface::setFont(const Font& font) {
+    font_ = font;
+    states_["font"] = std::string(font.name) + " " + general(font.points) + (font.bold ? " bold" : "") +
+                      (font.underline ? " underlined" : "");
+}
+
+void RecordingSurface::setColour(Colour colour) {
+    colour_ = colour;
+    states_["colour"] = shown(colour);
+}
+
+void RecordingSurface::setFill(std::optional<Colour> fill) {
+    states_["fill"] = fill ? shown(*fill) : "none";
+}
+
+void RecordingSurface::setPenWidth(double penWidth) {
+    penWidth_ = penWidth;
+    states_["pen"] = general(penWidth);
+}
+
+void RecordingSurface::setDashed(bool dashed) {
+    states_["dashed"] = dashed ? "yes" : "no";
 }
 
 Extent RecordingSurface::extent(std::string_view text, TextDirection direction) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,8 @@ public:
     std::vector<Circle> circles;
     double left = 0.0, top = 0.0, right = 1.0, bottom = 1.0;  ///< the logical frame
 
-    /// Everything drawn, one primitive a line, in the order of drawing.
+    /// Everything drawn, one primitive a line, in the order of drawing, with pens and fonts where they change. Places
+    /// are rounded to a tenth.
     [[nodiscard]] std::string log() const { return log_; }
     /// True when some text is exactly `text`.
     [[nodiscard]] bool hasText(std::string_view text) const;
@@ -50,18 +52,22 @@ public:
     void circle(Place centre, double radius) override;
     void text(Place corner, std::string_view text, TextDirection direction) override;
     [[nodiscard]] Extent extent(std::string_view text, TextDirection direction) const override;
-    void setFont(const Font& font) override { font_ = font; }
-    void setColour(Colour colour) override { colour_ = colour; }
-    void setFill(std::optional<Colour>) override {}
-    void setPenWidth(double penWidth) override { penWidth_ = penWidth; }
-    void setDashed(bool) override {}
+    void setFont(const Font& font) override;
+    void setColour(Colour colour) override;
+    void setFill(std::optional<Colour> fill) override;
+    void setPenWidth(double penWidth) override;
+    void setDashed(bool dashed) override;
     [[nodiscard]] double unitsPerMillimetre() const override { return 96.0 / 25.4; }
 
 private:
+    /// Logs a primitive, and before it the pen, fill or font that it is drawn with where that was logged otherwise.
+    void draw(const std::string& primitive);
+
     double width_, height_;
     Font font_;
     Colour colour_;
     double penWidth_ = 1.0;
+    std::map<std::string, std::string> states_, logged_;
     std::string log_;
 };
 

@@ -99,6 +99,7 @@ Session calculated(Sample sample) {
             p.SpanSection(2) = p.SpanSection(3) = SectionRecord{};
             p.V(1) = p.V(2) = 1400.0;
             p.H(1) = p.H(2) = 0.0;
+            p.HasLoadsY = false;
             p.Fat5 = false;
             break;
         case Sample::Together:
