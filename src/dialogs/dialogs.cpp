@@ -3,13 +3,13 @@
 #include "dialogs/beam_dialog.h"
 #include "dialogs/fatigue1_dialog.h"
 #include "dialogs/fatigue2_dialog.h"
+#include "dialogs/lateral_buckling_dialog.h"
 #include "dialogs/load_dialog.h"
 #include "dialogs/load_runway_dialog.h"
 #include "dialogs/prof_reinf_dialog.h"
 #include "dialogs/profile_dialog.h"
 #include "dialogs/rail_dialog.h"
 #include "dialogs/setup_dialog.h"
-#include "dialogs/vipping_dialog.h"
 
 namespace borvik {
 
@@ -40,7 +40,7 @@ std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messa
             case DialogKind::Rail:
                 return make<RailDialog>;
             case DialogKind::Lateral:
-                return make<VippingDialog>;
+                return make<LateralBucklingDialog>;
             case DialogKind::Fatigue1:
                 return make<Fatigue1Dialog>;
             case DialogKind::Fatigue2:

@@ -13,7 +13,7 @@
 
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
-#include "views/frm_detailed_result.h"
+#include "views/detailed_result_dialog.h"
 #include "views/icons.h"
 #include "window/help.h"
 
@@ -96,7 +96,7 @@ QWidget* MainWindow::inputColumn() {
     connect(command1, &QPushButton::clicked, this, [this] { openForm("Beam"); });
     connect(command2, &QPushButton::clicked, this, [this] { openForm("Loads"); });
     connect(command3, &QPushButton::clicked, this,
-            [this] { FrmTemp(session_.Calculated ? calculation_ : nullptr, this).exec(); });
+            [this] { CranePositionsDialog(session_.Calculated ? calculation_ : nullptr, this).exec(); });
     connect(cmdCalc_, &QPushButton::clicked, this, &MainWindow::calculate);
 
     tree_ = new ResultTreeView("TreeView1");

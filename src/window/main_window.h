@@ -20,7 +20,7 @@
 #include "views/printing.h"
 #include "views/result_table_view.h"
 #include "views/result_tree_view.h"
-#include "window/frm_progress.h"
+#include "window/progress_dialog.h"
 #include "window/project_panel.h"
 #include "window/recent_files.h"
 #include "window/recovery_copies.h"
@@ -154,7 +154,7 @@ private:
     std::string loadFaultTold_;          ///< so that it is told once
     bool shownNotes_ = false;            ///< the table shown is that of the notes
     bool running_ = false;
-    std::unique_ptr<FrmProgress> progress_;
+    std::unique_ptr<ProgressDialog> progress_;
 
     ProjectPanel* panel_ = nullptr;
     ResultTreeView* tree_ = nullptr;

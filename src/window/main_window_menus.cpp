@@ -7,7 +7,7 @@
 #include "boxes/undo_keys.h"
 #include "views/icons.h"
 #include "views/printing.h"
-#include "window/frm_about.h"
+#include "window/about_dialog.h"
 #include "window/help.h"
 #include "window/main_window.h"
 
@@ -179,7 +179,7 @@ void MainWindow::buildMenus() {
           {"mnuTheory", "Theory Manual", {}, {}, [this] { showHelp(HelpPage::Theory, services_.messages); }},
           {"mnuHjalpLinje1"},
           {"mnuAbout", "&About Borvik", {}, themeIcon("help-about", QStyle::SP_MessageBoxInformation), [this] {
-               FrmAbout(this).exec();
+               AboutDialog(this).exec();
            }}});
 }
 

@@ -10,7 +10,7 @@
 #include "results/notes_table.h"
 #include "results/ratios.h"
 #include "results/tables.h"
-#include "views/frm_detailed_result.h"
+#include "views/detailed_result_dialog.h"
 #include "views/icons.h"
 #include "views/printing.h"
 #include "window/main_window.h"
@@ -136,8 +136,8 @@ void MainWindow::calculate() {
     Progress silent;
     progress_.reset();
     if (twoCranes) {
-        progress_ = std::make_unique<FrmProgress>(this);
-        connect(progress_.get(), &FrmProgress::closedByUser, this, [this] {
+        progress_ = std::make_unique<ProgressDialog>(this);
+        connect(progress_.get(), &ProgressDialog::closedByUser, this, [this] {
             activateWindow();
             findChild<QWidget*>("iproj")->setFocus();
         });
@@ -218,7 +218,7 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
             showNotes();
             break;
         case NodeOpens::DetailedResults:
-            FrmDetailedResult(calculation_, this).exec();
+            DetailedResultDialog(calculation_, this).exec();
             break;
         case NodeOpens::InputForm:
         case NodeOpens::Nothing:

@@ -19,9 +19,9 @@
 #include "help/formula_text.h"
 #include "help/help_window.h"
 #include "platform/messages.h"
-#include "views/frm_detailed_result.h"
+#include "views/detailed_result_dialog.h"
 #include "views/result_tree_view.h"
-#include "window/frm_about.h"
+#include "window/about_dialog.h"
 
 namespace borvik {
 namespace {
@@ -169,9 +169,9 @@ TEST_F(HelpInTheProgram, f1InEachInputFormOpensItsOwnPage) {
             kind, session, messages, [] {}, nullptr);
         expectOwnPage(*form, page);
     }
-    FrmTemp steps(nullptr, nullptr);
+    CranePositionsDialog steps(nullptr, nullptr);
     expectOwnPage(steps, "crane-positions.md");
-    FrmAbout about(nullptr);
+    AboutDialog about(nullptr);
     expectOwnPage(about, "index.md");
 }
 

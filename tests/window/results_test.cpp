@@ -14,7 +14,7 @@
 
 #include "base/number_text.h"
 #include "support/recording_surface.h"
-#include "views/frm_detailed_result.h"
+#include "views/detailed_result_dialog.h"
 #include "window_support.h"
 
 namespace borvik {
@@ -131,7 +131,7 @@ TEST_F(ResultsTest, withoutHorizontalLoadsTreeAndPictureStayWithTheVerticalOnes)
 
 TEST_F(ResultsTest, detailedResultsShowEveryTableAndOpenWideEnough) {
     const auto open = [this](std::initializer_list<std::pair<const char*, std::size_t>> nodes) {
-        FrmDetailedResult detailed(window.calculation(), &window);
+        DetailedResultDialog detailed(window.calculation(), &window);
         detailed.show();
         auto* tree = detailed.findChild<ResultTreeView*>("TreeView1");
         auto* shown = detailed.findChild<ResultTableView*>("lstViewDetailed");
@@ -167,7 +167,7 @@ TEST_F(ResultsTest, detailedResultsShowEveryTableAndOpenWideEnough) {
 TEST_F(ResultsTest, twoCranesShowTheirProgress) {
     openExample("assembly-hall-two-cranes.brvk");
     calculate();
-    auto* progress = window.findChild<FrmProgress*>("frmProgress");
+    auto* progress = window.findChild<ProgressDialog*>("frmProgress");
     ASSERT_NE(progress, nullptr);
     EXPECT_TRUE(progress->isVisible());
     EXPECT_FALSE(progress->isModal());
@@ -323,12 +323,12 @@ TEST_F(ResultsTest, theKeyboardWalksOverResultsAndOpensNoWindow) {
 TEST_F(ResultsTest, stepsAndAboutOpen) {
     EXPECT_EQ(nameOfModal([this] { click("Command3"); }), "frmTemp");
     EXPECT_EQ(nameOfModal([this] { trigger("mnuAbout"); }), "frmabout");
-    FrmTemp before(nullptr, nullptr);
+    CranePositionsDialog before(nullptr, nullptr);
     auto* list = before.findChild<ResultTableView*>("lstViewTemp");
     EXPECT_EQ(list->table().columns.size(), 9U);
     EXPECT_TRUE(list->table().rows.empty());
     calculate();
-    FrmTemp after(window.calculation(), nullptr);
+    CranePositionsDialog after(window.calculation(), nullptr);
     EXPECT_FALSE(after.findChild<ResultTableView*>("lstViewTemp")->table().rows.empty());
 }
 

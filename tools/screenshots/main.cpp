@@ -12,8 +12,8 @@
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
 #include "tutorial.h"
-#include "views/frm_detailed_result.h"
-#include "window/frm_about.h"
+#include "views/detailed_result_dialog.h"
+#include "window/about_dialog.h"
 #include "window/main_window.h"
 
 /// Takes the pictures of the windows for the documents, from a project calculated in the real main window, and those of
@@ -127,7 +127,7 @@ int main(int argc, char** argv) {
     choose(window, "Notes");
     camera.take(window, "notes");
 
-    FrmDetailedResult detailed(window.calculation(), &window);
+    DetailedResultDialog detailed(window.calculation(), &window);
     detailed.show();
     choose(detailed, "Static");
     camera.take(detailed, "detailed-results");
@@ -135,10 +135,10 @@ int main(int argc, char** argv) {
     help.showPage("rail.md");
     help.show();
     camera.take(help, "help");
-    FrmTemp steps(window.calculation(), &window);
+    CranePositionsDialog steps(window.calculation(), &window);
     steps.show();
     camera.take(steps, "steps");
-    FrmAbout about(&window);
+    AboutDialog about(&window);
     about.show();
     camera.take(about, "about");
 

@@ -1,4 +1,4 @@
-#include "dialogs/vipping_dialog.h"
+#include "dialogs/lateral_buckling_dialog.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -10,7 +10,8 @@
 
 namespace borvik {
 
-VippingDialog::VippingDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
+LateralBucklingDialog::LateralBucklingDialog(Session& session, Messages& messages, std::function<void()> changed,
+                                             QWidget* parent)
     : InputDialog("frmvipping", tr("Lateral Torsional Buckling"), session, messages, std::move(changed), parent,
                   "Input string mismatch") {
     auto* content = new QGridLayout;
@@ -22,18 +23,18 @@ VippingDialog::VippingDialog(Session& session, Messages& messages, std::function
     showInput();
 }
 
-void VippingDialog::showInput() {
+void LateralBucklingDialog::showInput() {
     curves_[0]->setChecked(project_.LtbCurve == 2);
     curves_[1]->setChecked(project_.LtbCurve == 3);
     chkDefaultCfactor_->setChecked(project_.DefaultCfactor);
     useDefaultFactors(project_.DefaultCfactor);
 }
 
-void VippingDialog::settle(Project& project) const {
+void LateralBucklingDialog::settle(Project& project) const {
     if (project.DefaultCfactor) DefaultCFactors(project);
 }
 
-Group VippingDialog::method() {
+Group LateralBucklingDialog::method() {
     const Group group = makeGroup("frCurve", tr("Reduction factor"));
     const struct {
         const char* name;
@@ -53,7 +54,7 @@ Group VippingDialog::method() {
     return group;
 }
 
-Group VippingDialog::factors() {
+Group LateralBucklingDialog::factors() {
     const Group group = makeGroup("frFactors", tr("Factors of the critical moment"));
     chkDefaultCfactor_ =
         makeChoice<QCheckBox>("chkDefaultCfactor", tr("&Default C factors"),
@@ -98,7 +99,7 @@ Group VippingDialog::factors() {
     return group;
 }
 
-NumberBox* VippingDialog::factor(const char* name, Single& field, int order) {
+NumberBox* LateralBucklingDialog::factor(const char* name, Single& field, int order) {
     const char* messages[] = {"C1 >= 1.0", "C2 >= 0.3", "C3 >= 0.3"};
     const QString meanings[] = {tr("C1, shape of the moment diagram, in Mcr = C1 π²EIz/L² (…)"),
                                 tr("C2, height of the point of load application zg"),
@@ -112,7 +113,7 @@ NumberBox* VippingDialog::factor(const char* name, Single& field, int order) {
     return box;
 }
 
-void VippingDialog::useDefaultFactors(bool use) {
+void LateralBucklingDialog::useDefaultFactors(bool use) {
     project_.DefaultCfactor = use;
     if (use) DefaultCFactors(project_);
     binder_.show();

@@ -1,4 +1,4 @@
-#include "views/frm_detailed_result.h"
+#include "views/detailed_result_dialog.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -27,7 +27,7 @@ QSize generousSize(const QWidget* parent) {
 
 }  // namespace
 
-FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent)
+DetailedResultDialog::DetailedResultDialog(CalculationPtr calculation, QWidget* parent)
     : QDialog(parent), calculation_(std::move(calculation)) {
     setObjectName("frmDetailedResult");
     setWindowTitle("Detailed Results");
@@ -54,7 +54,7 @@ FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(splitter, 1);
     layout->addLayout(buttons);
-    connect(tree_, &ResultTreeView::nodeChosen, this, &FrmDetailedResult::showNode);
+    connect(tree_, &ResultTreeView::nodeChosen, this, &DetailedResultDialog::showNode);
 
     // Wide enough for the widest table, where the screen is.
     constexpr int kTreeWidth = 220, kMargins = 40;
@@ -67,7 +67,7 @@ FrmDetailedResult::FrmDetailedResult(CalculationPtr calculation, QWidget* parent
     if (const TreeNode* first = findNode(nodes, "MyVz max/min")) showNode(*first);
 }
 
-int FrmDetailedResult::widestTable(const TreeNode& node) const {
+int DetailedResultDialog::widestTable(const TreeNode& node) const {
     int widest = 0;
     if (const TableEntry* entry = findTable(node.name)) {
         pane_->list()->showTable(entry->fill(calculation_->project, calculation_->results));
@@ -77,7 +77,7 @@ int FrmDetailedResult::widestTable(const TreeNode& node) const {
     return widest;
 }
 
-void FrmDetailedResult::showNode(const TreeNode& node) {
+void DetailedResultDialog::showNode(const TreeNode& node) {
     const TableEntry* entry = findTable(node.name);
     if (entry == nullptr) return;
     if (!node.needsLoadsY || calculation_->project.HasLoadsY) shown_ = QString::fromStdString(node.text);
@@ -100,7 +100,7 @@ QString lastWalk(const CalculationRecord& calculation) {
 
 }  // namespace
 
-FrmTemp::FrmTemp(const CalculationPtr& calculation, QWidget* parent) : QDialog(parent) {
+CranePositionsDialog::CranePositionsDialog(const CalculationPtr& calculation, QWidget* parent) : QDialog(parent) {
     setObjectName("frmTemp");
     setWindowTitle("TempResults");
     setWindowFlag(Qt::WindowMaximizeButtonHint);

@@ -8,9 +8,9 @@ class QRadioButton;
 namespace borvik {
 
 /// frmvipping: factors of the critical moment of lateral torsional buckling, and the method of the reduction.
-class VippingDialog : public InputDialog {
+class LateralBucklingDialog : public InputDialog {
 public:
-    VippingDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
+    LateralBucklingDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 
 protected:
     void showInput() override;

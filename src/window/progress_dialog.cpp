@@ -1,4 +1,4 @@
-#include "window/frm_progress.h"
+#include "window/progress_dialog.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>
@@ -10,7 +10,7 @@ namespace {
 constexpr qint64 kRepaintEvery = 33;  // ms: some 30 times a second
 }
 
-FrmProgress::FrmProgress(QWidget* parent) : QDialog(parent) {
+ProgressDialog::ProgressDialog(QWidget* parent) : QDialog(parent) {
     setObjectName("frmProgress");
     setWindowTitle("Calculating...");
     setModal(false);
@@ -37,38 +37,38 @@ FrmProgress::FrmProgress(QWidget* parent) : QDialog(parent) {
     });
 }
 
-void FrmProgress::walkStarts(Walk walk) {
+void ProgressDialog::walkStarts(Walk walk) {
     lines_.walkStarts(walk);
     bar_->setValue(0);
     show();
     repaintNow();
 }
 
-void FrmProgress::position(Walk walk, double percent) {
+void ProgressDialog::position(Walk walk, double percent) {
     lines_.position(walk, percent);
     if (sinceRepaint_.isValid() && sinceRepaint_.elapsed() < kRepaintEvery) return;
     bar_->setValue(static_cast<int>(std::lround(percent)));
     repaintNow();
 }
 
-void FrmProgress::walkEnds(Walk walk) {
+void ProgressDialog::walkEnds(Walk walk) {
     lines_.walkEnds(walk);
     bar_->setValue(100);
     repaintNow();
 }
 
-void FrmProgress::runEnds(double secondsStatic) {
+void ProgressDialog::runEnds(double secondsStatic) {
     lines_.runEnds(secondsStatic);
     cmdOK_->setEnabled(true);
     repaintNow();
     cmdOK_->setFocus();
 }
 
-void FrmProgress::reject() {
+void ProgressDialog::reject() {
     if (cmdOK_->isEnabled()) cmdOK_->click();
 }
 
-void FrmProgress::repaintNow() {
+void ProgressDialog::repaintNow() {
     txt_->setPlainText(QString::fromStdString(lines_.text()));
     sinceRepaint_.restart();
     // Windows are painted, but clicks and keys wait until the run has ended.

@@ -10,11 +10,11 @@
 namespace borvik {
 
 /// frmDetailedResult: every table of a calculation, chosen from a tree of its own.
-class FrmDetailedResult : public QDialog {
+class DetailedResultDialog : public QDialog {
     Q_OBJECT
 
 public:
-    FrmDetailedResult(CalculationPtr calculation, QWidget* parent);
+    DetailedResultDialog(CalculationPtr calculation, QWidget* parent);
 
 private:
     void showNode(const TreeNode& node);
@@ -28,12 +28,12 @@ private:
 };
 
 /// frmTemp: the positions that the cranes took in the last walk.
-class FrmTemp : public QDialog {
+class CranePositionsDialog : public QDialog {
     Q_OBJECT
 
 public:
     /// @param calculation  null before a calculation, or when the input has changed since: the list is then empty
-    FrmTemp(const CalculationPtr& calculation, QWidget* parent);
+    CranePositionsDialog(const CalculationPtr& calculation, QWidget* parent);
 };
 
 }  // namespace borvik

@@ -5,11 +5,11 @@
 namespace borvik {
 
 /// frmabout: title, version, and a link to the standards that the program works to.
-class FrmAbout : public QDialog {
+class AboutDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit FrmAbout(QWidget* parent);
+    explicit AboutDialog(QWidget* parent);
 };
 
 }  // namespace borvik

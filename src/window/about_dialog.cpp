@@ -1,4 +1,4 @@
-#include "window/frm_about.h"
+#include "window/about_dialog.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,7 +12,7 @@
 
 namespace borvik {
 
-FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
+AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
     setObjectName("frmabout");
     setWindowTitle("About Borvik");
     auto* title = new QLabel(kApplicationTitle);

@@ -12,11 +12,11 @@ namespace borvik {
 
 /// frmProgress: the progress of a run with two cranes. It shows itself, without blocking, when the first walk starts,
 /// and stays after the run until the user closes it.
-class FrmProgress : public QDialog, public Progress {
+class ProgressDialog : public QDialog, public Progress {
     Q_OBJECT
 
 public:
-    explicit FrmProgress(QWidget* parent);
+    explicit ProgressDialog(QWidget* parent);
 
     void walkStarts(Walk walk) override;
     void position(Walk walk, double percent) override;
