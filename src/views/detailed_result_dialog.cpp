@@ -41,14 +41,13 @@ DetailedResultDialog::DetailedResultDialog(CalculationPtr calculation, QWidget* 
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
 
-    cmdDetailedResult_ = new QPushButton("Export to Excel");
-    cmdDetailedResult_->setObjectName("cmdDetailedResult");
-    cmdDetailedResult_->setAutoDefault(false);
-    cmdDetailedResult_->setEnabled(false);
-    connect(cmdDetailedResult_, &QPushButton::clicked, this, [this] { exportTable(pane_->list()->table(), this); });
+    auto* exportButton = new QPushButton("Export to Excel");
+    exportButton->setObjectName("cmdDetailedResult");
+    exportButton->setAutoDefault(false);
+    connect(exportButton, &QPushButton::clicked, this, [this] { exportTable(pane_->list()->table(), this); });
 
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdDetailedResult_);
+    buttons->addWidget(exportButton);
     buttons->addStretch();
     buttons->addWidget(closeButton("cmbOk", this));
     auto* layout = new QVBoxLayout(this);
@@ -84,7 +83,6 @@ void DetailedResultDialog::showNode(const TreeNode& node) {
     tree_->setCurrentItem(tree_->itemOf(shown_));
     if (shown_.toStdString() != node.text) return;  // without horizontal loads there is nothing to show
     pane_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
-    cmdDetailedResult_->setEnabled(canExportTable());
 }
 
 namespace {

@@ -24,7 +24,6 @@ private:
     ResultTreeView* tree_;
     ResultTablePane* pane_;
     QString shown_;  ///< the node of the table that is shown
-    QPushButton* cmdDetailedResult_;
 };
 
 /// frmTemp: the positions that the cranes took in the last walk.

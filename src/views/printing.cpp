@@ -130,10 +130,6 @@ bool hasSpreadsheetProgram() {
 
 }  // namespace
 
-bool canPrint() {
-    return true;
-}
-
 std::string printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
@@ -188,10 +184,6 @@ std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const S
     if (failed.isEmpty()) return *file;
     services.messages.show(*file + ": " + failed.toStdString());
     return {};
-}
-
-bool canExportTable() {
-    return true;
 }
 
 void exportTable(const ResultTable& table, QWidget* parent) {

@@ -13,9 +13,6 @@ struct ResultTable;
 /// What a print command prints.
 enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCompressed = 4 };
 
-/// False where this build cannot print: the commands are then disabled.
-[[nodiscard]] bool canPrint();
-
 // Without a calculation of the present input each of these shows "  Calculate before print  " and does no more; a
 // cancelled dialog leaves everything as it was. What comes back is the file that was written; empty where there is
 // none.
@@ -35,8 +32,6 @@ std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const S
 using PrintCommand = std::string (*)(Session& session, int scope, bool withNotes, const Services& services,
                                      QWidget* parent);
 
-/// False where this build has no spreadsheet export: the commands are then disabled.
-[[nodiscard]] bool canExportTable();
 /// Writes the table to a new workbook and opens it in the user's spreadsheet program; saving it is up to the user.
 /// Where no such program is found a box says so and offers to save the file.
 void exportTable(const ResultTable& table, QWidget* parent);

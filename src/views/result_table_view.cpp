@@ -243,7 +243,7 @@ void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {
     copyAll->setEnabled(model_.rowCount() > 0);
     menu.addSeparator();
     QAction* exportAll = menu.addAction(tr("Export to Excel"));
-    exportAll->setEnabled(canExportTable() && model_.columnCount() > 0 && !outOfDate_);
+    exportAll->setEnabled(model_.columnCount() > 0 && !outOfDate_);
     const QAction* chosen = menu.exec(event->globalPos());
     if (chosen == copySelection) copy(selectionText(false));
     if (chosen == copyWithHeaders) copy(selectionText(true));

@@ -78,10 +78,6 @@ void MainWindow::buildPrintEntries(QMenu* menu, const char* const (&names)[4], c
                      {},
                      QIcon::fromTheme("document-print", pictureIcon(Picture::Printer)),
                      [this, scope, command] { print(scope, command); }}});
-        if (!canPrint()) {
-            menu->actions().constLast()->setEnabled(false);
-            menu->actions().constLast()->setStatusTip(tr("This version can't print"));
-        }
     }
 }
 
