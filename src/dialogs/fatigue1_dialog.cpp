@@ -1,38 +1,8 @@
 #include "dialogs/fatigue1_dialog.h"
 
+#include "project/usual_values.h"
+
 namespace borvik {
-
-namespace {
-
-void setCommonDefaults(Project& p) {
-    p.Fat1 = p.Fat2 = p.Fat3 = p.Fat5 = p.Fat6 = true;
-    p.Fat1C1 = 90;
-    p.Fat2C1 = p.Fat5C1 = p.Fat6C1 = 80;
-    p.W3 = "FW";
-    p.W3a = 4;
-}
-
-void setWeldedDefaults(Project& p) {
-    setCommonDefaults(p);
-    p.Fat3C1 = 71;
-    p.Fat3C2 = 80;
-    p.W1 = "FP";
-    p.Fat4 = true;
-    p.Fat4C1 = 80;
-    p.W2 = "FW";
-    p.W2a = 4;
-}
-
-/// A rolled section has no welds between flange and web, so those of the record stay.
-void setRolledDefaults(Project& p) {
-    setCommonDefaults(p);
-    p.Fat3C1 = 160;
-    p.Fat3C2 = 100;
-    p.Fat4 = false;
-    p.Fat4C1 = 100;
-}
-
-}  // namespace
 
 Fatigue1Dialog::Fatigue1Dialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : FatigueDialog("frmFatigue1", tr("Fatigue - Overhead crane"), session, messages, std::move(changed), parent) {
@@ -77,8 +47,10 @@ Fatigue1Dialog::Fatigue1Dialog(Session& session, Messages& messages, std::functi
                      {"W2", p.W2, p.W2a, tr("Bottom flange to web")},
                      {"W3", p.W3, p.W3a, tr("Stiffener at the support")}},
            .support = {"txtFat6d1", p.Fat6d1, "txtWS1t", p.WS1t},
-           .defaults = {{"Command9", tr("Default values -  welded profile"), [&p] { setWeldedDefaults(p); }},
-                        {"Command10", tr("Default values -  rolled profile"), [&p] { setRolledDefaults(p); }}},
+           .defaults = {{"Command9", tr("Default values -  welded profile"),
+                         [&p] { setUsualOverheadDetails(p, SectionMake::Welded); }},
+                        {"Command10", tr("Default values -  rolled profile"),
+                         [&p] { setUsualOverheadDetails(p, SectionMake::Rolled); }}},
            .note = tr("Note 1) FW = Fillet Weld FP = Full penetration Weld")});
 }
 

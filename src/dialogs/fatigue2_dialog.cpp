@@ -1,36 +1,8 @@
 #include "dialogs/fatigue2_dialog.h"
 
+#include "project/usual_values.h"
+
 namespace borvik {
-
-namespace {
-
-void setCommonDefaults(Project& p) {
-    p.FatR1 = p.FatR2 = p.FatR3 = p.FatR5 = true;
-    p.FatR1C1 = 56;
-    p.FatR2C1 = p.FatR3C1 = p.FatR5C1 = 80;
-    p.RW1 = p.RW2 = p.RW4 = "FP";
-}
-
-void setWeldedDefaults(Project& p) {
-    setCommonDefaults(p);
-    p.FatR3C2 = 80;
-    p.FatR4 = p.FatR6 = true;
-    p.FatR4C1 = p.FatR6C1 = p.FatR6C2 = 80;
-    p.RW3 = "FW";
-    p.RW3a = 4;
-}
-
-void setRolledDefaults(Project& p) {
-    setCommonDefaults(p);
-    p.FatR3C2 = 100;
-    p.FatR4 = p.FatR6 = false;
-    p.FatR4C1 = 100;
-    p.RW3 = "FP";
-    p.FatR6C1 = 160;
-    p.FatR6C2 = 100;
-}
-
-}  // namespace
 
 Fatigue2Dialog::Fatigue2Dialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : FatigueDialog("frmFatigue2", tr("Fatigue - Monorail"), session, messages, std::move(changed), parent) {
@@ -74,8 +46,10 @@ Fatigue2Dialog::Fatigue2Dialog(Session& session, Messages& messages, std::functi
                      {"RW3", p.RW3, p.RW3a, tr("Top flange to web")},
                      {"RW4", p.RW4, p.RW4a, tr("Bottom flange to web")}},
            .support = {"txtRWS1d", p.RWS1d, "txtRWS1t", p.RWS1t},
-           .defaults = {{"Command9", tr("Default values -  welded profile"), [&p] { setWeldedDefaults(p); }},
-                        {"Command8", tr("Default values -  rolled profile"), [&p] { setRolledDefaults(p); }}},
+           .defaults = {{"Command9", tr("Default values -  welded profile"),
+                         [&p] { setUsualMonorailDetails(p, SectionMake::Welded); }},
+                        {"Command8", tr("Default values -  rolled profile"),
+                         [&p] { setUsualMonorailDetails(p, SectionMake::Rolled); }}},
            .note = tr("Note 1) FW = Fillet Weld FP = Full Penetration Weld")});
 }
 

@@ -9,6 +9,7 @@
 
 #include "base/number_text.h"
 #include "dialogs/input_dialog.h"
+#include "project/usual_values.h"
 
 namespace borvik {
 
@@ -95,8 +96,13 @@ QWidget* ProjectPanel::craneTypeBox() {
     optOverH_->setObjectName("OptOverH");
     optRunW_ = new QRadioButton("Monorail");
     optRunW_->setObjectName("OptRunW");
-    connect(optOverH_, &QRadioButton::clicked, this, &ProjectPanel::chooseOverhead);
-    connect(optRunW_, &QRadioButton::clicked, this, &ProjectPanel::chooseMonorail);
+    const auto chooses = [this](QRadioButton* option, bool (*choose)(Project&)) {
+        connect(option, &QRadioButton::clicked, this, [this, choose] {
+            if (choose(session_.project)) Q_EMIT inputChanged(tr("Crane type"));
+        });
+    };
+    chooses(optOverH_, chooseOverheadCrane);
+    chooses(optRunW_, chooseMonorail);
     chkStartStop_ = new QCheckBox("Load start and stop outside borvik");
     chkStartStop_->setObjectName("chkStartStop");
     chkStartStop_->setToolTip(tr("The crane comes onto the beam wheel by wheel and leaves it in the same way"));
@@ -199,27 +205,6 @@ void ProjectPanel::chooseMaterial(int row) {
     }
     ifyk_->setEnabled(isGeneral(project));
     Q_EMIT inputChanged(tr("Material"));
-}
-
-void ProjectPanel::chooseOverhead() {
-    Project& project = session_.project;
-    if (project.CraneType == 1) return;
-    project.CraneType = 1;
-    project.LoadLevel = 1;
-    Q_EMIT inputChanged(tr("Crane type"));
-}
-
-void ProjectPanel::chooseMonorail() {
-    Project& project = session_.project;
-    if (project.CraneType == 2) return;
-    project.CraneType = 2;
-    project.LoadLevel = 4;
-    project.NofCranes = 1;
-    project.MinDistConst = 0;
-    project.Avst = {};
-    project.V = {};
-    project.H = {};
-    Q_EMIT inputChanged(tr("Crane type"));
 }
 
 }  // namespace borvik

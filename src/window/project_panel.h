@@ -47,8 +47,6 @@ private:
     void storeName(QLineEdit* from, std::string& to);
     void enterInIdent();
     void chooseMaterial(int row);
-    void chooseOverhead();
-    void chooseMonorail();
 
     Session& session_;
     FormBinder binder_;
