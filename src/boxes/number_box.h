@@ -18,7 +18,7 @@ public:
 
     /// Shows a text that isn't the user's own; `edited` is false afterwards.
     void showText(const QString& text);
-    /// True when the user, or somebody in his place, has changed the text since it was last shown.
+    /// True when the text has been changed, by the user or in a test, since it was last shown.
     [[nodiscard]] bool edited() const;
 
     /// Marks the box as holding a value that it doesn't take: red frame, an exclamation mark, and `why` above the
@@ -41,7 +41,7 @@ Q_SIGNALS:
     void left();
     /// Enter: on to the next box.
     void enterPressed();
-    /// An arrow key, Qt::Key_Left, _Right, _Up or _Down. `taken` is set when somebody moved the focus.
+    /// An arrow key, Qt::Key_Left, _Right, _Up or _Down. `taken` is set by whoever moved the focus.
     void arrowPressed(int key, bool& taken);
 
 protected:

@@ -23,7 +23,7 @@ constexpr int kFormula = QTextFormat::UserObject + 1;
 enum Property {
     kTex = QTextFormat::UserProperty + 1,
     kAlone,      ///< in a paragraph of its own
-    kContinues,  ///< a piece that another stands before
+    kContinues,  ///< a piece of a formula that is not its first
     kDepth,      ///< not the piece, but the room below the baseline for it
 };
 
@@ -42,8 +42,8 @@ bool isPlain(const FormulaPart& part) {
     return std::all_of(part.parts.begin(), part.parts.end(), isPlain);
 }
 
-/// Takes the comma, point or bracket behind the selection into it, as no line may begin with it, which a line could
-/// behind an object.
+/// Extends the selection over a comma, point or bracket that follows it. Such a sign may not begin a line, but the
+/// layout would break the line between an object and the text behind it.
 /// @return TeX of the sign, empty when there is none
 QString takenSign(QTextCursor& at) {
     const QChar next = at.document()->characterAt(at.selectionEnd());
@@ -58,9 +58,9 @@ FormulaObject::FormulaObject(QTextDocument& document) : QObject(&document) {
     document.documentLayout()->registerHandler(kFormula, this);
 }
 
-/// The layout puts objects on the baseline, and one that is aligned in the middle half as high above a quarter of the
-/// x-height and half below it. So what a formula takes below the baseline is kept free by a second object without
-/// width.
+/// The layout has no objects that reach below the baseline: it puts an object on the baseline or, aligned in the
+/// middle, half above and half below a line that lies a quarter of the x-height above the baseline. So the formula
+/// stands on the baseline, and a second object without width, aligned in the middle, keeps the room below it free.
 QSizeF FormulaObject::intrinsicSize(QTextDocument* document, int /*position*/, const QTextFormat& format) {
     const FormulaBox box = boxOf(*document, format);
     const QFont font = format.toCharFormat().font();

@@ -187,7 +187,7 @@ bool Range::holds(Single value) const {
 }
 
 std::string Range::inWords() const {
-    if (empty) return "none, until another value of this form is mended";
+    if (empty) return "none until another value of this form has been corrected";
     const std::string low = generalText(lowest), high = generalText(highest);
     const bool hasLow = std::isfinite(double(lowest)), hasHigh = std::isfinite(double(highest));
     if (!hasLow && !hasHigh) return "any number";
@@ -229,6 +229,11 @@ Range spanLengthRange() {
 int spliceSpan(const Project& project, Single entered) {
     const int spans = std::min<int>(project.NofSpans, kMaxSpans);
     return between(1, spans).holds(entered) ? roundHalfEven(entered) : 0;
+}
+
+int splicesInUse(const Project& project) {
+    return static_cast<int>(std::count(project.ChkFat5Sp.begin(), project.ChkFat5Sp.end(), true) +
+                            std::count(project.ChkFatR5Sp.begin(), project.ChkFatR5Sp.end(), true));
 }
 
 std::vector<InputNumber> inputNumbers(const Project& project) {
