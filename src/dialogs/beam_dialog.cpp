@@ -10,7 +10,6 @@
 #include "base/number_text.h"
 #include "boxes/section_combo.h"
 #include "calculation/calculation.h"
-#include "dialogs/dialogs.h"
 #include "dialogs/span_list.h"
 #include "pictures/beam_picture.h"
 #include "section/section.h"
@@ -202,8 +201,7 @@ void BeamDialog::bringSectionsUpToDate() {
 
 void BeamDialog::openSectionForm() {
     bringSectionsUpToDate();
-    sectionForm_ = makeDialog(
-        DialogKind::Profile, session_, messages_, [this] { inputChanged(); }, this);
+    sectionForm_ = openOver(DialogKind::Profile, [this] { inputChanged(); });
     connect(sectionForm_.get(), &QDialog::finished, this, [this, before = project_.SectionList.size()] {
         const QString chosen = cboProf_->currentText();
         fillSections();
@@ -211,7 +209,6 @@ void BeamDialog::openSectionForm() {
         const int added = project_.SectionList.size() > before ? cboProf_->count() - 1 : cboProf_->named(chosen);
         cboProf_->setCurrentIndex(std::max(added, 0));
     });
-    sectionForm_->open();
 }
 
 }  // namespace borvik

@@ -1,5 +1,7 @@
 #include "dialogs/dialogs.h"
 
+#include <algorithm>
+
 #include "dialogs/beam_dialog.h"
 #include "dialogs/fatigue1_dialog.h"
 #include "dialogs/fatigue2_dialog.h"
@@ -15,44 +17,111 @@ namespace borvik {
 
 namespace {
 
-using Changed = std::function<void()>;
-
 template <class Form>
-std::unique_ptr<InputDialog> make(Session& session, Messages& messages, Changed changed, QWidget* parent) {
+std::unique_ptr<InputDialog> make(Session& session, Messages& messages, std::function<void()> changed,
+                                  QWidget* parent) {
     return std::make_unique<Form>(session, messages, std::move(changed), parent);
 }
 
+constexpr FormKind kForms[] = {
+    {.kind = DialogKind::Setup,
+     .window = "frmSetup",
+     .helpPage = "setup.md",
+     .make = make<SetupDialog>,
+     .key = "Setup",
+     .node = "Setup"},
+    {.kind = DialogKind::Beam,
+     .window = "frmBeam",
+     .helpPage = "beam.md",
+     .make = make<BeamDialog>,
+     .key = "Beam",
+     .node = "Beam",
+     .menu = {"mnuBeam", "Beam", 2}},
+    {.kind = DialogKind::Profile,
+     .window = "frmProfile",
+     .helpPage = "profile.md",
+     .make = make<ProfileDialog>,
+     .key = "Profile",
+     .node = "Profile",
+     .menu = {"mnuProfile", "Profile", 1}},
+    {.kind = DialogKind::ProfReinf,
+     .window = "frmProfReinf",
+     .helpPage = "reinforcement.md",
+     .make = make<ProfReinfDialog>},
+    {.kind = DialogKind::Rail,
+     .window = "frmRail",
+     .helpPage = "rail.md",
+     .make = make<RailDialog>,
+     .cranes = FormKind::Overhead,
+     .key = "Rail",
+     .node = "Rail",
+     .menu = {"mnuRail", "Rail", 3},
+     .refusal = {"Rail not available for  beams", " Rail not available for Monorails"}},
+    {.kind = DialogKind::Lateral,
+     .window = "frmvipping",
+     .helpPage = "lateral-torsional-buckling.md",
+     .make = make<LateralBucklingDialog>,
+     .key = "LatTors",
+     .node = "Lateral Tors Buckl",
+     .menu = {"mnuLateral", "Lateral Torsional Buckling", 4}},
+    {.kind = DialogKind::Load,
+     .window = "frmLoad",
+     .helpPage = "loads-overhead-crane.md",
+     .make = make<LoadDialog>,
+     .cranes = FormKind::Overhead,
+     .key = "Load",
+     .node = "Loads",
+     .menu = {"mnuLoad", "Load", 5}},
+    {.kind = DialogKind::LoadRunway,
+     .window = "frmLoadRunway",
+     .helpPage = "loads-monorail.md",
+     .make = make<LoadRunwayDialog>,
+     .cranes = FormKind::Monorail,
+     .key = "Load",
+     .node = "Loads"},
+    {.kind = DialogKind::Fatigue1,
+     .window = "frmFatigue1",
+     .helpPage = "fatigue-overhead-crane.md",
+     .make = make<Fatigue1Dialog>,
+     .cranes = FormKind::Overhead,
+     .key = "Fatigue",
+     .node = "Fatigue",
+     .menu = {"mnuFatigue", "Fatigue", 6}},
+    {.kind = DialogKind::Fatigue2,
+     .window = "frmFatigue2",
+     .helpPage = "fatigue-monorail.md",
+     .make = make<Fatigue2Dialog>,
+     .cranes = FormKind::Monorail,
+     .key = "Fatigue",
+     .node = "Fatigue"},
+};
+
 }  // namespace
 
-std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messages& messages, Changed changed,
-                                        QWidget* parent) {
-    using Maker = std::unique_ptr<InputDialog> (*)(Session&, Messages&, Changed, QWidget*);
-    const auto maker = [kind]() -> Maker {
-        switch (kind) {
-            case DialogKind::Setup:
-                return make<SetupDialog>;
-            case DialogKind::Beam:
-                return make<BeamDialog>;
-            case DialogKind::Load:
-                return make<LoadDialog>;
-            case DialogKind::LoadRunway:
-                return make<LoadRunwayDialog>;
-            case DialogKind::Rail:
-                return make<RailDialog>;
-            case DialogKind::Lateral:
-                return make<LateralBucklingDialog>;
-            case DialogKind::Fatigue1:
-                return make<Fatigue1Dialog>;
-            case DialogKind::Fatigue2:
-                return make<Fatigue2Dialog>;
-            case DialogKind::Profile:
-                return make<ProfileDialog>;
-            case DialogKind::ProfReinf:
-                return make<ProfReinfDialog>;
-        }
-        return nullptr;
-    }();
-    return maker == nullptr ? nullptr : maker(session, messages, std::move(changed), parent);
+std::span<const FormKind> formKinds() {
+    return kForms;
+}
+
+const FormKind* findForm(std::string_view node, bool monorail) {
+    const FormKind* ofOtherCrane = nullptr;
+    if (node.empty()) return nullptr;
+    for (const FormKind& form : kForms) {
+        if (node != form.node) continue;
+        if (form.cranes != (monorail ? FormKind::Overhead : FormKind::Monorail)) return &form;
+        ofOtherCrane = &form;
+    }
+    return ofOtherCrane;
+}
+
+std::unique_ptr<InputDialog> makeDialog(DialogKind kind, Session& session, Messages& messages,
+                                        std::function<void()> changed, QWidget* parent) {
+    const auto* row =
+        std::find_if(std::begin(kForms), std::end(kForms), [kind](const FormKind& form) { return form.kind == kind; });
+    auto form = row->make(session, messages, std::move(changed), parent);
+    form->setOpener([&session, &messages, owner = form.get()](DialogKind other, std::function<void()> edited) {
+        return makeDialog(other, session, messages, std::move(edited), owner);
+    });
+    return form;
 }
 
 }  // namespace borvik

@@ -69,6 +69,12 @@ InputDialog::InputDialog(const std::string& name, const QString& title, Session&
     addKeys("redo", redoKeys(), &Steps<State>::forward);
 }
 
+std::unique_ptr<InputDialog> InputDialog::openOver(DialogKind kind, std::function<void()> edited) {
+    auto form = opener_(kind, std::move(edited));
+    form->open();
+    return form;
+}
+
 void InputDialog::done(int result) {
     if (binder_.refusalPending()) return;
     const auto* box = qobject_cast<const NumberBox*>(QApplication::focusWidget());

@@ -5,12 +5,14 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "boxes/change_names.h"
 #include "boxes/form_binder.h"
 #include "boxes/undo_keys.h"
 #include "calculation/session.h"
+#include "dialogs/dialog_kind.h"
 #include "project/steps.h"
 
 class QComboBox;
@@ -38,6 +40,11 @@ public:
     /// control tells.
     [[nodiscard]] QString whatChanged() const;
 
+    /// Makes another form over this one. @param edited  called after each of its edits
+    using Opener = std::function<std::unique_ptr<InputDialog>(DialogKind kind, std::function<void()> edited)>;
+    /// How this form gets at the others, which it doesn't know itself.
+    void setOpener(Opener opener) { opener_ = std::move(opener); }
+
 protected:
     InputDialog(const std::string& name, const QString& title, Session& session, Messages& messages,
                 std::function<void()> changed, QWidget* parent, std::string mismatch = "Input string mismatch ");
@@ -53,6 +60,9 @@ protected:
     /// Whether the form edits the section being worked on, beside the record.
     [[nodiscard]] virtual bool editsSection() const { return false; }
 
+    /// Opens another form over this one, to be kept for as long as it may be open.
+    /// @param edited  called after each of its edits
+    [[nodiscard]] std::unique_ptr<InputDialog> openOver(DialogKind kind, std::function<void()> edited);
     /// The input has changed: results are out of reach, undo has one more step, the main window's sketch follows.
     void inputChanged();
     /// The button that closes the form: Alt+C presses it, Enter in the last box goes to it.
@@ -85,6 +95,7 @@ private:
     void standAt(const State& (Steps<State>::*step)());
 
     std::function<void()> changed_;
+    Opener opener_;
     Project atFirst_;
     Steps<State> steps_;  ///< from when the form is shown; a visit to a form opened from this one is one step
     ControlTexts shownAtFirst_;

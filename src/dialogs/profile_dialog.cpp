@@ -12,7 +12,6 @@
 #include <QTreeWidget>
 
 #include "boxes/section_combo.h"
-#include "dialogs/dialogs.h"
 #include "dialogs/prof_reinf_dialog.h"
 #include "dialogs/section_rows.h"
 #include "pictures/section_picture.h"
@@ -434,13 +433,11 @@ void ProfileDialog::move(int by) {
 }
 
 void ProfileDialog::openReinforcement() {
-    const auto refresh = [this] {
+    reinforcement_ = openOver(DialogKind::ProfReinf, [this] {
         UpdateResult();
         WriteProfInput();
         inputChanged();
-    };
-    reinforcement_ = makeDialog(DialogKind::ProfReinf, session_, messages_, refresh, this);
-    reinforcement_->open();
+    });
 }
 
 }  // namespace borvik

@@ -58,5 +58,7 @@ struct InputNumber {
 inline constexpr int kFormSplices = 4;
 /// The span in which a splice lies, by the number stored for it: 1 to the number of spans; 0 where it is none of them.
 [[nodiscard]] int spliceSpan(const Project& project, Single entered);
+/// Splices in use, of both crane types; the calculation drops those that no longer fit the beam.
+[[nodiscard]] int splicesInUse(const Project& project);
 
 }  // namespace borvik

@@ -1,5 +1,7 @@
 #include "results/result_tree.h"
 
+#include <utility>
+
 #include "diagrams/diagram_kind.h"
 
 namespace borvik {
@@ -7,10 +9,6 @@ namespace {
 
 TreeNode head(const char* key, const char* text, std::vector<TreeNode> children = {}) {
     return {key, text, NodeOpens::Nothing, "", false, std::move(children)};
-}
-
-TreeNode form(const char* key, const char* text) {
-    return {key, text, NodeOpens::InputForm, text, false, {}};
 }
 
 TreeNode table(const char* key, const char* text, const char* name, bool needsLoadsY = false) {
@@ -36,12 +34,8 @@ TreeNode diagrams(const Project& project) {
 
 }  // namespace
 
-TreeNode mainTree(const Project& project, bool withResults) {
-    TreeNode root =
-        head("root", "Borvik",
-             {head("Input", "Input",
-                   {form("Setup", "Setup"), form("Beam", "Beam"), form("Profile", "Profile"), form("Rail", "Rail"),
-                    form("LatTors", "Lateral Tors Buckl"), form("Load", "Loads"), form("Fatigue", "Fatigue")})});
+TreeNode mainTree(TreeNode input, const Project& project, bool withResults) {
+    TreeNode root = head("root", "Borvik", {std::move(input)});
     if (!withResults) return root;
     root.children.push_back(
         head("Result", "Results",

@@ -16,9 +16,9 @@ struct TreeNode {
     std::string key;
     std::string text;
     NodeOpens opens = NodeOpens::Nothing;
-    std::string name;          ///< table or picture; for an input form its text
+    std::string name = {};     ///< table or picture; for an input form its text
     bool needsLoadsY = false;  ///< has something to show only where horizontal wheel loads are present
-    std::vector<TreeNode> children;
+    std::vector<TreeNode> children = {};
 };
 
 inline constexpr const char* kCalculateFirst = " Calculate before results can be presented ";
@@ -26,7 +26,8 @@ inline constexpr const char* kNoLoadsY = " No loads in y-direction";
 
 /// The tree of the main window. The result part is there only after a calculation; nodes of crane 2 only with two
 /// cranes.
-[[nodiscard]] TreeNode mainTree(const Project& project, bool withResults);
+/// @param input  the part that opens input forms
+[[nodiscard]] TreeNode mainTree(TreeNode input, const Project& project, bool withResults);
 /// The tree of the detailed results.
 [[nodiscard]] TreeNode detailedTree(const Project& project);
 /// The node of that text, depth first; null where there is none. "ULS" occurs in both trees with another meaning, and

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include "diagrams/diagram_kind.h"
+#include "dialogs/dialogs.h"
 #include "help/help_window.h"
 
 namespace borvik {
@@ -17,19 +18,10 @@ struct PageOfWindow {
     const char* page;
 };
 
+/// Windows that are no input forms.
 constexpr PageOfWindow kPages[] = {
     {"frmBorvik", "main-window.md"},
-    {"frmSetup", "setup.md"},
     {"frmInfoSetup", "setup.md"},
-    {"frmBeam", "beam.md"},
-    {"frmProfile", "profile.md"},
-    {"frmProfReinf", "reinforcement.md"},
-    {"frmRail", "rail.md"},
-    {"frmvipping", "lateral-torsional-buckling.md"},
-    {"frmLoad", "loads-overhead-crane.md"},
-    {"frmLoadRunway", "loads-monorail.md"},
-    {"frmFatigue1", "fatigue-overhead-crane.md"},
-    {"frmFatigue2", "fatigue-monorail.md"},
     {"frmProgress", "calculating.md"},
     {"frmTemp", "crane-positions.md"},
     {"frmDetailedResult", "detailed-results.md"},
@@ -41,12 +33,8 @@ struct PageOfNode {
     const char* page;
 };
 
+/// Nodes that open neither a form nor a picture.
 constexpr PageOfNode kNodes[] = {
-    {"Setup", "setup.md"},
-    {"Beam", "beam.md"},
-    {"Profile", "profile.md"},
-    {"Rail", "rail.md"},
-    {"Lateral Tors Buckl", "lateral-torsional-buckling.md"},
     {"ULS", "summaries.md"},
     {"ULS + SLS", "summaries.md"},
     {"ULS + SLS + FLS", "summaries.md"},
@@ -59,7 +47,7 @@ constexpr PageOfNode kNodes[] = {
 HelpWindow* openHelp(QWidget* over, Messages& messages) {
     const QFileInfo contents(QString(kHelpPath) + ":index.md");
     if (!contents.exists()) {
-        messages.show("The help pages are missing: they belong into the folder docs/help beside the section tables.");
+        messages.show("The help pages are missing: they belong in the folder docs/help beside the section tables.");
         return nullptr;
     }
     auto* window = over == nullptr ? nullptr : over->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
@@ -80,15 +68,17 @@ void showHelp(HelpPage page, Messages& messages) {
 }
 
 QString helpPageOf(const QWidget* window) {
-    for (; window != nullptr; window = window->parentWidget())
+    for (; window != nullptr; window = window->parentWidget()) {
+        for (const FormKind& form : formKinds())
+            if (window->objectName() == form.window) return form.helpPage;
         for (const PageOfWindow& known : kPages)
             if (window->objectName() == known.window) return known.page;
+    }
     return "index.md";
 }
 
 QString helpPageOf(const TreeNode& node, bool monorail) {
-    if (node.text == "Loads") return monorail ? "loads-monorail.md" : "loads-overhead-crane.md";
-    if (node.text == "Fatigue") return monorail ? "fatigue-monorail.md" : "fatigue-overhead-crane.md";
+    if (const FormKind* form = findForm(node.text, monorail)) return form->helpPage;
     for (const PictureKind& picture : pictureKinds())
         if (node.text == picture.node) return picture.helpPage;
     for (const PageOfNode& known : kNodes)

@@ -14,7 +14,7 @@ inline constexpr const char* kHelpPath = "help";
 /// What the Help menu opens.
 enum class HelpPage { Contents, Search, Theory };
 
-/// Opens the help window over the active window. A help that isn't there is said in a message.
+/// Opens the help window over the active window; where the help pages are missing a message says so.
 void showHelp(HelpPage page, Messages& messages);
 
 /// The help page of a window, by its name; that of the window it belongs to if it has none of its own.

@@ -30,9 +30,9 @@ namespace borvik {
 /// Where the example projects are found: Qt's search path of this name, which the program sets.
 inline constexpr const char* kExamplesPath = "examples";
 
-/// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files) and
-/// main_window_results.cpp (calculation and what it shows), undo and recovery in main_window_history.cpp; menus are
-/// made in main_window_menus.cpp.
+/// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files),
+/// main_window_forms.cpp (input), main_window_calculation.cpp and main_window_results.cpp (what it shows), undo and
+/// recovery in main_window_history.cpp; menus are made in main_window_menus.cpp.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -82,6 +82,12 @@ private:
     void buildStatusBar();
 
     void buildMenus();
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildInputMenu();
+    void buildDiagramMenu();
+    void buildPrintMenu();
+    void buildHelpMenu();
     void fill(QMenu* menu, std::initializer_list<MenuEntry> entries);
     QMenu* menu(QMenu* parent, const char* name, const char* caption);
     void buildExampleEntries(QMenu* menu);
@@ -119,16 +125,19 @@ private:
     void showHistory();
 
     // Input forms
+    void openForm(std::string_view node, const char* FormRefusal::*refusal = &FormRefusal::inMenu);
     void openForm(DialogKind kind, const QString& what);
-    void openForm(const std::string& node);
     void formChanged(const QString& what);
     void takeOver(const InputDialog& form, DialogKind kind, const QString& what);
-    void openRail(const char* refusal);
 
-    // Results
+    // Calculation
     void calculate();
+    bool run();
+    void showCalculation();
     [[nodiscard]] bool inputIsCalculated() const;
     void followInput();
+
+    // Results
     void showRemark();
     void showNode(const TreeNode& node, bool byWalking);
     void showTable(const std::string& name);
@@ -151,7 +160,7 @@ private:
     CalculationPtr calculation_;
     const InputDialog* form_ = nullptr;  ///< the one that is open
     bool splicesDropped_ = false;        ///< by the input check, since the last edit
-    std::string loadFaultTold_;          ///< so that it is told once
+    std::string loadFaultShown_;         ///< so that it is shown once
     bool shownNotes_ = false;            ///< the table shown is that of the notes
     bool running_ = false;
     std::unique_ptr<ProgressDialog> progress_;

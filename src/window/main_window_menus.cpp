@@ -3,6 +3,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <algorithm>
+#include <vector>
 
 #include "boxes/undo_keys.h"
 #include "views/icons.h"
@@ -87,8 +89,21 @@ DiagramView& MainWindow::chosenPicture() {
 }
 
 void MainWindow::buildMenus() {
+    buildFileMenu();
+    buildEditMenu();
+    QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
+    setup->setObjectName("mnuSetup");
+    buildInputMenu();
+    QAction* calc = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
+    calc->setObjectName("mnuCalc");
+    calc->setShortcut(Qt::Key_F5);
+    buildDiagramMenu();
+    buildPrintMenu();
+    buildHelpMenu();
+}
+
+void MainWindow::buildFileMenu() {
     static constexpr const char* kScopes[4] = {"ULS", "ULS+SLS", "ULS+SLS+FLS", "Compressed"};
-    const QIcon form = pictureIcon(Picture::Form);
     QMenu* file = menu(nullptr, "mnuArkiv", "&File");
     fill(file, {{"mnuArkivNytt", "&New   ", QKeySequence::New, themeIcon("document-new", QStyle::SP_FileIcon),
                  [this] { newProject(); }},
@@ -113,7 +128,9 @@ void MainWindow::buildMenus() {
     fill(file, {{"mnuspace"},
                 {"mnuArkivAvsluta", "&Exit", QKeySequence(Qt::CTRL | Qt::Key_Q),
                  themeIcon("application-exit", QStyle::SP_DialogCloseButton), [this] { close(); }}});
+}
 
+void MainWindow::buildEditMenu() {
     QMenu* edit = menu(nullptr, "mnuEdit", "&Edit");
     fill(edit, {{"mnuUndo", "&Undo", {}, themeIcon("edit-undo", QStyle::SP_ArrowBack), [this] { undo(); }},
                 {"mnuRedo", "&Redo", {}, themeIcon("edit-redo", QStyle::SP_ArrowForward), [this] { redo(); }}});
@@ -121,25 +138,23 @@ void MainWindow::buildMenus() {
     redo_ = edit->actions().at(1);
     undo_->setShortcuts(undoKeys());
     redo_->setShortcuts(redoKeys());
+}
 
-    QAction* setup = menuBar()->addAction("&Setup", this, [this] { openForm("Setup"); });
-    setup->setObjectName("mnuSetup");
+void MainWindow::buildInputMenu() {
+    std::vector<const FormKind*> forms;
+    for (const FormKind& form : formKinds())
+        if (*form.menu.name != '\0') forms.push_back(&form);
+    std::sort(forms.begin(), forms.end(),
+              [](const FormKind* a, const FormKind* b) { return a->menu.digit < b->menu.digit; });
+    QMenu* input = menu(nullptr, "mnuIndata", "&Input");
+    for (const FormKind* form : forms)
+        fill(input,
+             {{form->menu.name, form->menu.caption, QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_0 + form->menu.digit)),
+               pictureIcon(Picture::Form), [this, form] { openForm(form->node); }}});
+    fill(input, {{"mnuIndataDivider1"}});
+}
 
-    fill(menu(nullptr, "mnuIndata", "&Input"),
-         {{"mnuProfile", "Profile", QKeySequence(Qt::CTRL | Qt::Key_1), form, [this] { openForm("Profile"); }},
-          {"mnuBeam", "Beam", QKeySequence(Qt::CTRL | Qt::Key_2), form, [this] { openForm("Beam"); }},
-          {"mnuRail", "Rail", QKeySequence(Qt::CTRL | Qt::Key_3), form,
-           [this] { openRail("Rail not available for  beams"); }},
-          {"mnuLateral", "Lateral Torsional Buckling", QKeySequence(Qt::CTRL | Qt::Key_4), form,
-           [this] { openForm("Lateral Tors Buckl"); }},
-          {"mnuLoad", "Load", QKeySequence(Qt::CTRL | Qt::Key_5), form, [this] { openForm("Loads"); }},
-          {"mnuFatigue", "Fatigue", QKeySequence(Qt::CTRL | Qt::Key_6), form, [this] { openForm("Fatigue"); }},
-          {"mnuIndataDivider1"}});
-
-    QAction* calc = menuBar()->addAction("&Calculate", this, [this] { calculate(); });
-    calc->setObjectName("mnuCalc");
-    calc->setShortcut(Qt::Key_F5);
-
+void MainWindow::buildDiagramMenu() {
     fill(menu(nullptr, "mnuDiagram", "&Diagram"),
          {{"mnuSavePicture", "&Save picture...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
            themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { chosenPicture().savePictureAs(); }},
@@ -152,7 +167,9 @@ void MainWindow::buildMenus() {
         const bool inMenu = now == menuBar() || qobject_cast<const QMenu*>(now) != nullptr;
         if (now != nullptr && !inMenu) sketchChosen_ = now == picBalk_;
     });
+}
 
+void MainWindow::buildPrintMenu() {
     QMenu* printMenu = menu(nullptr, "mnuPrint", "&Print");
     buildPrintEntries(printMenu, {"mnuPrintULS", "mnuPrintULSSLS", "mnuPrintAll", "mnuPrintCompressed"},
                       {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
@@ -162,7 +179,9 @@ void MainWindow::buildMenus() {
     printNotes_->setObjectName("mnuPrintNotes");
     printNotes_->setCheckable(true);
     printNotes_->setStatusTip(tr("The report, its preview and its PDF end with a chapter of notes"));
+}
 
+void MainWindow::buildHelpMenu() {
     fill(menu(nullptr, "mnuHelp", "&Help"),
          {{"mnuContents", "&Contents", QKeySequence::HelpContents,
            themeIcon("help-contents", QStyle::SP_DialogHelpButton),

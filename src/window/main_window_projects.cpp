@@ -139,7 +139,7 @@ void MainWindow::projectReplaced(const std::string& step) {
 void MainWindow::projectShown() {
     session_.inputChanged();
     calculation_.reset();
-    loadFaultTold_.clear();
+    loadFaultShown_.clear();
     splicesDropped_ = false;
     picRes_->clear();
     results_->clear();

@@ -1,195 +1,29 @@
-#include <QApplication>
 #include <QStatusBar>
-#include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include "base/number_text.h"
-#include "calculation/calculation.h"
 #include "calculation/load_check.h"
 #include "results/notes_table.h"
 #include "results/ratios.h"
 #include "results/tables.h"
 #include "views/detailed_result_dialog.h"
-#include "views/icons.h"
 #include "views/printing.h"
+#include "window/input_tree.h"
 #include "window/main_window.h"
 
 namespace borvik {
 
-namespace {
-
-/// The hourglass pointer, as long as it lives.
-struct BusyPointer {
-    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-};
-
-/// The input form of a node of the tree.
-struct FormOfNode {
-    const char* node;
-    DialogKind overhead, monorail;
-};
-constexpr FormOfNode kForms[] = {
-    {"Setup", DialogKind::Setup, DialogKind::Setup},
-    {"Beam", DialogKind::Beam, DialogKind::Beam},
-    {"Profile", DialogKind::Profile, DialogKind::Profile},
-    {"Rail", DialogKind::Rail, DialogKind::Rail},
-    {"Lateral Tors Buckl", DialogKind::Lateral, DialogKind::Lateral},
-    {"Loads", DialogKind::Load, DialogKind::LoadRunway},
-    {"Fatigue", DialogKind::Fatigue1, DialogKind::Fatigue2},
-};
-
-/// Splices in use: the calculation drops those that no longer fit the beam.
-int splicesInUse(const Project& project) {
-    return static_cast<int>(std::count(project.ChkFat5Sp.begin(), project.ChkFat5Sp.end(), true) +
-                            std::count(project.ChkFatR5Sp.begin(), project.ChkFatR5Sp.end(), true));
-}
-
-}  // namespace
-
-void MainWindow::openForm(const std::string& node) {
-    const auto* form =
-        std::find_if(std::begin(kForms), std::end(kForms), [&](const FormOfNode& each) { return node == each.node; });
-    if (form == std::end(kForms)) return;
-    openForm(session_.project.CraneType == 1 ? form->overhead : form->monorail, QString::fromStdString(node));
-}
-
-void MainWindow::openRail(const char* refusal) {
-    if (session_.project.CraneType == 1) {
-        openForm("Rail");
-    } else {
-        services_.messages.show(refusal);
-    }
-}
-
-void MainWindow::openForm(DialogKind kind, const QString& what) {
-    if (running_ || !panel_->commit()) return;
-    const auto changed = [this, what] { formChanged(what); };
-    const auto form = makeDialog(kind, session_, services_.messages, changed, this);
-    if (!form) {
-        statusBar()->showMessage(tr("This version has no form for: %1").arg(what), 6000);
-        return;
-    }
-    // The setup form knows itself whether it has changed anything; after all others the results count as out of date.
-    if (kind != DialogKind::Setup) session_.inputChanged();
-    form_ = form.get();
-    showState();
-    form->exec();
-    form_ = nullptr;
-    takeOver(*form, kind, what);
-}
-
-/// An edit within the form that is open: shown in the sketch and kept for recovery at once, a step of the history when
-/// the form closes, since only then its last guard is asked.
-void MainWindow::formChanged(const QString& what) {
-    picBalk_->showSketch(session_.project);
-    panel_->showProject();
-    showState();
-    if (form_ == nullptr) return;
-    keepCopy();
-    if (form_->edited()) {
-        statusBar()->showMessage(tr("Changed: %1").arg(what), 4000);
-    } else {
-        statusBar()->clearMessage();
-    }
-}
-
-/// What a form has made of the project, settled by its closing, is one step. Results that still belong to the input are
-/// in reach again.
-void MainWindow::takeOver(const InputDialog& form, DialogKind kind, const QString& what) {
-    const bool dropped =
-        kind == DialogKind::Beam && splicesInUse(session_.project) < splicesInUse(history_.present().project);
-    const QString changes = form.whatChanged();
-    if (form.edited()) {
-        remember(changes.isEmpty() ? what : what + ": " + changes);
-        splicesDropped_ = dropped;
-    } else {
-        history_.settled(session_.project);
-        splicesDropped_ = splicesDropped_ || dropped;
-    }
-    keepCopy();
-    followInput();
-    WritefrmInput();
-}
-
-/// Whether the results shown are those of the input as it stands; names change no result.
-bool MainWindow::inputIsCalculated() const {
-    if (!calculation_) return false;
-    Project input = session_.project;
-    input.Proj = calculation_->project.Proj;
-    input.Ident = calculation_->project.Ident;
-    return input == calculation_->project;
-}
-
-/// After a change that may have led back to what was calculated.
-void MainWindow::followInput() {
-    session_.Calculated = inputIsCalculated();
-}
-
-void MainWindow::calculate() {
-    if (running_ || !panel_->commit()) return;
-    const int splices = splicesInUse(session_.project);
-    const bool twoCranes = session_.project.NofCranes == 2;
-    Progress silent;
-    progress_.reset();
-    if (twoCranes) {
-        progress_ = std::make_unique<ProgressDialog>(this);
-        connect(progress_.get(), &ProgressDialog::closedByUser, this, [this] {
-            activateWindow();
-            findChild<QWidget*>("iproj")->setFocus();
-        });
-    }
-    running_ = true;
-    bool done = false;
-    try {
-        const BusyPointer busy;
-        done = Calculate(session_, services_.messages, twoCranes ? static_cast<Progress&>(*progress_) : silent);
-    } catch (const std::exception& error) {
-        session_.inputChanged();
-        services_.messages.show(std::string("Run-time error. ") + error.what());
-    }
-    running_ = false;
-    history_.settled(session_.project);
-    splicesDropped_ = splicesDropped_ || splicesInUse(session_.project) < splices;
-    if (!done) {
-        progress_.reset();
-        WritefrmInput();
-        return;
-    }
-    {
-        const BusyPointer busy;
-        calculation_ = std::make_shared<const CalculationRecord>(
-            CalculationRecord{session_.project, *session_.results, ProjectNotes(session_)});
-    }
-    ShowTreeViewResults();
-    showState();
-    picBalk_->showSketch(session_.project);
-    picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
-    chosenNode_ = "My + Vz";
-    showTable("Summary");
-    showGoverning();
-    const std::string fault = LoadRemark(session_.project);
-    if (fault != std::exchange(loadFaultTold_, fault) && !fault.empty()) services_.messages.show(fault);
-}
-
 void MainWindow::ShowTreeView() {
-    tree_->showTree(mainTree(session_.project, session_.Calculated));
+    tree_->showTree(mainTree(inputTree(), session_.project, session_.Calculated));
 }
 
 void MainWindow::ShowTreeViewResults() {
-    tree_->showTree(mainTree(session_.project, true));
+    tree_->showTree(mainTree(inputTree(), session_.project, true));
 }
 
 void MainWindow::showNode(const TreeNode& node, bool byWalking) {
     if (node.opens == NodeOpens::InputForm) {
-        if (node.name == "Rail") {
-            openRail(" Rail not available for Monorails");
-        } else {
-            openForm(node.name);
-        }
+        openForm(node.name, &FormRefusal::inTree);
         return;
     }
     const bool nothingThere = node.needsLoadsY && !session_.project.HasLoadsY;

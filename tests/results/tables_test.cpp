@@ -48,7 +48,8 @@ TEST(Tables, areTheGoldenOnes) {
             text += shown(std::string(entry.name) + " " + entry.title +
                               (entry.isAvailable(session.project) ? "" : " (not available)"),
                           entry.fill(session.project, *session.results));
-        text += "== Trees\n" + shown(mainTree(session.project, true)) + shown(detailedTree(session.project));
+        text += "== Trees\n" + shown(mainTree({"Input", "Input"}, session.project, true)) +
+                shown(detailedTree(session.project));
         EXPECT_EQ(goldenDifference("tables-" + nameOf(sample) + ".txt", text), "");
     }
 }
@@ -81,8 +82,8 @@ TEST(Tables, areFoundByNameWhateverTheCapitals) {
     EXPECT_EQ(findTable("codefatigue"), findTable("CodeFatigue"));
     EXPECT_NE(findTable("codefatigue"), nullptr);
     EXPECT_EQ(findTable("MyV"), nullptr);
-    const TreeNode tree = mainTree(Project{}, false);
-    EXPECT_NE(findNode(tree, "Setup"), nullptr);
+    const TreeNode tree = mainTree({"Input", "Input"}, Project{}, false);
+    EXPECT_NE(findNode(tree, "Input"), nullptr);
     EXPECT_EQ(findNode(tree, "Results"), nullptr);
 }
 

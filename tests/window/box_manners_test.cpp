@@ -259,8 +259,8 @@ TEST_F(BoxManners, ClosingAFormPutsTheResultsOutOfReach) {
 }
 
 TEST_F(BoxManners, EveryFormFitsASmallScreenAndEveryBoxSaysWhatItIs) {
-    for (int kind = 0; kind < 10; ++kind) {
-        open(static_cast<DialogKind>(kind));
+    for (const FormKind& kind : formKinds()) {
+        open(kind.kind);
         EXPECT_LE(form->sizeHint().width(), 1024 - 8) << form->objectName().toStdString();
         EXPECT_LE(form->sizeHint().height(), 741 - 36) << form->objectName().toStdString();
         for (const auto* box : form->findChildren<NumberBox*>())
@@ -275,15 +275,13 @@ TEST_F(BoxManners, EveryFormIsWalkedByKeysFromItsFirstBoxToClosing) {
     project.MinAvst = 2000;
     project.V(5) = 20;
     project.RailFix = 3;
-    const char* first[] = {"iLfULS", "txtBeamLength", "txtGangway", "txtPsiV1",  "cboEuprofile",
-                           "ihr",    "cboRail",       "optCurve3",  "txtFat1C1", "txtFatR1C1"};
-    const DialogKind kinds[] = {DialogKind::Setup,    DialogKind::Beam,      DialogKind::Load, DialogKind::LoadRunway,
-                                DialogKind::Profile,  DialogKind::ProfReinf, DialogKind::Rail, DialogKind::Lateral,
-                                DialogKind::Fatigue1, DialogKind::Fatigue2};
-    for (std::size_t i = 0; i < std::size(kinds); ++i) {
-        open(kinds[i]);
+    const std::vector<std::string> first = {"iLfULS",    "txtBeamLength", "cboEuprofile", "ihr",       "cboRail",
+                                            "optCurve3", "txtGangway",    "txtPsiV1",     "txtFat1C1", "txtFatR1C1"};
+    for (std::size_t i = 0; i < formKinds().size(); ++i) {
+        open(formKinds()[i].kind);
         SCOPED_TRACE(form->objectName().toStdString());
-        EXPECT_TRUE(focused() == first[i] || QApplication::focusWidget()->parentWidget()->objectName() == first[i])
+        EXPECT_TRUE(focused() == first.at(i) ||
+                    QApplication::focusWidget()->parentWidget()->objectName().toStdString() == first.at(i))
             << focused();
         std::set<QWidget*> reached;
         while (reached.insert(QApplication::focusWidget()).second) {

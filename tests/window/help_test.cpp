@@ -22,6 +22,7 @@
 #include "views/detailed_result_dialog.h"
 #include "views/result_tree_view.h"
 #include "window/about_dialog.h"
+#include "window/input_tree.h"
 
 namespace borvik {
 namespace {
@@ -152,22 +153,11 @@ protected:
 };
 
 TEST_F(HelpInTheProgram, f1InEachInputFormOpensItsOwnPage) {
-    const std::pair<DialogKind, const char*> forms[] = {
-        {DialogKind::Setup, "setup.md"},
-        {DialogKind::Beam, "beam.md"},
-        {DialogKind::Load, "loads-overhead-crane.md"},
-        {DialogKind::LoadRunway, "loads-monorail.md"},
-        {DialogKind::Profile, "profile.md"},
-        {DialogKind::ProfReinf, "reinforcement.md"},
-        {DialogKind::Rail, "rail.md"},
-        {DialogKind::Lateral, "lateral-torsional-buckling.md"},
-        {DialogKind::Fatigue1, "fatigue-overhead-crane.md"},
-        {DialogKind::Fatigue2, "fatigue-monorail.md"},
-    };
-    for (const auto& [kind, page] : forms) {
+    for (const FormKind& kind : formKinds()) {
         const auto form = makeDialog(
-            kind, session, messages, [] {}, nullptr);
-        expectOwnPage(*form, page);
+            kind.kind, session, messages, [] {}, nullptr);
+        EXPECT_EQ(form->objectName(), kind.window);
+        expectOwnPage(*form, kind.helpPage);
     }
     CranePositionsDialog steps(nullptr, nullptr);
     expectOwnPage(steps, "crane-positions.md");
@@ -200,7 +190,7 @@ TEST_F(HelpInTheProgram, everyNodeOfTheMainTreeHasAPage) {
         EXPECT_EQ(helpPageOf(node, false) == "main-window.md", node.opens == NodeOpens::Nothing) << node.text;
         for (const TreeNode& child : node.children) check(child);
     };
-    check(mainTree(session.project, true));
+    check(mainTree(inputTree(), session.project, true));
 }
 
 TEST_F(HelpInTheProgram, f1OnANodeOpensItsPage) {
@@ -210,7 +200,7 @@ TEST_F(HelpInTheProgram, f1OnANodeOpensItsPage) {
     std::string wanted;
     QObject::connect(&contents, &QShortcut::activated, &tree, [&] { ++shortcuts; });
     QObject::connect(&tree, &ResultTreeView::helpWanted, &tree, [&](const TreeNode& node) { wanted = node.text; });
-    tree.showTree(mainTree(session.project, true));
+    tree.showTree(mainTree(inputTree(), session.project, true));
     tree.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&tree));
     QTest::keyClick(&tree, Qt::Key_F1);

@@ -47,7 +47,8 @@ TEST_F(MainWindowTest, startsWithTheDefaultProject) {
     EXPECT_FALSE(window.hasUnsavedChanges());
     for (const char* entry : {"mnuMRU0", "mnuMRU1", "mnuMRU2", "mnuMRU3", "mnuMRU4"})
         EXPECT_FALSE(control<QAction>(entry).isVisible()) << entry;
-    EXPECT_TRUE(hasNode("Lateral Tors Buckl"));
+    for (const char* node : {"Setup", "Beam", "Profile", "Rail", "Lateral Tors Buckl", "Loads", "Fatigue"})
+        EXPECT_TRUE(hasNode(node)) << node;
     EXPECT_FALSE(hasNode("Summary"));
     EXPECT_TRUE(messages.texts.empty());
 }

@@ -24,8 +24,8 @@ protected:
             *weld = "FW";
     }
 
-    void openAt(int kind) {
-        open(static_cast<DialogKind>(kind));
+    void openAt(DialogKind kind) {
+        open(kind);
         binder = form->findChild<FormBinder*>();
     }
 
@@ -50,8 +50,8 @@ protected:
 
 TEST_F(NumberBoxes, AreThoseOfTheTable) {
     std::string table;
-    for (int kind = 0; kind < 10; ++kind) {
-        openAt(kind);
+    for (const FormKind& kind : formKinds()) {
+        openAt(kind.kind);
         for (const NumberRow* row : binder->rows()) {
             const QString tip = control(row->name).toolTip().replace("\n", " / ");
             const bool ofProject = !row->range;
@@ -68,10 +68,10 @@ TEST_F(NumberBoxes, AreThoseOfTheTable) {
 }
 
 TEST_F(NumberBoxes, TakeWhatLiesWithinTheirLimitsAndRefuseTheRest) {
-    for (int kind = 0; kind < 10; ++kind) {
-        openAt(kind);
+    for (const FormKind& kind : formKinds()) {
+        openAt(kind.kind);
         for (const NumberRow* row : binder->rows()) {
-            if (kind == static_cast<int>(DialogKind::Profile))
+            if (kind.kind == DialogKind::Profile)
                 control<QTabWidget>("SSTab1").setCurrentIndex(row->name.starts_with("ius") ? 2 : 1);
             // a step of the last decimal that the box shows
             const std::string mask = row->mask;

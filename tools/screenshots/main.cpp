@@ -45,15 +45,13 @@ void takeForms(Camera& camera, Session& session, Messages& messages) {
     Session monorail(session.tables);
     monorail.project.CraneType = 2;
     monorail.project.LoadLevel = 4;
-    for (const auto kind :
-         {DialogKind::Setup, DialogKind::Beam, DialogKind::Load, DialogKind::LoadRunway, DialogKind::Profile,
-          DialogKind::ProfReinf, DialogKind::Rail, DialogKind::Lateral, DialogKind::Fatigue1, DialogKind::Fatigue2}) {
-        const bool ofMonorail = kind == DialogKind::LoadRunway || kind == DialogKind::Fatigue2;
-        Session& shown = ofMonorail ? monorail : session;
-        shown.context.CurrentSection.Reinforced = kind == DialogKind::ProfReinf;
-        shown.context.CurrentSection.ReinfText = kind == DialogKind::ProfReinf ? "PL1" : "";
+    for (const FormKind& kind : formKinds()) {
+        Session& shown = kind.cranes == FormKind::Monorail ? monorail : session;
+        const bool plates = kind.kind == DialogKind::ProfReinf;
+        shown.context.CurrentSection.Reinforced = plates;
+        shown.context.CurrentSection.ReinfText = plates ? "PL1" : "";
         const auto form = makeDialog(
-            kind, shown, messages, [] {}, nullptr);
+            kind.kind, shown, messages, [] {}, nullptr);
         form->show();
         camera.take(*form, form->objectName());
     }

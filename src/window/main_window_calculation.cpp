@@ -1,0 +1,92 @@
+#include <QApplication>
+#include <utility>
+
+#include "calculation/calculation.h"
+#include "calculation/load_check.h"
+#include "project/input_ranges.h"
+#include "window/main_window.h"
+
+namespace borvik {
+
+namespace {
+
+/// The hourglass pointer, as long as it lives.
+struct BusyPointer {
+    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+}  // namespace
+
+/// Whether the results shown are those of the input as it stands; names change no result.
+bool MainWindow::inputIsCalculated() const {
+    if (!calculation_) return false;
+    Project input = session_.project;
+    input.Proj = calculation_->project.Proj;
+    input.Ident = calculation_->project.Ident;
+    return input == calculation_->project;
+}
+
+/// After a change that may have led back to what was calculated.
+void MainWindow::followInput() {
+    session_.Calculated = inputIsCalculated();
+}
+
+void MainWindow::calculate() {
+    if (running_ || !panel_->commit()) return;
+    if (run()) {
+        showCalculation();
+    } else {
+        progress_.reset();
+        WritefrmInput();
+    }
+}
+
+/// @return false when there are no results; the user has been told
+bool MainWindow::run() {
+    const int splices = splicesInUse(session_.project);
+    const bool twoCranes = session_.project.NofCranes == 2;
+    Progress silent;
+    progress_.reset();
+    if (twoCranes) {
+        progress_ = std::make_unique<ProgressDialog>(this);
+        connect(progress_.get(), &ProgressDialog::closedByUser, this, [this] {
+            activateWindow();
+            findChild<QWidget*>("iproj")->setFocus();
+        });
+    }
+    running_ = true;
+    bool done = false;
+    try {
+        const BusyPointer busy;
+        done = Calculate(session_, services_.messages, twoCranes ? static_cast<Progress&>(*progress_) : silent);
+    } catch (const std::exception& error) {
+        session_.inputChanged();
+        services_.messages.show(std::string("Run-time error. ") + error.what());
+    }
+    running_ = false;
+    history_.settled(session_.project);
+    splicesDropped_ = splicesDropped_ || splicesInUse(session_.project) < splices;
+    return done;
+}
+
+void MainWindow::showCalculation() {
+    {
+        const BusyPointer busy;
+        calculation_ = std::make_shared<const CalculationRecord>(
+            CalculationRecord{session_.project, *session_.results, ProjectNotes(session_)});
+    }
+    ShowTreeViewResults();
+    showState();
+    picBalk_->showSketch(session_.project);
+    picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
+    chosenNode_ = "My + Vz";
+    showTable("Summary");
+    showGoverning();
+    const std::string fault = LoadRemark(session_.project);
+    if (fault != std::exchange(loadFaultShown_, fault) && !fault.empty()) services_.messages.show(fault);
+}
+
+}  // namespace borvik
