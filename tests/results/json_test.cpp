@@ -25,64 +25,12 @@ struct DefaultRun {
     std::string text;
 };
 
-std::vector<std::string> keysOf(const Document& object) {
-    std::vector<std::string> keys;
-    for (const auto& [key, item] : object.items()) keys.push_back(key);
-    return keys;
-}
-
-/// Lengths of the nested arrays: {3, 21, 8}.
-std::vector<std::size_t> shapeOf(const Document& array) {
-    std::vector<std::size_t> shape;
-    for (const Document* level = &array; level->is_array(); level = &level->front()) {
-        shape.push_back(level->size());
-        if (level->empty()) break;
-    }
-    return shape;
-}
-
-using Shape = std::vector<std::size_t>;
-
-TEST(ResultsJson, keysAndShapesOfTheDefaultProject) {
+TEST(ResultsJson, namesProgramAndFileAndNoFault) {
     DefaultRun run;
     const Document d = run.document();
-    EXPECT_EQ(keysOf(d), (std::vector<std::string>{"Schema", "Program", "File", "Calculated", "Messages", "Fault",
-                                                   "Project", "Sections", "Uls", "Sls", "Checks", "Fls", "Steps",
-                                                   "Fatigue", "Notes", "LargestRatio"}));
     EXPECT_EQ(d["Schema"], 1);
     EXPECT_EQ(d["Program"], "Borvik 1.2.3");
-    EXPECT_TRUE(d["File"].is_null());
-    EXPECT_TRUE(d["Fault"].is_null());
-    EXPECT_EQ(d["Project"]["BeamLength"], 15000);
-    EXPECT_EQ(d["Sections"].size(), 3u);
-
-    const std::map<std::string, Shape> shapes{
-        {"/Uls/RzMax", {4}},
-        {"/Uls/MyMaxPoint", {3, 21, 8}},
-        {"/Uls/VyMinPoint", {3, 21, 6}},
-        {"/Uls/MyMaxSpan", {3, 9}},
-        {"/Uls/VyMaxSpan", {3, 7}},
-        {"/Uls/MySupportSpan", {3, 8}},
-        {"/Sls/UzMaxPoint", {3, 21, 3}},
-        {"/Sls/UyMaxSpan", {3, 3}},
-        {"/Checks/BendMax", {3, 8}},
-        {"/Checks/LtbGov", {8}},
-        {"/Checks/LocalSpan", {3, 4}},
-        {"/Checks/LocalGov", {6}},
-        {"/Checks/DefZSpan", {3, 5}},
-        {"/Fls/Cr1/TauRange", {3, 21}},
-        {"/Fls/Cr1/SigSupMax", {4}},
-        {"/Fls/Cr1/Sig1MaxPeak", {3, 2}},
-        {"/Fatigue/FatRows1", {3, 4}},
-        {"/Fatigue/FatRows2", {4, 4}},
-        {"/Fatigue/FatResult6", {4}},
-    };
-    for (const auto& [path, shape] : shapes) EXPECT_EQ(shapeOf(d.at(Document::json_pointer(path))), shape) << path;
-    for (const char* path :
-         {"/Checks/VonMisesSpan", "/Fls/Cr2", "/Fls/Cr12", "/Fatigue/FatRows4", "/Fatigue/FatResult4"})
-        EXPECT_TRUE(d.at(Document::json_pointer(path)).is_null()) << path;
-    EXPECT_EQ(d["Steps"]["StepA1"].size(), d["Steps"]["StepNo"].size());
-    EXPECT_EQ(d["Steps"]["StepNo"].front(), 0);
+    EXPECT_TRUE(d["File"].is_null() && d["Fault"].is_null());
 }
 
 TEST(ResultsJson, storedNumbersAreShort) {
