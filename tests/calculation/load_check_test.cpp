@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <sstream>
+
+#include "support/golden.h"
 
 namespace borvik {
 namespace {
@@ -72,9 +73,7 @@ TEST(LoadRefusals, AreThoseOfTheList) {
             }
         }
     }
-    std::ostringstream list;
-    list << std::ifstream(BORVIK_SOURCE_DIR "/tests/data/load_refusals.txt").rdbuf();
-    EXPECT_EQ(said.str(), list.str());
+    EXPECT_EQ(testing_support::goldenDifference("load-refusals.txt", said.str()), "");
 }
 
 TEST(LoadRemarks, AreOfWhatTheFormWouldNotHaveLetPass) {

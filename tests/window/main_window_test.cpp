@@ -7,6 +7,7 @@
 #include <cmath>
 #include <functional>
 
+#include "support/golden.h"
 #include "window_support.h"
 
 namespace borvik {
@@ -59,14 +60,10 @@ TEST_F(MainWindowTest, fitsASmallScreen) {
 }
 
 TEST_F(MainWindowTest, controlsHaveTheirCaptions) {
-    const std::pair<const char*, const char*> buttons[] = {
-        {"OptOverH", "Overhead Crane"}, {"OptRunW", "Monorail"},
-        {"cmdCalc", "Calculate"},       {"cmdProfile", "Profile"},
-        {"Command1", "Beam"},           {"Command2", "Load"},
-        {"Command3", "TempResults"},    {"chkStartStop", "Load start and stop outside borvik"}};
-    for (const auto& [name, caption] : buttons) EXPECT_EQ(control<QAbstractButton>(name).text(), caption);
-
     std::string menu;
+    for (const char* name :
+         {"OptOverH", "OptRunW", "cmdCalc", "cmdProfile", "Command1", "Command2", "Command3", "chkStartStop"})
+        menu += std::string(name) + " | " + control<QAbstractButton>(name).text().toStdString() + "\n";
     const std::function<void(const QList<QAction*>&, const std::string&)> print = [&](const auto& actions,
                                                                                       const std::string& indent) {
         for (const QAction* action : actions) {
@@ -78,8 +75,7 @@ TEST_F(MainWindowTest, controlsHaveTheirCaptions) {
         }
     };
     print(window.menuBar()->actions(), "");
-    const std::string file = BORVIK_SOURCE_DIR "/tests/data/forms/menu.txt";
-    EXPECT_TRUE(menu == testing_support::bytesOf(file)) << file << " is another menu:\n" << menu;
+    EXPECT_EQ(testing_support::goldenDifference("menu.txt", menu), "");
 }
 
 TEST_F(MainWindowTest, aGradeSetsItsStrength) {

@@ -75,25 +75,5 @@ TEST_F(NotesView, leadToTheCheckTheySpeakOf) {
     EXPECT_EQ(list().currentIndex().row(), before) << "rows of other tables lead nowhere";
 }
 
-TEST_F(NotesView, aProjectWithNothingToTellShowsTheAssumptionsAlone) {
-    project().CraneType = 2;
-    project().V = project().H = {};
-    project().V(1) = 0.001;
-    project().Avst = {};
-    project().HasLoadsY = project().SelfWeight = false;
-    project().Span(1) = 20000;
-    for (int span = 2; span <= 3; ++span) {
-        project().Span(span) = 0;
-        project().SpanSection(span) = {};
-    }
-    project().PsiV1 = project().PsiH1 = project().LfULS = 1;
-    click("cmdCalc");
-    ASSERT_TRUE(session.Calculated) << lastMessage();
-    EXPECT_EQ(control<QToolButton>("stateNotes").text(), "0 notes");
-    clickNode("Notes");
-    ASSERT_EQ(list().table().rows.size(), 1u);
-    EXPECT_EQ(list().table().rows[0][0].text, "Assumptions");
-}
-
 }  // namespace
 }  // namespace borvik

@@ -3,7 +3,7 @@
 
 #include "base/number_text.h"
 #include "boxes/form_binder.h"
-#include "support/temp_folder.h"
+#include "support/golden.h"
 #include "window/form_support.h"
 
 namespace borvik {
@@ -63,8 +63,7 @@ TEST_F(NumberBoxes, AreThoseOfTheTable) {
         }
         form.reset();
     }
-    const std::string file = BORVIK_SOURCE_DIR "/tests/data/forms/number_boxes.txt";
-    EXPECT_TRUE(table == testing_support::bytesOf(file)) << file << " is another table:\n" << table;
+    EXPECT_EQ(testing_support::goldenDifference("number-boxes.txt", table), "");
 }
 
 TEST_F(NumberBoxes, TakeWhatLiesWithinTheirLimitsAndRefuseTheRest) {
