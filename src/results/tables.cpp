@@ -194,6 +194,21 @@ const TableEntry* findTable(std::string_view name) {
     return entry == kEntries.end() ? nullptr : entry;
 }
 
+int governingRow(const ResultTable& summary) {
+    int governing = -1;
+    double largest = 0.0;
+    for (std::size_t row = 0; row < summary.rows.size(); ++row) {
+        const auto& cells = summary.rows[row];
+        if (cells.size() < 2 || !cells[1].number) continue;
+        const double ratio = *cells[1].number;
+        if (!(ratio >= 0.0)) return static_cast<int>(row);
+        if (governing >= 0 && ratio <= largest) continue;
+        governing = static_cast<int>(row);
+        largest = ratio;
+    }
+    return governing;
+}
+
 std::string tabSeparated(const ResultTable& table, bool withHeaders) {
     std::string text;
     const auto addLine = [&text, &table](auto cellText) {

@@ -87,6 +87,9 @@ struct TableEntry {
 [[nodiscard]] std::span<const TableEntry> tableEntries();
 /// The table of that name, capitals not regarded; null where there is none.
 [[nodiscard]] const TableEntry* findTable(std::string_view name);
+/// The row of a summary that governs: a ratio that is negative or no number before the largest one.
+/// @return its index; -1 where the table has no ratio in its second column
+[[nodiscard]] int governingRow(const ResultTable& summary);
 
 /// Tab-separated text, one line a row, every line ended by "\n".
 [[nodiscard]] std::string tabSeparated(const ResultTable& table, bool withHeaders = true);

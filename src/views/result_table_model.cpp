@@ -98,8 +98,13 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
     const TableColumn& column = table_.columns[static_cast<std::size_t>(section)];
     switch (role) {
         case Qt::DisplayRole: {
-            // The header as it stands, its unit on a line of its own.
+            // The unit stands on a line of its own, and so does the last word of a header that is wider than its
+            // numbers.
+            constexpr qsizetype kWidthOfNumbers = 12;
             QString head = QString::fromStdString(column.header);
+            const qsizetype blank = head.trimmed().lastIndexOf(QLatin1Char(' '));
+            if (blank > 0 && head.size() > kWidthOfNumbers && column.unit.empty() && holdsNumbers(section))
+                head[blank] = QLatin1Char('\n');
             if (!column.unit.empty()) head += QLatin1Char('\n') + QString::fromStdString(column.unit);
             return head;
         }

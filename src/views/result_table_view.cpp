@@ -28,6 +28,10 @@ QString asHtml(const QString& tabSeparatedText) {
     return html + "</table>";
 }
 
+constexpr int kRowPadding = 3;
+constexpr int kTextMargins = 8;  // left and right of a text in its cell
+constexpr int kMargins = 16;     // with some air
+
 }  // namespace
 
 ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(this) {
@@ -35,11 +39,11 @@ ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(t
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);
     setHorizontalScrollMode(ScrollPerPixel);
-    setWordWrap(false);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionsMovable(false);
@@ -67,7 +71,10 @@ void ResultTableView::buildFirstColumn() {
     firstColumn_->setAlternatingRowColors(true);
     firstColumn_->setWordWrap(false);
     firstColumn_->verticalHeader()->hide();
+    firstColumn_->verticalHeader()->setMinimumSectionSize(1);
     firstColumn_->verticalHeader()->setDefaultSectionSize(verticalHeader()->defaultSectionSize());
+    connect(verticalHeader(), &QHeaderView::sectionResized, firstColumn_,
+            [this](int row, int, int height) { firstColumn_->setRowHeight(row, height); });
     firstColumn_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     firstColumn_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     firstColumn_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -119,7 +126,7 @@ void ResultTableView::showTable(ResultTable table) {
 /// Width that the texts of a column need; lines that run over all columns don't count.
 int ResultTableView::contentWidth(int column) const {
     constexpr int kRowsMeasured = 300;
-    constexpr int kMargins = 16, kSign = 20;
+    constexpr int kSign = 20;
     int width = horizontalHeader()->sectionSizeHint(column) + kMargins / 2;
     for (int row = 0; row < std::min(model_.rowCount(), kRowsMeasured); ++row) {
         if (model_.isLine(row)) continue;
@@ -137,7 +144,8 @@ int ResultTableView::wantedWidth() const {
 }
 
 /// Gives each column what its texts need. Where that is too much for the window and the widest one can give way without
-/// becoming unreadable, it does; else the list scrolls. Where there is room to spare all get some of it.
+/// becoming unreadable, it does, and its long texts go on in a second line; else the list scrolls. Where there is room
+/// to spare all get some of it.
 void ResultTableView::fitColumns() {
     constexpr int kMostSpare = 60, kLeastOfLongTexts = 100;
     const int columns = model_.columnCount();
@@ -154,11 +162,28 @@ void ResultTableView::fitColumns() {
             spare = 0;
         }
     auto widest = std::max_element(widths.begin(), widths.end());
-    if (spare < 0 && *widest + spare >= room / 3) *widest += spare;
+    const bool givesWay = spare < 0 && *widest + spare >= room / 3;
+    if (givesWay) *widest += spare;
     fitting_ = true;
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, widths[static_cast<std::size_t>(column)] + std::clamp(spare / columns, 0, kMostSpare));
     fitting_ = false;
+    breakLines(givesWay ? static_cast<int>(widest - widths.begin()) : -1);
+}
+
+/// Makes the rows as high as the texts of a column need in its width, all others a line high.
+/// @param column  -1 for none
+void ResultTableView::breakLines(int column) {
+    const int line = verticalHeader()->defaultSectionSize();
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        int height = line;
+        if (column >= 0 && !model_.isLine(row)) {
+            const QRect room(0, 0, columnWidth(column) - kTextMargins, 1);
+            const QString text = model_.index(row, column).data().toString();
+            height = std::max(line, fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height() + kRowPadding);
+        }
+        if (rowHeight(row) != height) setRowHeight(row, height);
+    }
 }
 
 void ResultTableView::setOutOfDate(bool outOfDate) {
@@ -265,6 +290,7 @@ ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWi
     note_ = new QLabel;
     note_->setObjectName(listName + "Note");
     note_->setWordWrap(true);
+    note_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     note_->hide();
     list_ = new ResultTableView;
@@ -279,21 +305,23 @@ ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWi
         if (row >= 0 && static_cast<std::size_t>(row) < details.size())
             details_->setPlainText(QString::fromStdString(details[static_cast<std::size_t>(row)]));
     });
+    details_->setMinimumHeight(2 * fontMetrics().lineSpacing());
     auto* split = new QSplitter(Qt::Vertical);
+    split->setObjectName("splitterDetails");
     split->addWidget(list_);
     split->addWidget(details_);
     split->setStretchFactor(0, 3);
-    split->setStretchFactor(1, 2);
+    split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
     auto* head = new QHBoxLayout;
     head->addWidget(title_);
-    head->addStretch();
     head->addWidget(outOfDate_);
+    head->addWidget(note_, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
     layout->addLayout(head);
     layout->addWidget(split, 1);
-    layout->addWidget(note_);
 }
 
 void ResultTablePane::showTable(const QString& title, ResultTable table) {

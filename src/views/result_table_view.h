@@ -26,6 +26,8 @@ public:
     /// The selected cells, as they stand side by side.
     [[nodiscard]] QString selectionText(bool withHeaders) const;
     [[nodiscard]] QString wholeText() const;
+    /// Brings a row into view; -1 does nothing.
+    void showRow(int row) { scrollTo(model_.index(row, 0)); }
     /// Makes a row the current one, in view.
     void selectRow(int row);
     /// Width in which every column of the table has what its texts need.
@@ -48,6 +50,7 @@ private:
     void placeFirstColumn();
     [[nodiscard]] int contentWidth(int column) const;
     void fitColumns();
+    void breakLines(int column);
     void copy(const QString& text);
 
     ResultTableModel model_;
@@ -57,8 +60,8 @@ private:
     bool columnsSetByUser_ = false;
 };
 
-/// A table with its name above, and its signs and units below. Where its rows have details, those of the current row
-/// stand beneath it.
+/// A table with its name, and its signs and units, above. Where its rows have details, those of the current row stand
+/// beneath it.
 class ResultTablePane : public QWidget {
     Q_OBJECT
 

@@ -74,9 +74,12 @@ void ResultTreeView::showTree(const TreeNode& root) {
     clear();
     root_ = root;
     add(nullptr, root_);
-    topLevelItem(0)->setSizeHint(0, {0, fontMetrics().height() + 4});  // and so all rows
+    topLevelItem(0)->setSizeHint(0, {0, fontMetrics().height() + 2});  // and so all rows
     expandAll();
     if (QTreeWidgetItem* again = itemOf(selected)) setCurrentItem(again);
+    QTreeWidgetItem* last = topLevelItem(0);
+    while (last->childCount() > 0) last = last->child(last->childCount() - 1);
+    scrollToItem(last);
 }
 
 void ResultTreeView::setResultsReachable(bool reachable) {

@@ -10,6 +10,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
@@ -22,6 +23,21 @@ namespace borvik {
 namespace {
 
 constexpr QSize kStartSize(1024, 741);
+
+/// Height of the frame of results that holds ten rows, one of them of two lines, or eight notes and the text of one.
+int heightOfResults(const QFontMetrics& font) {
+    constexpr int kLines = 17, kBetween = 58;
+    return kLines * font.height() + kBetween;
+}
+
+/// A frame of the right side: little room between its border and what stands in it.
+QGroupBox* frameAround(QWidget* content, const char* caption) {
+    auto* frame = new QGroupBox(QString::fromUtf8(caption));
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(content);
+    return frame;
+}
 
 QPushButton* button(const char* name, const char* caption) {
     auto* made = new QPushButton(QString::fromUtf8(caption));
@@ -66,6 +82,8 @@ void MainWindow::buildCentre() {
     right->setStretchFactor(0, 3);
     right->setStretchFactor(1, 2);
     right->setChildrenCollapsible(false);
+    const int results = heightOfResults(fontMetrics());
+    right->setSizes({kStartSize.height() - results, results});
     auto* centre = new QSplitter(Qt::Horizontal);
     centre->setObjectName("splitterMain");
     centre->addWidget(inputColumn());
@@ -75,6 +93,30 @@ void MainWindow::buildCentre() {
     centre->setChildrenCollapsible(false);
     centre->setContentsMargins(6, 6, 6, 0);
     setCentralWidget(centre);
+    restoreSplitters();
+}
+
+/// Splitters stand where the user has left them; one that was never dragged keeps to the start sizes.
+void MainWindow::restoreSplitters() {
+    for (QSplitter* splitter : findChildren<QSplitter*>()) {
+        QList<int> sizes;
+        const std::string kept =
+            services_.settings.get(kApplicationTitle, "Settings", splitter->objectName().toStdString());
+        for (const QString& size : QString::fromStdString(kept).split(' ')) sizes.append(size.toInt());
+        if (sizes.size() == splitter->count() &&
+            std::all_of(sizes.begin(), sizes.end(), [](int size) { return size > 0; }))
+            splitter->setSizes(sizes);
+        connect(splitter, &QSplitter::splitterMoved, this, [this, splitter] { dragged_.insert(splitter); });
+    }
+}
+
+void MainWindow::keepSplitters() {
+    for (const QSplitter* splitter : dragged_) {
+        QStringList sizes;
+        for (const int size : splitter->sizes()) sizes.append(QString::number(size));
+        services_.settings.save(kApplicationTitle, "Settings", splitter->objectName().toStdString(),
+                                sizes.join(' ').toStdString());
+    }
 }
 
 QWidget* MainWindow::inputColumn() {
@@ -141,19 +183,15 @@ QWidget* MainWindow::pictureFrame() {
     pictures->setStretchFactor(0, 2);
     pictures->setStretchFactor(1, 3);
     pictures->setChildrenCollapsible(false);
-    auto* frame = new QGroupBox("Beamdata and Results");
-    auto* layout = new QVBoxLayout(frame);
-    layout->addWidget(pictures);
-    return frame;
+    pictures->setSizes({140, 260});
+    return frameAround(pictures, "Beamdata and Results");
 }
 
 QWidget* MainWindow::resultFrame() {
     results_ = new ResultTablePane("lstViewDetailed");
     connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::goToCheckOf);
-    auto* frame = new QGroupBox("Results");
+    QGroupBox* frame = frameAround(results_, "Results");
     frame->setObjectName("frmResults");
-    auto* layout = new QVBoxLayout(frame);
-    layout->addWidget(results_);
     return frame;
 }
 
@@ -275,6 +313,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         keep("MainWidth", width());
         keep("MainHeight", height());
     }
+    keepSplitters();
     progress_.reset();
     event->accept();
 }

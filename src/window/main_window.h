@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QSet>
+#include <QSplitter>
 #include <QToolButton>
 #include <functional>
 #include <initializer_list>
@@ -76,6 +78,8 @@ private:
     struct MenuEntry;
 
     void buildCentre();
+    void restoreSplitters();
+    void keepSplitters();
     QWidget* inputColumn();
     QWidget* pictureFrame();
     QWidget* resultFrame();
@@ -166,6 +170,7 @@ private:
     std::unique_ptr<ProgressDialog> progress_;
 
     ProjectPanel* panel_ = nullptr;
+    QSet<const QSplitter*> dragged_;  ///< by the user, since the start
     ResultTreeView* tree_ = nullptr;
     DiagramView* picBalk_ = nullptr;
     DiagramView* picRes_ = nullptr;

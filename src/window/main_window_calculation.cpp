@@ -4,6 +4,7 @@
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
+#include "results/tables.h"
 #include "window/main_window.h"
 
 namespace borvik {
@@ -84,6 +85,7 @@ void MainWindow::showCalculation() {
     picRes_->showResults(pictureDiagrams("MyVz", session_.project), calculation_);
     chosenNode_ = "My + Vz";
     showTable("Summary");
+    results_->list()->showRow(governingRow(results_->list()->table()));
     showGoverning();
     const std::string fault = LoadRemark(session_.project);
     if (fault != std::exchange(loadFaultShown_, fault) && !fault.empty()) services_.messages.show(fault);

@@ -59,6 +59,26 @@ TEST_F(MainWindowTest, fitsASmallScreen) {
     EXPECT_LE(window.minimumSizeHint().height(), 700);
 }
 
+TEST_F(MainWindowTest, showsTenRowsOrEightNotesUncutAtItsStartSize) {
+    trigger("mnuCalc");
+    QCoreApplication::processEvents();
+    const auto& list = control<ResultTableView>("lstViewDetailed");
+    const auto& text = *list.model();
+    const int governing = governingRow(list.table());
+    EXPECT_EQ(text.index(governing, 1).data().toString(), "0.497");
+    for (const int row : {0, 9, governing})
+        EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(text.index(row, 0)))) << row;
+    for (int row = 0; row < text.rowCount(); ++row) {
+        const QRect cell = list.visualRect(text.index(row, 0));
+        const QRect needed = list.fontMetrics().boundingRect(QRect(0, 0, cell.width() - 8, 1), Qt::TextWordWrap,
+                                                             text.index(row, 0).data().toString());
+        EXPECT_TRUE(needed.height() <= cell.height() && needed.width() < cell.width()) << row;
+    }
+    control<QToolButton>("stateNotes").click();
+    QCoreApplication::processEvents();
+    EXPECT_GE(list.viewport()->height(), 8 * list.rowHeight(0));
+}
+
 TEST_F(MainWindowTest, controlsHaveTheirCaptions) {
     std::string menu;
     for (const char* name :

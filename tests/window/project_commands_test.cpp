@@ -239,6 +239,20 @@ TEST_F(ProjectCommands, recentFilesOpenByAClick) {
     EXPECT_EQ(control<QLineEdit>("iproj").text(), "b");
 }
 
+TEST_F(ProjectCommands, aDraggedSplitterStandsThereAtTheNextStart) {
+    const int before = control<ResultTableView>("lstViewDetailed").height();
+    QWidget* handle = control<QSplitter>("splitterResults").handle(1);
+    QTest::mousePress(handle, Qt::LeftButton, {}, {5, 2});
+    QTest::mouseMove(handle, {5, 42});
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, {5, 42});
+    EXPECT_EQ(control<ResultTableView>("lstViewDetailed").height(), before - 40);
+    window.close();
+    EXPECT_EQ(settings.get("Borvik", "Settings", "splitterMain"), "") << "never dragged";
+    MainWindow next(session, {messages, questions, settings});
+    next.show();
+    EXPECT_EQ(next.findChild<QWidget*>("lstViewDetailed")->height(), before - 40);
+}
+
 TEST_F(ProjectCommands, closingKeepsTheEdgesAndAsksNothing) {
     project().Span(1) = 7000;
     window.setGeometry(30, 40, 1100, 800);
