@@ -106,6 +106,10 @@ Session calculated(Sample sample) {
             setTwoCranes(p);
             p.TwoCraneMode = 2;
             p.MinDistConst = 1.0;
+            p.SpanSection(2) = p.SectionList(2);
+            p.SpanSection(2).tw = 6.0;
+            p.SpanSection(2).DisplayName = "Iu 700x300x200x6x25x25";
+            p.LoadLevel = 2;
             p.Fat6 = false;
             break;
     }

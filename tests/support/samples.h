@@ -14,7 +14,8 @@ enum class Sample {
     Monorail,     ///< a hoist with all details that a rolled girder has
     ThirtySpans,  ///< thirty spans of thirty sections under two cranes, every fatigue detail and four splices
     Overloaded,   ///< one span, ratios below and above 10, vertical loads only, no splices
-    Together,     ///< two cranes at a constant distance that act together, without the fatigue detail at supports
+    Together,  ///< two cranes at a constant distance, a span of unequal flanges and a slender web, no fatigue detail at
+               ///< supports
 };
 inline constexpr Sample kSamples[] = {Sample::OneCrane,    Sample::TwoCranes,  Sample::Monorail,
                                       Sample::ThirtySpans, Sample::Overloaded, Sample::Together};
