@@ -115,29 +115,30 @@ void DiagramView::paintEvent(QPaintEvent*) {
         painter.drawText(rect(), Qt::AlignCenter, tr("Results stand here after a calculation (F5)"));
         return;
     }
+    const Ground ground = Ground::of(palette());
     const QSize pixels = size() * devicePixelRatioF();
     if (drawn_.size() != pixels) {
         drawn_ = QPixmap(pixels);
         drawn_.setDevicePixelRatio(devicePixelRatioF());
-        drawn_.fill(Qt::white);
+        drawn_.fill(ground.paper);
         QPainter onto(&drawn_);
         onto.setRenderHint(QPainter::Antialiasing);
         try {
-            QtSurface surface(onto, QRectF(rect()), textScale());
+            QtSurface surface(onto, QRectF(rect()), textScale(), ground);
             draw(surface);
         } catch (const RuntimeFault& fault) {
-            onto.setPen(Qt::black);
+            onto.setPen(ground.ink);
             onto.drawText(rect().adjusted(8, 8, -8, -8), Qt::TextWordWrap, QString::fromUtf8(fault.what()));
         }
     }
     if (outOfDate_) {
-        painter.fillRect(rect(), Qt::white);
+        painter.fillRect(rect(), ground.paper);
         painter.setOpacity(0.45);
     }
     painter.drawPixmap(0, 0, drawn_);
     painter.setOpacity(1.0);
     if (outOfDate_) {
-        QtSurface surface(painter, QRectF(rect()), textScale());
+        QtSurface surface(painter, QRectF(rect()), textScale(), ground);
         drawNotice(surface);
         painter.resetTransform();
     }
@@ -153,7 +154,7 @@ void DiagramView::paintEvent(QPaintEvent*) {
 void DiagramView::drawReading(QPainter& painter) const {
     constexpr double kAway = 10.0;
     const Place point = pictureFrame(diagrams_).pointOf(readAt_, width(), height());
-    painter.setPen(QPen(QColor(90, 90, 90), 1, Qt::DashLine));
+    painter.setPen(QPen(Ground::of(palette()).line(colours::grey), 1, Qt::DashLine));
     painter.drawLine(QPointF(point.x, 0), QPointF(point.x, height()));
     // The place, and below it a line for each value.
     const QString lines = reading_.section(": ", 0, 0) + '\n' + reading_.section(": ", 1).replace(", ", "\n");
@@ -282,6 +283,7 @@ bool DiagramView::takesClicksAt(QPointF point) const {
 }
 
 bool DiagramView::event(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) drawn_ = {};
     if (event->type() == QEvent::ToolTip && !takesClicksAt(static_cast<QHelpEvent*>(event)->pos())) {
         QToolTip::hideText();
         return true;

@@ -285,6 +285,27 @@ TEST_F(ResultsTest, theMenuCopiesThePictureThatHasTheFocus) {
     EXPECT_EQ(copied(), 500);
 }
 
+TEST_F(ResultsTest, aDarkScreenHasDarkDiagramsAndCopiesWhiteOnes) {
+    trigger("mnuCalc");
+    QPalette dark = picRes().palette();
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(230, 230, 230));
+    picRes().setPalette(dark);
+    const QImage shown = picRes().grab().toImage();
+    EXPECT_EQ(shown.pixelColor(3, 3), QColor(30, 30, 30));
+    int light = 0, red = 0;
+    for (int x = 0; x < shown.width(); ++x)
+        for (int y = 0; y < shown.height(); ++y) {
+            const QColor colour = shown.pixelColor(x, y);
+            light += colour.lightness() > 180 && colour.hslSaturation() < 20;
+            red += colour.red() > colour.green() + 60 && colour.red() > colour.blue() + 60;
+        }
+    EXPECT_TRUE(light > 500 && light < shown.width() * shown.height() / 10) << light;
+    EXPECT_GT(red, 300) << "the beam keeps its hue";
+    picRes().copyPicture();
+    EXPECT_EQ(QGuiApplication::clipboard()->image().pixelColor(3, 3), QColor(Qt::white));
+}
+
 TEST_F(ResultsTest, theKeyboardWalksOverResultsAndOpensNoWindow) {
     calculate();
     auto& tree = control<ResultTreeView>("TreeView1");

@@ -5,6 +5,9 @@
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPolygonF>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace borvik {
 namespace {
@@ -54,10 +57,46 @@ QString toQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// Relative luminance of a screen colour, 0 to 1 (IEC 61966-2-1).
+double luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& light, const QColor& dark) {
+    return (luminance(light) + 0.05) / (luminance(dark) + 0.05);
+}
+
 }  // namespace
 
-QtSurface::QtSurface(QPainter& painter, const QRectF& area, double textScale)
-    : painter_(painter), area_(area), textScale_(textScale) {
+Ground Ground::of(const QPalette& palette) {
+    const Ground screen{palette.color(QPalette::Base), palette.color(QPalette::Text)};
+    return screen.isDark() ? screen : Ground{};
+}
+
+QColor Ground::area(Colour onPaper) const {
+    const QColor colour = toQt(onPaper);
+    if (!isDark()) return colour;
+    if (onPaper == colours::white) return paper;
+    const double light = ink.lightnessF() + (paper.lightnessF() - ink.lightnessF()) * colour.lightnessF();
+    return QColor::fromHslF(std::max(0.0F, colour.hslHueF()), colour.hslSaturationF(), static_cast<float>(light));
+}
+
+QColor Ground::line(Colour onPaper) const {
+    QColor colour = area(onPaper);
+    if (!isDark() || onPaper == colours::white) return colour;
+    constexpr double kLeastContrast = 4.5;
+    constexpr float kStep = 0.02F;
+    while (contrast(colour, paper) < kLeastContrast && colour.lightnessF() < 1.0F - kStep)
+        colour =
+            QColor::fromHslF(std::max(0.0F, colour.hslHueF()), colour.hslSaturationF(), colour.lightnessF() + kStep);
+    return colour;
+}
+
+QtSurface::QtSurface(QPainter& painter, const QRectF& area, double textScale, Ground ground)
+    : painter_(painter), area_(area), textScale_(textScale), ground_(std::move(ground)), pen_(ground_.ink) {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter_.setBrush(Qt::NoBrush);
     applyPen();
@@ -99,7 +138,7 @@ void QtSurface::polygon(std::span<const Place> places, Colour fill) {
     for (const Place place : places) polygon << toArea(place);
     painter_.save();
     painter_.setPen(Qt::NoPen);
-    painter_.setBrush(toQt(fill));
+    painter_.setBrush(ground_.area(fill));
     painter_.drawPolygon(polygon, Qt::WindingFill);
     painter_.restore();
 }
@@ -142,13 +181,13 @@ void QtSurface::setFont(const Font& font) {
 }
 
 void QtSurface::setColour(Colour colour) {
-    pen_.setColor(toQt(colour));
+    pen_.setColor(ground_.line(colour));
     applyPen();
 }
 
 void QtSurface::setFill(std::optional<Colour> fill) {
     if (fill)
-        painter_.setBrush(toQt(*fill));
+        painter_.setBrush(ground_.area(*fill));
     else
         painter_.setBrush(Qt::NoBrush);
 }

@@ -1,11 +1,28 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
+#include <QPalette>
 #include <QRectF>
 
 #include "platform/drawing_surface.h"
 
 namespace borvik {
+
+/// What a drawing made for white paper is shown on: drawings name their colours for paper, a dark screen turns light
+/// into dark and keeps the hue.
+struct Ground {
+    QColor paper = Qt::white;
+    QColor ink = Qt::black;
+
+    /// That of a palette; white paper unless the palette is dark.
+    [[nodiscard]] static Ground of(const QPalette& palette);
+    [[nodiscard]] bool isDark() const { return paper.lightness() < ink.lightness(); }
+    /// The colour of an area.
+    [[nodiscard]] QColor area(Colour onPaper) const;
+    /// The colour of a line or a text: light enough to stand out.
+    [[nodiscard]] QColor line(Colour onPaper) const;
+};
 
 /// Draws through a QPainter: on a widget, a picture, an SVG file or a printed page.
 class QtSurface : public DrawingSurface {
@@ -13,7 +30,8 @@ public:
     /// @param painter    active as long as the surface lives; its state is left changed
     /// @param area       the area of the drawing in the painter's units
     /// @param textScale  factor on every font size, for large pictures
-    QtSurface(QPainter& painter, const QRectF& area, double textScale = 1.0);
+    /// @param ground     what the painter draws on
+    QtSurface(QPainter& painter, const QRectF& area, double textScale = 1.0, Ground ground = {});
 
     void scale(double left, double top, double right, double bottom) override;
     void line(Place from, Place to) override;
@@ -40,8 +58,9 @@ private:
     QPainter& painter_;
     QRectF area_;
     double textScale_;
+    Ground ground_;
     QRectF frame_{0.0, 0.0, 1.0, 1.0};
-    QPen pen_{Qt::black};
+    QPen pen_;
 };
 
 }  // namespace borvik
