@@ -30,9 +30,9 @@ struct PositionLog {
 /// largest or smallest of the walk; the first position that reaches it stays. A record that no position filled is all
 /// zero.
 struct UlsResults {
-    static constexpr int kPlaceSlot = 9;   ///< x of the governing point, in the span records of My and Vz
-    static constexpr int kPlaceSlotY = 7;  ///< and in those of Mz and Vy
-    Array<Single> RzMax, RzMin, RyMax, RyMin;                     ///< [1..supports], upward positive
+    static constexpr int kPlaceSlot = 9;       ///< x of the governing point, in the span records of My and Vz
+    static constexpr int kPlaceSlotY = 7;      ///< and in those of Mz and Vy
+    Array<Single> RzMax, RzMin, RyMax, RyMin;  ///< [1..supports], upward positive
     Cube<Single> MyMaxPoint, MyMinPoint, VzMaxPoint, VzMinPoint;  ///< [span][1..21][1..8]
     Cube<Single> MzMaxPoint, MzMinPoint, VyMaxPoint, VyMinPoint;  ///< [span][1..21][1..6]
     Table<Single> MyMaxSpan, MyMinSpan, VzMaxSpan, VzMinSpan;     ///< [span][1..9], 9: x of the point in its span, mm

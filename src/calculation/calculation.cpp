@@ -4,7 +4,7 @@
 
 #include "analysis/loads.h"
 #include "base/number_text.h"
-#include "checks/code_checks.h"
+#include "checks/ltb_checks.h"
 #include "fatigue/fatigue.h"
 #include "section/section.h"
 
@@ -99,7 +99,8 @@ void RunStatic(Run& run) {
 
     setSlsLoads(project, rail, run.loads);
     run.results.Sls = RunSls(project, run.loads, run.method, run.messages, run.progress);
-    run.results.Checks = RunCodeChecks(project, session.context, uls, run.results.Sls);
+    if (project.DefaultCfactor) DefaultCFactors(project);
+    run.results.Checks = RunCodeChecks({project, rail, uls, run.results.Sls});
 }
 
 /// Two cranes are always overhead cranes here, whatever the crane type says.

@@ -6,7 +6,7 @@
 
 #include "analysis/results.h"
 #include "analysis/walk.h"
-#include "checks/check_rows.h"
+#include "checks/static_checks.h"
 #include "fatigue/fatigue_results.h"
 #include "platform/messages.h"
 #include "platform/progress.h"

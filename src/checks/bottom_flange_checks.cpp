@@ -2,7 +2,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "base/fault.h"
 #include "checks/check_texts.h"
 #include "checks/local_checks.h"
 
@@ -98,44 +97,37 @@ double VonMisesStress(const Project& project, const SectionRecord& section, cons
     return largest;
 }
 
-void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
+RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
+    const Project& project = basis.project;
+    const SectionRecord& section = project.SpanSection(span);
     const double Fz = largestWheel(project) * project.LfULS * project.PsiV1;
     const double xw = *std::max_element(project.Avst.begin(), project.Avst.begin() + 3);
+    // Stress at the underside from My alone: the flange's own share of Mz is left out.
+    const double MyMax = basis.uls.MyMaxSpan(span, 1), MyMin = basis.uls.MyMinSpan(span, 1);
+    const double Sf =
+        std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
+    // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0: note D7.
+    const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
+                                         Sf / project.fyk / project.GammaM0);
 
-    checks.LocalSpan = Array<RowSet<4>>(1, project.NofSpans);
-    for (int span = 1; span <= project.NofSpans; ++span)
-        watched("Flange bending", span, [&] {
-            const SectionRecord& section = project.SpanSection(span);
-            // Stress at the underside from My alone: the flange's own share of Mz is left out.
-            const double MyMax = uls.MyMaxSpan(span, 1), MyMin = uls.MyMinSpan(span, 1);
-            const double Sf =
-                std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
-            // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0: note D7.
-            const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
-                                                 Sf / project.fyk / project.GammaM0);
-
-            RowSet<4>& rows = checks.LocalSpan(span);
-            rows(1) = "IR = Fz,Ed/Ff,Rd = ";
-            rows(2) = oneDecimal(Fz / 2) + "/" + oneDecimal(FfRd) + " = ";
-            setRatio(rows, Fz / 2 / FfRd);
-            rows(4) = " <  1.00 (Ch 6.7/EN 1993-6)";
-        });
-    checks.LocalGov = governingLocal(checks.LocalSpan);
+    RowSet rows;
+    rows(1) = "IR = Fz,Ed/Ff,Rd = ";
+    rows(2) = oneDecimal(Fz / 2) + "/" + oneDecimal(FfRd) + " = ";
+    setRatio(rows, Fz / 2 / FfRd);
+    rows(4) = " <  1.00 (Ch 6.7/EN 1993-6)";
+    return rows;
 }
 
-void VonMisesCheck(const Project& project, const UlsResults& uls, CheckResults& checks) {
-    checks.VonMisesSpan = Array<RowSet<4>>(1, project.NofSpans);
-    for (int span = 1; span <= project.NofSpans; ++span)
-        watched("Von Mises stress", span, [&] {
-            const double SvM = VonMisesStress(project, project.SpanSection(span), vonMisesBasis(project, uls, span));
+RowSet vonMisesRow(const CheckBasis& basis, int span, int) {
+    const Project& project = basis.project;
+    const double SvM = VonMisesStress(project, project.SpanSection(span), vonMisesBasis(project, basis.uls, span));
 
-            RowSet<4>& rows = checks.VonMisesSpan(span);
-            rows(1) = "IR = SigvM/fyk = ";
-            rows(2) = oneDecimal(SvM) + "/" + oneDecimal(project.fyk) + " = ";
-            setRatio(rows, SvM / project.fyk);
-            rows(4) = " <  1.00 (Ch 5.8/7.5/EN 1993-6)";
-        });
-    checks.VonMisesGov = governingLocal(checks.VonMisesSpan);
+    RowSet rows;
+    rows(1) = "IR = SigvM/fyk = ";
+    rows(2) = oneDecimal(SvM) + "/" + oneDecimal(project.fyk) + " = ";
+    setRatio(rows, SvM / project.fyk);
+    rows(4) = " <  1.00 (Ch 5.8/7.5/EN 1993-6)";
+    return rows;
 }
 
 }  // namespace borvik

@@ -21,14 +21,13 @@ namespace borvik {
 }
 
 /// Row 3 and the number behind it.
-template <int Rows>
-void setRatio(RowSet<Rows>& rows, double ratio) {
+inline void setRatio(RowSet& rows, double ratio) {
     rows(3) = formatNumber(ratio, "0.000");
     rows.Ratio = ratio;
 }
 
 /// Rows 5 to 8 of a check: slots 5 to 8 of the span's record, which are span and distance a of wheel 1 and of wheel 5.
-inline void setWheelRows(RowSet<8>& rows, const Table<Single>& records, int span) {
+inline void setWheelRows(RowSet& rows, const Table<Single>& records, int span) {
     for (int slot = 5; slot <= 8; ++slot) rows(slot) = generalText(records(span, slot));
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "analysis/results.h"
-#include "checks/check_rows.h"
-#include "project/project.h"
+#include "checks/static_checks.h"
 
 namespace borvik {
 
-/// Largest deflection of every span against L/DefZ (vertical) and L/DefY (horizontal): fills the Def rows. Row 5: span
-/// and distance a of wheel 1, such as "2/1400".
-/// @throws RuntimeFault  naming the span, on an arithmetic fault such as a limit of zero
-void DeflectionChecks(const Project& project, const SlsResults& sls, CheckResults& checks);
+/// Largest vertical deflection of a span against L/DefZ. Row 5: span and distance a of wheel 1, such as "2/1400".
+/// Faults: a limit of zero.
+[[nodiscard]] RowSet verticalDeflectionRow(const CheckBasis& basis, int span, int extreme);
+
+/// The horizontal one against L/DefY.
+[[nodiscard]] RowSet horizontalDeflectionRow(const CheckBasis& basis, int span, int extreme);
 
 }  // namespace borvik

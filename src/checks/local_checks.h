@@ -1,28 +1,25 @@
 #pragma once
 
-#include "analysis/results.h"
-#include "checks/check_rows.h"
-#include "project/project.h"
+#include "checks/static_checks.h"
 
 namespace borvik {
 
 /// Wheel of an overhead crane on the web below the top flange, EN 1993-6 5.7.1 with EN 1993-1-5 chapter 6. Takes the
 /// wheel loads as entered, without load factor or dynamic factor; the whole span counts as distance of the stiffeners.
-/// Fills LocalSpan and LocalGov, and the worn area and second moment of the current rail.
-/// @throws RuntimeFault  naming the span, on an arithmetic fault such as a web or rail of no thickness
-void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResults& checks);
+/// wearStatic comes before. Faults: a web or rail of no thickness.
+[[nodiscard]] RowSet patchLoadRow(const CheckBasis& basis, int span, int extreme);
+
+/// The rail of the check above: worn, EN 1993-6 5.6.2(2).
+/// @throws RuntimeFault  on an arithmetic fault
+void wearStatic(CheckBasis& basis);
 
 /// Wheels of a monorail on the bottom flange, EN 1993-6 6.7: bending of the flange under half of the largest factored
-/// wheel. Fills LocalSpan and LocalGov.
-/// @throws RuntimeFault  naming the span, on an arithmetic fault, such as a wheel that runs on the root of the web
-///                       (m = 0)
-void FlangeBendingCheck(const Project& project, const UlsResults& uls, CheckResults& checks);
+/// wheel. Faults: a wheel that runs on the root of the web (m = 0).
+[[nodiscard]] RowSet flangeBendingRow(const CheckBasis& basis, int span, int extreme);
 
 /// Von Mises stress in the bottom flange of a monorail, EN 1993-6 5.8 and 7.5: local stresses of a wheel pair at the
 /// web (point 1), under the load (2) and at the flange tip (3), together with the bending of the beam. No load factors.
-/// Fills VonMisesSpan and VonMisesGov.
-/// @throws RuntimeFault  naming the span, on an arithmetic fault
-void VonMisesCheck(const Project& project, const UlsResults& uls, CheckResults& checks);
+[[nodiscard]] RowSet vonMisesRow(const CheckBasis& basis, int span, int extreme);
 
 /// FRd of EN 1993-1-5 6.2(1), kN.
 /// @param leff        effective loaded length, mm
@@ -60,9 +57,5 @@ struct VonMisesBasis {
 [[nodiscard]] VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int span);
 /// The largest von Mises stress of the three points, N/mm2.
 [[nodiscard]] double VonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis);
-
-/// Governing rows of a local check: the larger of the last two spans, the last one at a tie. A larger ratio of an
-/// earlier span stands in its own rows only: note H2.
-[[nodiscard]] RowSet<6> governingLocal(const Array<RowSet<4>>& perSpan);
 
 }  // namespace borvik

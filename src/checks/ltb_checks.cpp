@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "base/fault.h"
 #include "checks/check_texts.h"
 #include "checks/ltb_reduction.h"
 
@@ -20,13 +19,13 @@ bool isEndSpan(const Project& project, int span) {
 
 /// @param My,Mz    design moments, kNm
 /// @param records  where the wheels of rows 5 to 8 stand
-RowSet<8> ltbRows(const Project& project, int span, bool positive, Single My, Single Mz, Single ChiLT,
-                  const Table<Single>& records) {
+RowSet ltbRows(const Project& project, int span, bool positive, Single My, Single Mz, Single ChiLT,
+               const Table<Single>& records) {
     const LtbResistance resistance(project, span, positive);
     const std::string first = oneDecimal(My) + "/(" + twoDecimals(ChiLT) + "*" + oneDecimal(resistance.My) + ")";
     const std::string limit = " <  1.00 Beam: " + generalText(span);
 
-    RowSet<8> rows;
+    RowSet rows;
     if (Mz == 0) {
         rows(1) = "IR = My,Ed/(xLT*My,Rd) = ";
         rows(2) = first + " = ";
@@ -43,13 +42,13 @@ RowSet<8> ltbRows(const Project& project, int span, bool positive, Single My, Si
     return rows;
 }
 
-RowSet<8> positiveRows(const Project& project, int span, const UlsResults& uls) {
+RowSet positiveRows(const Project& project, int span, const UlsResults& uls) {
     const Single My = uls.MyMaxSpan(span, 1) / 1000000;
     const Single Mz = std::abs(uls.MyMaxSpan(span, 3)) / 1000000;
     return ltbRows(project, span, true, My, Mz, PositiveReduction(project, span), uls.MyMaxSpan);
 }
 
-RowSet<8> negativeRows(const Project& project, int span, const UlsResults& uls) {
+RowSet negativeRows(const Project& project, int span, const UlsResults& uls) {
     const Table<Single>& support = uls.MySupportSpan;
     const Single My = std::abs(support(span, 1)) / 1000000;
     const Single Mz = std::abs(support(span, 4)) / 1000000;
@@ -128,22 +127,8 @@ void DefaultCFactors(Project& project) {
     project.C3MidNeg = 1;
 }
 
-void LtbChecks(Project& project, ProjectContext& context, const UlsResults& uls, CheckResults& checks) {
-    if (project.DefaultCfactor) DefaultCFactors(project);
-    const int spans = project.NofSpans;
-    checks.LtbPos = checks.LtbNeg = checks.LtbSpan = Array<RowSet<8>>(1, spans);
-    checks.LtbGov = {};
-
-    for (int span = 1; span <= spans; ++span) {
-        watched("Lateral torsional buckling", span, [&] {
-            context.CurrentSection = project.SpanSection(span);
-            checks.LtbPos(span) = positiveRows(project, span, uls);
-            checks.LtbNeg(span) = negativeRows(project, span, uls);
-        });
-        const bool positiveGoverns = checks.LtbPos(span).Ratio > checks.LtbNeg(span).Ratio;
-        checks.LtbSpan(span) = positiveGoverns ? checks.LtbPos(span) : checks.LtbNeg(span);
-        if (ranksAbove(checks.LtbSpan(span)(3), checks.LtbGov(3))) checks.LtbGov = checks.LtbSpan(span);
-    }
+RowSet bucklingRow(const CheckBasis& basis, int span, int extreme) {
+    return extreme == 0 ? positiveRows(basis.project, span, basis.uls) : negativeRows(basis.project, span, basis.uls);
 }
 
 }  // namespace borvik

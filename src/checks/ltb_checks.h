@@ -2,9 +2,7 @@
 
 #include <optional>
 
-#include "analysis/results.h"
-#include "checks/check_rows.h"
-#include "project/project.h"
+#include "checks/static_checks.h"
 
 namespace borvik {
 
@@ -44,12 +42,10 @@ struct LtbResistance {
 /// only the three that a single span uses are set; C2EndNeg and C2MidNeg belong to no case and stay as they are.
 void DefaultCFactors(Project& project);
 
-/// Lateral torsional buckling of every span between its supports, EN 1993-1-1 6.3.2, with a horizontal moment EN
-/// 1993-6 6.3.3, for the largest positive moment and for the most negative support moment: fills the Ltb rows. Rows 5
-/// to 8 as in the section checks. The first and the last span use the End factors, the others the Mid factors. Fills
-/// the factors of the project first where DefaultCfactor is set. CurrentSection is left holding the last span's
-/// section.
-/// @throws RuntimeFault  naming the span, on an arithmetic fault such as a negative critical moment
-void LtbChecks(Project& project, ProjectContext& context, const UlsResults& uls, CheckResults& checks);
+/// Lateral torsional buckling of a span between its supports, EN 1993-1-1 6.3.2, with a horizontal moment EN 1993-6
+/// 6.3.3, for the largest positive moment (extreme 0) and for the most negative support moment (1). Rows 5 to 8 as in
+/// the section checks. The first and the last span use the End factors, the others the Mid factors.
+/// @throws RuntimeFault  on an arithmetic fault such as a negative critical moment, where watched
+[[nodiscard]] RowSet bucklingRow(const CheckBasis& basis, int span, int extreme);
 
 }  // namespace borvik

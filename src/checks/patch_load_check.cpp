@@ -3,7 +3,6 @@
 
 #include "base/fault.h"
 #include "checks/check_texts.h"
-#include "checks/loaded_length.h"
 #include "checks/local_checks.h"
 
 namespace borvik {
@@ -37,37 +36,24 @@ double PatchResistance(const Project& project, const SectionRecord& section, dou
     return stockyRule && slender.lamF <= 0.5 ? patchLoad(project, section, leff, a, false).FRd : slender.FRd;
 }
 
-void PatchLoadCheck(const Project& project, ProjectContext& context, CheckResults& checks) {
-    RailRecord& rail = context.CurrentRail;
-    // The wheels count as entered, unlike in the two checks of a monorail.
-    const double Fz = *std::max_element(project.V.begin(), project.V.end());
-    WornRail worn;
-    watched("Patch load", 0, [&] { worn = wearRail(rail, kWearStatic); });
-    rail.RailAred = worn.Ared;
-    rail.RailIred = worn.Ired;
-
-    checks.LocalSpan = Array<RowSet<4>>(1, project.NofSpans);
-    for (int span = 1; span <= project.NofSpans; ++span)
-        watched("Patch load", span, [&] {
-            const SectionRecord& section = project.SpanSection(span);
-            const double leff = effectiveLoadedLength(rail, worn, project.RailFix, section);
-            const double FzRd = PatchResistance(project, section, leff, project.Span(span));
-
-            RowSet<4>& rows = checks.LocalSpan(span);
-            rows(1) = "IR = Fz,Ed/Fz,Rd = ";
-            rows(2) = oneDecimal(Fz) + "/" + oneDecimal(FzRd) + " = ";
-            setRatio(rows, Fz / FzRd);
-            rows(4) = " <  1.00 (Ch 5.7.1/EN 1993-6)";
-        });
-    checks.LocalGov = governingLocal(checks.LocalSpan);
+void wearStatic(CheckBasis& basis) {
+    watched("Patch load", 0, [&] { basis.worn = wearRail(basis.rail, kWearStatic); });
 }
 
-RowSet<6> governingLocal(const Array<RowSet<4>>& perSpan) {
-    const int last = perSpan.last();
-    const bool lastGoverns = last == 1 || perSpan(last - 1).Ratio <= perSpan(last).Ratio;
-    RowSet<6> governing;
-    copyRows(governing, perSpan(lastGoverns ? last : last - 1), 1, 4);
-    return governing;
+RowSet patchLoadRow(const CheckBasis& basis, int span, int) {
+    const Project& project = basis.project;
+    const SectionRecord& section = project.SpanSection(span);
+    // The wheels count as entered, unlike in the two checks of a monorail.
+    const double Fz = *std::max_element(project.V.begin(), project.V.end());
+    const double leff = effectiveLoadedLength(basis.rail, basis.worn, project.RailFix, section);
+    const double FzRd = PatchResistance(project, section, leff, project.Span(span));
+
+    RowSet rows;
+    rows(1) = "IR = Fz,Ed/Fz,Rd = ";
+    rows(2) = oneDecimal(Fz) + "/" + oneDecimal(FzRd) + " = ";
+    setRatio(rows, Fz / FzRd);
+    rows(4) = " <  1.00 (Ch 5.7.1/EN 1993-6)";
+    return rows;
 }
 
 }  // namespace borvik

@@ -40,11 +40,11 @@ std::string limitAt(int span, double position, const char* mask) {
 
 /// @param steps         VzMaxSpan or VzMinSpan
 /// @param positionMask  of the position in row 4
-RowSet<8> shearRows(const SectionRecord& section, const Table<Single>& steps, int span, const char* positionMask) {
+RowSet shearRows(const SectionRecord& section, const Table<Single>& steps, int span, const char* positionMask) {
     const double VzEd = std::abs(steps(span, 2)) / 1000;
     const Single ratio = VzEd / section.VzRd;
 
-    RowSet<8> rows;
+    RowSet rows;
     rows(1) = "IR = Vz,Ed/Vz,Rd = ";
     rows(2) = oneDecimal(VzEd) + "/" + oneDecimal(section.VzRd);
     setRatio(rows, ratio);
@@ -54,8 +54,8 @@ RowSet<8> shearRows(const SectionRecord& section, const Table<Single>& steps, in
 }
 
 /// @param steps  MyMaxSpan or MyMinSpan
-RowSet<8> bendingRows(const Project& project, const SectionRecord& section, const Table<Single>& steps, int span,
-                      const BendingTexts& texts) {
+RowSet bendingRows(const Project& project, const SectionRecord& section, const Table<Single>& steps, int span,
+                   const BendingTexts& texts) {
     const SectionForces forces(steps(span, 1), steps(span, 2), steps(span, 3));
     const BendingResistance resistance(project, section, forces);
 
@@ -64,7 +64,7 @@ RowSet<8> bendingRows(const Project& project, const SectionRecord& section, cons
     const std::string My = oneDecimal(std::abs(forces.My)) + "/" + oneDecimal(resistance.My);
     const std::string Mz = oneDecimal(forces.Mz) + "/" + oneDecimal(resistance.Mz);
 
-    RowSet<8> rows;
+    RowSet rows;
     const char* reference = nullptr;
     // The class under positive moment decides the formula for a negative moment too, as it does for MzRd: the
     // horizontal load acts on the top flange, whatever the sign of My.
@@ -84,24 +84,6 @@ RowSet<8> bendingRows(const Project& project, const SectionRecord& section, cons
     setRatio(rows, BendingRatio(forces, resistance, section.ClassPos));
     rows(4) = limitAt(span, steps(span, 9), "0") + reference;
     setWheelRows(rows, steps, span);
-    return rows;
-}
-
-/// Per span the shear ratios are compared as numbers. At a tie the smallest Vz counts; wheel 5 is always that of the
-/// largest.
-RowSet<8> worseShear(const RowSet<8>& max, const RowSet<8>& min) {
-    if (max.Ratio > min.Ratio) return max;
-    RowSet<8> rows;
-    copyRows(rows, min, 1, 6);
-    copyRows(rows, max, 7, 8);
-    return rows;
-}
-
-/// Per span the bending ratios are compared as texts. The wheels are always those of the largest moment.
-RowSet<8> worseBending(const RowSet<8>& max, const RowSet<8>& min) {
-    RowSet<8> rows;
-    copyRows(rows, ranksAbove(max(3), min(3)) ? max : min, 1, 4);
-    copyRows(rows, max, 5, 8);
     return rows;
 }
 
@@ -134,30 +116,17 @@ Single ReducedMoment(const Project& project, const SectionRecord& section, doubl
     return base - web;
 }
 
-void SectionChecks(const Project& project, ProjectContext& context, const UlsResults& uls, CheckResults& checks) {
-    const int spans = project.NofSpans;
-    checks.ShearMax = checks.ShearMin = checks.ShearSpan = Array<RowSet<8>>(1, spans);
-    checks.BendMax = checks.BendMin = checks.BendSpan = Array<RowSet<8>>(1, spans);
-    checks.ShearGov = checks.BendGov = {};
+RowSet shearRow(const CheckBasis& basis, int span, int extreme) {
+    const SectionRecord& section = basis.project.SpanSection(span);
+    // Row 4 has a blank before "mm" only for the smallest Vz, which tells the two apart.
+    if (extreme == 0) return shearRows(section, basis.uls.VzMaxSpan, span, "0");
+    return shearRows(section, basis.uls.VzMinSpan, span, "0 ");
+}
 
-    for (int span = 1; span <= spans; ++span)
-        watched("Section checks", span, [&] {
-            context.CurrentSection = project.SpanSection(span);
-            const SectionRecord& section = context.CurrentSection;
-            // Row 4 has a blank before "mm" only for the smallest Vz, which tells the two apart.
-            checks.ShearMax(span) = shearRows(section, uls.VzMaxSpan, span, "0");
-            checks.ShearMin(span) = shearRows(section, uls.VzMinSpan, span, "0 ");
-            checks.BendMax(span) = bendingRows(project, section, uls.MyMaxSpan, span, kBendMaxTexts);
-            checks.BendMin(span) = bendingRows(project, section, uls.MyMinSpan, span, kBendMinTexts);
-        });
-
-    // The governing rows start empty, so that the first span always enters; of equal texts the earlier span stays.
-    for (int span = 1; span <= spans; ++span) {
-        checks.ShearSpan(span) = worseShear(checks.ShearMax(span), checks.ShearMin(span));
-        checks.BendSpan(span) = worseBending(checks.BendMax(span), checks.BendMin(span));
-        if (ranksAbove(checks.ShearSpan(span)(3), checks.ShearGov(3))) checks.ShearGov = checks.ShearSpan(span);
-        if (ranksAbove(checks.BendSpan(span)(3), checks.BendGov(3))) checks.BendGov = checks.BendSpan(span);
-    }
+RowSet bendingRow(const CheckBasis& basis, int span, int extreme) {
+    const SectionRecord& section = basis.project.SpanSection(span);
+    if (extreme == 0) return bendingRows(basis.project, section, basis.uls.MyMaxSpan, span, kBendMaxTexts);
+    return bendingRows(basis.project, section, basis.uls.MyMinSpan, span, kBendMinTexts);
 }
 
 }  // namespace borvik

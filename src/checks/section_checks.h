@@ -1,8 +1,6 @@
 #pragma once
 
-#include "analysis/results.h"
-#include "checks/check_rows.h"
-#include "project/project.h"
+#include "checks/static_checks.h"
 
 namespace borvik {
 
@@ -39,10 +37,12 @@ struct BendingResistance {
 /// @param sectionClass  1 to 4; the check takes ClassPos whatever the sign of My
 [[nodiscard]] Single BendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass);
 
-/// Shear (EN 1993-1-1 6.2.6) and bending (6.2.1, 6.2.5, 6.2.8, 6.2.9) of every span, for the positions of largest and
-/// of smallest Vz and My: fills the Shear and Bend rows. Rows 5 to 8: span and distance a of wheel 1, then of wheel 5.
-/// CurrentSection is left holding the last span's section.
-/// @throws RuntimeFault  naming the span: a resistance of zero
-void SectionChecks(const Project& project, ProjectContext& context, const UlsResults& uls, CheckResults& checks);
+/// Shear of a span, EN 1993-1-1 6.2.6, where its Vz is largest (extreme 0) or smallest (1). Rows 5 to 8: span and
+/// distance a of wheel 1, then of wheel 5.
+[[nodiscard]] RowSet shearRow(const CheckBasis& basis, int span, int extreme);
+
+/// Bending of a span, EN 1993-1-1 6.2.1, 6.2.5, 6.2.8, 6.2.9, where its My is largest (extreme 0) or smallest (1). Rows
+/// 5 to 8 as above.
+[[nodiscard]] RowSet bendingRow(const CheckBasis& basis, int span, int extreme);
 
 }  // namespace borvik

@@ -15,7 +15,6 @@ namespace borvik {
 
 namespace {
 
-
 /// A point of the girder; at a support or splice also its number.
 struct Place {
     int span = 0;
@@ -70,8 +69,8 @@ public:
         : detail_(detail), in_(input), project_(input.project), cranes_(cranes) {}
 
     void run(FatigueResults& results) const {
-        Array<RowSet<4>> rows(1, rowCount());
-        RowSet<4> governing;
+        Array<RowSet> rows(1, rowCount());
+        RowSet governing;
         double largest = 0.0;
         for (int row = 1; row <= rows.last(); ++row) {
             watched(detail_.name, atSplices() ? 0 : std::min<int>(row, project_.NofSpans),
@@ -110,7 +109,7 @@ private:
     [[nodiscard]] Damage damageAt(const Place& place, const LocalStress& local) const;
     [[nodiscard]] std::string numbers(const Damage& damage) const;
 
-    void check(int row, RowSet<4>& texts) const;
+    void check(int row, RowSet& texts) const;
 
     const Detail& detail_;
     const DetailInput& in_;
@@ -343,7 +342,7 @@ std::string DetailCheck::numbers(const Damage& damage) const {
     return text + " = ";
 }
 
-void DetailCheck::check(int row, RowSet<4>& texts) const {
+void DetailCheck::check(int row, RowSet& texts) const {
     if (!checkedAt(row)) return;
 
     Place place = firstPlace(row);

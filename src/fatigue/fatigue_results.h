@@ -36,9 +36,9 @@ struct FatigueResults {
     Cranes Summed = Cranes::Alone;  ///< which cranes the details sum up
     /// FatRows1..FatRows6. The rows of detail 4 of an overhead crane live in entry 6 (and are gone when detail 6 is
     /// checked too); entry 4 is filled by a monorail only: note H6.
-    FixedArray<std::optional<Array<RowSet<4>>>, 1, 6> FatRows;
+    FixedArray<std::optional<Array<RowSet>>, 1, 6> FatRows;
     /// FatResult1..FatResult6: the governing row of each checked detail.
-    FixedArray<std::optional<RowSet<4>>, 1, 6> FatResult;
+    FixedArray<std::optional<RowSet>, 1, 6> FatResult;
 };
 
 }  // namespace borvik

@@ -4,9 +4,8 @@ namespace borvik {
 
 namespace {
 
-template <int Rows, int Gov>
-void add(std::vector<CheckedRatio>& ratios, std::string what, const Array<RowSet<Rows>>& rows,
-         const RowSet<Gov>& governing, bool spans = true) {
+void add(std::vector<CheckedRatio>& ratios, std::string what, const Array<RowSet>& rows, const RowSet& governing,
+         bool spans = true) {
     CheckedRatio found{std::move(what), governing.Ratio, governing.largest(), 0};
     for (int i = rows.first(); i <= rows.last(); ++i)
         if (rows(i).largest() > found.largest || (rows(i).largest() == found.largest && found.at == 0)) {
@@ -19,20 +18,14 @@ void add(std::vector<CheckedRatio>& ratios, std::string what, const Array<RowSet
 }  // namespace
 
 std::vector<CheckedRatio> allRatios(const Session& session) {
-    const CheckResults& c = session.results->Checks;
     const FatigueResults& f = session.results->Fatigue;
     std::vector<CheckedRatio> ratios;
-    add(ratios, "shear", c.ShearSpan, c.ShearGov);
-    add(ratios, "bending", c.BendSpan, c.BendGov);
-    add(ratios, "lateral torsional buckling", c.LtbSpan, c.LtbGov);
-    add(ratios, session.project.CraneType == 1 ? "patch load" : "flange bending", c.LocalSpan, c.LocalGov);
-    add(ratios, "von Mises stress", c.VonMisesSpan, c.VonMisesGov);
-    add(ratios, "vertical deflection", c.DefZSpan, c.DefZGov);
-    add(ratios, "horizontal deflection", c.DefYSpan, c.DefYGov);
+    for (const CheckResult& result : session.results->Checks.all)
+        add(ratios, result.check->name, result.spans, result.governing);
     for (int detail = 1; detail <= 6; ++detail) {
         if (!f.FatResult(detail)) continue;
         const std::string what = "fatigue detail " + std::to_string(detail);
-        const RowSet<4>& governing = *f.FatResult(detail);
+        const RowSet& governing = *f.FatResult(detail);
         if (f.FatRows(detail))
             add(ratios, what, *f.FatRows(detail), governing, false);
         else  // of an overhead crane's detail 4, whose rows stand elsewhere

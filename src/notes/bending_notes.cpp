@@ -16,7 +16,7 @@ namespace {
 
 /// The ratio that the bending check finds in a span: the larger of its two positions.
 double bendingRatio(const CheckResults& checks, int span) {
-    return std::max(checks.BendMax(span).Ratio, checks.BendMin(span).Ratio);
+    return std::max(checks["Bend"].extremes[0](span).Ratio, checks["Bend"].extremes[1](span).Ratio);
 }
 
 /// The interaction at every point of every record of the walk: each holds the forces of one position.
@@ -48,8 +48,8 @@ std::optional<NoteFinding> formulaOfPositiveClass(const Session& session) {
         const SectionForces forces(records(span, 1), records(span, 2), records(span, 3));
         if (!(forces.My < 0)) continue;
         const double linear = BendingRatio(forces, BendingResistance(project, section, forces), section.ClassNeg);
-        changes.push_back(
-            {inSpan("bending", span), bendingRatio(checks, span), std::max(linear, checks.BendMax(span).Ratio)});
+        changes.push_back({inSpan("bending", span), bendingRatio(checks, span),
+                           std::max(linear, checks["Bend"].extremes[0](span).Ratio)});
     }
     return worstOf(changes);
 }
@@ -97,7 +97,7 @@ std::optional<NoteFinding> shearLeftOut(const Session& session) {
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
         const double sigma = FzEd / (effectiveLoadedLength(rail, worn, project.RailFix, section) * section.tw);
-        const double shown = session.results->Checks.ShearSpan(span).Ratio;
+        const double shown = session.results->Checks["Shear"].spans(span).Ratio;
         changes.push_back({inSpan("shear", span), shown, shown + kLocalShare * sigma / tauRd});
     }
     return worstOf(changes, remark);
@@ -158,12 +158,12 @@ std::optional<NoteFinding> noMomentLeft(const Session& session) {
 }
 
 /// "wheel 1 in span 2 at 1200 mm", from rows 5 to 8 of a check.
-std::string wheelPlace(const RowSet<8>& rows, int wheel) {
+std::string wheelPlace(const RowSet& rows, int wheel) {
     const int row = wheel == 1 ? 5 : 7;
     return "wheel " + std::to_string(wheel) + " in span " + rows(row) + " at " + rows(row + 1) + " mm";
 }
 
-bool sameRows(const RowSet<8>& a, const RowSet<8>& b, int first) {
+bool sameRows(const RowSet& a, const RowSet& b, int first) {
     for (int row = first; row <= 8; ++row)
         if (a(row) != b(row)) return false;
     return true;
@@ -173,21 +173,23 @@ bool sameRows(const RowSet<8>& a, const RowSet<8>& b, int first) {
 std::optional<NoteFinding> wrongPosition(const Session& session) {
     const bool twoCranes = session.project.NofCranes == 2;
     const CheckResults& checks = session.results->Checks;
-    const auto governingSpan = [&](const Array<RowSet<8>>& spans, const RowSet<8>& governing) {
+    const auto governingSpan = [&](const Array<RowSet>& spans, const RowSet& governing) {
         int span = 1;
         while (span < spans.last() && spans(span) != governing) ++span;
         return span;
     };
     std::string remark;
-    const int bent = governingSpan(checks.BendSpan, checks.BendGov);
-    if (const RowSet<8>& min = checks.BendMin(bent);
-        min.Ratio > 0 && !ranksAbove(checks.BendMax(bent)(3), min(3)) && !sameRows(checks.BendGov, min, 5)) {
+    const int bent = governingSpan(checks["Bend"].spans, checks["Bend"].governing);
+    if (const RowSet& min = checks["Bend"].extremes[1](bent);
+        min.Ratio > 0 && !ranksAbove(checks["Bend"].extremes[0](bent)(3), min(3)) &&
+        !sameRows(checks["Bend"].governing, min, 5)) {
         remark = inSpan("bending", bent) + ": " + wheelPlace(min, 1);
         if (twoCranes) remark += ", " + wheelPlace(min, 5);
     }
-    const int sheared = governingSpan(checks.ShearSpan, checks.ShearGov);
-    if (const RowSet<8>& min = checks.ShearMin(sheared);
-        twoCranes && !(checks.ShearMax(sheared).Ratio > min.Ratio) && !sameRows(checks.ShearGov, min, 7))
+    const int sheared = governingSpan(checks["Shear"].spans, checks["Shear"].governing);
+    if (const RowSet& min = checks["Shear"].extremes[1](sheared);
+        twoCranes && !(checks["Shear"].extremes[0](sheared).Ratio > min.Ratio) &&
+        !sameRows(checks["Shear"].governing, min, 7))
         remark += (remark.empty() ? "" : "; ") + inSpan("shear", sheared) + ": " + wheelPlace(min, 5);
     return matters(!remark.empty(), remark);
 }

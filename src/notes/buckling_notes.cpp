@@ -46,19 +46,20 @@ std::optional<NoteFinding> factorsOfDiagram(const Session& session) {
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const auto byDiagram = [&](bool sagging, const std::optional<SpanAtPosition>& at, double MyEd,
-                                   const RowSet<8>& shown) -> Ratio {
+                                   const RowSet& shown) -> Ratio {
             if (!at || MyEd == 0) return {shown.Ratio, ""};
             const CFactors factors = DiagramFactors(at->My, MyEd, at->wheels, project.Span(span));
             const Single chi = LtbReduction(project, span, sagging, factors);
             return {sagging ? positiveRatio(session, span, chi) : negativeRatio(session, span, chi),
                     factorsText(factors)};
         };
-        const Ratio positive = byDiagram(true, positions.atLargest(span), uls.MyMaxSpan(span, 1), checks.LtbPos(span));
-        const Ratio negative =
-            byDiagram(false, positions.atSupportMoment(span), uls.MySupportSpan(span, 1), checks.LtbNeg(span));
+        const Ratio positive =
+            byDiagram(true, positions.atLargest(span), uls.MyMaxSpan(span, 1), checks["Ltb"].extremes[0](span));
+        const Ratio negative = byDiagram(false, positions.atSupportMoment(span), uls.MySupportSpan(span, 1),
+                                         checks["Ltb"].extremes[1](span));
         const Ratio& worse = positive.number > negative.number ? positive : negative;
-        changes.push_back(
-            {inSpan("lateral torsional buckling", span) + worse.factors, checks.LtbSpan(span).Ratio, worse.number});
+        changes.push_back({inSpan("lateral torsional buckling", span) + worse.factors, checks["Ltb"].spans(span).Ratio,
+                           worse.number});
     }
     return worstOf(changes);
 }
@@ -75,8 +76,8 @@ std::optional<NoteFinding> cappedC1(const Session& session) {
         if (!factors || support(span, 2) > 0 || !(factors->C1 > kLargestC1)) continue;
         factors->C1 = kLargestC1;
         const double capped = negativeRatio(session, span, LtbReduction(project, span, false, *factors));
-        changes.push_back({inSpan("lateral torsional buckling", span), checks.LtbSpan(span).Ratio,
-                           std::max(checks.LtbPos(span).Ratio, capped)});
+        changes.push_back({inSpan("lateral torsional buckling", span), checks["Ltb"].spans(span).Ratio,
+                           std::max(checks["Ltb"].extremes[0](span).Ratio, capped)});
     }
     return worstOf(changes);
 }
@@ -107,7 +108,7 @@ std::optional<NoteFinding> curveOfSection(const Session& session) {
     std::vector<NoteChange> changes;
     const auto consider = [&](int span, const Project& other, const char* with) {
         changes.push_back({inSpan("lateral torsional buckling", span) + with,
-                           session.results->Checks.LtbSpan(span).Ratio, ratioUnder(session, other, span)});
+                           session.results->Checks["Ltb"].spans(span).Ratio, ratioUnder(session, other, span)});
     };
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
@@ -133,7 +134,7 @@ std::optional<NoteFinding> pairElsewhere(const Session& session) {
             return My >= 0 ? LtbRatio(sagging, kNm(My), kNm(Mz), chiPos) : LtbRatio(hogging, kNm(My), kNm(Mz), chiNeg);
         });
         changes.push_back({inSpan("lateral torsional buckling", span) + atPoint(project, span, worst.point),
-                           session.results->Checks.LtbSpan(span).Ratio, worst.ratio});
+                           session.results->Checks["Ltb"].spans(span).Ratio, worst.ratio});
     }
     return worstOf(changes);
 }

@@ -13,7 +13,7 @@ std::optional<NoteFinding> loadedFlangeAlone(const Session& session) {
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
-        const double shown = session.results->Checks.DefYSpan(span).Ratio;
+        const double shown = session.results->Checks["DefY"].spans(span).Ratio;
         changes.push_back({inSpan("horizontal deflection", span), shown, shown * section.Iz / section.IzLoadedFlange});
     }
     return worstOf(changes);
@@ -26,7 +26,7 @@ std::optional<NoteFinding> absoluteLimit(const Session& session) {
     if (project.CraneType != 1) return std::nullopt;
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span)
-        changes.push_back({inSpan("vertical deflection", span), session.results->Checks.DefZSpan(span).Ratio,
+        changes.push_back({inSpan("vertical deflection", span), session.results->Checks["DefZ"].spans(span).Ratio,
                            session.results->Sls.UzMaxSpan(span, 1) / kCap});
     return worstOf(changes);
 }
@@ -44,13 +44,13 @@ std::optional<NoteFinding> withDynamicFactor(const Session& session) {
     SetUlsLoads(factored, session.context.CurrentRail, loads);
     SilentMessages silent;
     Progress progress;
-    CheckResults checks;
-    DeflectionChecks(project, RunSls(project, loads, WalkMethod::Fast, silent, progress), checks);
+    const SlsResults sls = RunSls(project, loads, WalkMethod::Fast, silent, progress);
+    const CheckResult other = runCheck("DefZ", {project, session.context.CurrentRail, session.results->Uls, sls});
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span)
-        if (checks.DefZSpan(span).Ratio > 1)
-            changes.push_back({inSpan("vertical deflection", span), session.results->Checks.DefZSpan(span).Ratio,
-                               checks.DefZSpan(span).Ratio});
+        if (other.spans(span).Ratio > 1)
+            changes.push_back({inSpan("vertical deflection", span), session.results->Checks["DefZ"].spans(span).Ratio,
+                               other.spans(span).Ratio});
     return worstOf(changes);
 }
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "analysis/loads.h"
-#include "checks/code_checks.h"
 #include "checks/section_checks.h"
+#include "checks/static_checks.h"
 #include "notes/all_ratios.h"
 
 namespace borvik {
@@ -83,7 +83,7 @@ std::optional<Session> underOtherLoads(const Session& session, Change change) {
     Results& results = *copy.results;
     results.Uls = RunUls(copy.project, loads, WalkMethod::Fast, silent, progress);
     TurnReactionsUpward(results.Uls);
-    results.Checks = RunCodeChecks(copy.project, copy.context, results.Uls, results.Sls);
+    results.Checks = RunCodeChecks({copy.project, copy.context.CurrentRail, results.Uls, results.Sls});
     return copy;
 }
 

@@ -47,7 +47,7 @@ std::optional<NoteFinding> stressUnderWheel(const Session& session) {
         const double z = FzEd / (effectiveLoadedLength(rail, worn, project.RailFix, section) * section.tw);
         const double tau = records(span, 2) / (section.Hw * section.tw);
         const double sum = std::sqrt(x * x + z * z - x * z + 3 * tau * tau) / (project.fyk / project.GammaM0);
-        const double shown = session.results->Checks.BendSpan(span).Ratio;
+        const double shown = session.results->Checks["Bend"].spans(span).Ratio;
         if (sum > kWorthANote && sum > shown) finding.changes.push_back({inSpan("bending", span), shown, sum});
     }
     return worstOf(finding.changes);

@@ -33,20 +33,13 @@ std::optional<NoteFinding> lastTwoSpans(const Session& session) {
 /// Checks whose ratio says nothing, because of what the load is divided by.
 std::optional<NoteFinding> noSoundRatio(const Session& session) {
     const auto unsound = [](const auto& rows) { return !std::isgreaterequal(rows.Ratio, 0.0); };
-    const CheckResults& checks = session.results->Checks;
     std::string all;
     const auto add = [&all](const std::string& what) { all += (all.empty() ? "" : "; ") + what; };
     const auto spans = [&](const char* what, const auto& rows) {
         for (int span = rows.first(); span <= rows.last(); ++span)
             if (unsound(rows(span))) add(inSpan(what, span));
     };
-    spans("shear", checks.ShearSpan);
-    spans("bending", checks.BendSpan);
-    spans("lateral torsional buckling", checks.LtbSpan);
-    spans(session.project.CraneType == 1 ? "patch load" : "flange bending", checks.LocalSpan);
-    spans("von Mises stress", checks.VonMisesSpan);
-    spans("vertical deflection", checks.DefZSpan);
-    spans("horizontal deflection", checks.DefYSpan);
+    for (const CheckResult& result : session.results->Checks.all) spans(result.check->name, result.spans);
     for (int detail = 1; detail <= 6; ++detail)
         if (const auto& row = session.results->Fatigue.FatResult(detail); row && unsound(*row))
             add("fatigue detail " + std::to_string(detail));

@@ -40,10 +40,10 @@ std::optional<NoteFinding> thickFlanges(const Session& session) {
         const double t = thickestFlange(project.SpanSection(span));
         if (!(t > kThick)) continue;
         thickest = std::max(thickest, t);
-        changes.push_back({inSpan("shear", span), shown.ShearSpan(span).Ratio, other.ShearSpan(span).Ratio});
-        changes.push_back({inSpan("bending", span), shown.BendSpan(span).Ratio, other.BendSpan(span).Ratio});
-        changes.push_back(
-            {inSpan("lateral torsional buckling", span), shown.LtbSpan(span).Ratio, other.LtbSpan(span).Ratio});
+        changes.push_back({inSpan("shear", span), shown["Shear"].spans(span).Ratio, other["Shear"].spans(span).Ratio});
+        changes.push_back({inSpan("bending", span), shown["Bend"].spans(span).Ratio, other["Bend"].spans(span).Ratio});
+        changes.push_back({inSpan("lateral torsional buckling", span), shown["Ltb"].spans(span).Ratio,
+                           other["Ltb"].spans(span).Ratio});
     }
     if (changes.empty()) return std::nullopt;
     return worstOf(changes, "a flange is " + generalText(Single(thickest)) + " mm thick");
@@ -96,20 +96,21 @@ std::optional<NoteFinding> exactPlasticModulus(const Session& session, Concerned
 
 /// The torsion constant of the three plates, each with its own width.
 std::optional<NoteFinding> torsionOfUnequalFlanges(const Session& session) {
-    Session other = session;
+    Project other = session.project;
     bool unequal = false;
     for (int span = 1; span <= session.project.NofSpans; ++span) {
-        SectionRecord& section = other.project.SpanSection(span);
+        SectionRecord& section = other.SpanSection(span);
         if (section.Id != "Iu" || section.b1 == section.b2) continue;
         unequal = true;
         section.It += std::pow(section.tf2, 3) * (section.b2 - section.b1) / 3;
     }
     if (!unequal) return std::nullopt;
-    LtbChecks(other.project, other.context, other.results->Uls, other.results->Checks);
+    const Results& results = *session.results;
+    const CheckResult thinner = runCheck("Ltb", {other, session.context.CurrentRail, results.Uls, results.Sls});
     std::vector<NoteChange> changes;
     for (int span = 1; span <= session.project.NofSpans; ++span)
-        changes.push_back({inSpan("lateral torsional buckling", span), session.results->Checks.LtbSpan(span).Ratio,
-                           other.results->Checks.LtbSpan(span).Ratio});
+        changes.push_back({inSpan("lateral torsional buckling", span), results.Checks["Ltb"].spans(span).Ratio,
+                           thinner.spans(span).Ratio});
     return worstOf(changes);
 }
 

@@ -28,10 +28,9 @@ std::optional<NoteFinding> patchLoadFactors(const Session& session) {
     Project factored = session.project;
     for (int wheel = 1; wheel <= 8; ++wheel)
         factored.V(wheel) = (wheel <= 4 ? factored.PsiV1 : factored.PsiV2) * factored.LfULS * factored.V(wheel);
-    ProjectContext context = session.context;
-    CheckResults checks;
-    PatchLoadCheck(factored, context, checks);
-    return NoteFinding{{worst("patch load", session.results->Checks.LocalSpan, checks.LocalSpan)}, ""};
+    const Results& results = *session.results;
+    const CheckResult other = runCheck("Local", {factored, session.context.CurrentRail, results.Uls, results.Sls});
+    return NoteFinding{{worst("patch load", results.Checks["Local"].spans, other.spans)}, ""};
 }
 
 /// leff of the rail in use, worn.
@@ -49,7 +48,7 @@ std::optional<NoteFinding> withPatchResistance(const Session& session, Resistanc
     const double Fz = *std::max_element(project.V.begin(), project.V.end());
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span)
-        changes.push_back({inSpan("patch load", span), session.results->Checks.LocalSpan(span).Ratio,
+        changes.push_back({inSpan("patch load", span), session.results->Checks["Local"].spans(span).Ratio,
                            Fz / resistance(span, project.SpanSection(span))});
     return worstOf(changes);
 }
@@ -67,8 +66,8 @@ std::optional<NoteFinding> withBending(const Session& session) {
     const CheckResults& checks = session.results->Checks;
     std::vector<NoteChange> changes;
     for (int span = 1; span <= session.project.NofSpans; ++span) {
-        const double patch = checks.LocalSpan(span).Ratio;
-        const double sum = (patch + 0.8 * checks.BendSpan(span).Ratio) / 1.4;
+        const double patch = checks["Local"].spans(span).Ratio;
+        const double sum = (patch + 0.8 * checks["Bend"].spans(span).Ratio) / 1.4;
         if (sum > 1) changes.push_back({inSpan("patch load", span), patch, sum});
     }
     return worstOf(changes);
@@ -85,7 +84,7 @@ std::optional<NoteFinding> closeWheels(const Session& session) {
         const auto pair = [&](int wheel, double gap) {
             if (!(gap > 0 && gap < leff) || project.V(wheel) == 0 || project.V(wheel + 1) == 0) return;
             const double both = project.V(wheel) + project.V(wheel + 1);
-            changes.push_back({inSpan("patch load", span), session.results->Checks.LocalSpan(span).Ratio,
+            changes.push_back({inSpan("patch load", span), session.results->Checks["Local"].spans(span).Ratio,
                                both / PatchResistance(project, section, leff + gap, project.Span(span))});
         };
         for (int gap = 1; gap <= 3; ++gap) pair(gap, project.Avst(gap));
@@ -110,7 +109,7 @@ std::optional<NoteFinding> withFlangeResistance(const Session& session, Resistan
         const double FfRd = resistance(span, project.SpanSection(span));
         if (FfRd > 0)
             changes.push_back(
-                {inSpan("flange bending", span), session.results->Checks.LocalSpan(span).Ratio, Fz / FfRd});
+                {inSpan("flange bending", span), session.results->Checks["Local"].spans(span).Ratio, Fz / FfRd});
     }
     return worstOf(changes);
 }
@@ -154,7 +153,7 @@ std::optional<NoteFinding> vonMisesOtherwise(const Session& session, Change chan
     for (int span = 1; span <= project.NofSpans; ++span) {
         VonMisesBasis basis = vonMisesBasis(project, session.results->Uls, span);
         change(basis, span);
-        changes.push_back({inSpan("von Mises stress", span), session.results->Checks.VonMisesSpan(span).Ratio,
+        changes.push_back({inSpan("von Mises stress", span), session.results->Checks["VonMises"].spans(span).Ratio,
                            VonMisesStress(project, project.SpanSection(span), basis) / project.fyk});
     }
     return worstOf(changes);

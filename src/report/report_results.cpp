@@ -21,13 +21,12 @@ struct CheckRow {
     bool overLimit = false;
 };
 
-template <int Rows>
-CheckRow checkRow(std::string place, const RowSet<Rows>& set) {
+CheckRow checkRow(std::string place, const RowSet& set) {
     return {std::move(place), set(1), set(2), set(3), set(4), "", !isSatisfied(set.Ratio)};
 }
 
 /// Rows 5 to 8: span and distance of wheel 1, with two cranes those of wheel 5.
-CheckRow withCranes(CheckRow row, const RowSet<8>& set, bool two) {
+CheckRow withCranes(CheckRow row, const RowSet& set, bool two) {
     if (set(5).empty()) return row;
     row.cranes = (two ? "Crane 1: " : "Crane: ") + set(5) + "/" + set(6);
     if (two) row.cranes += "  Crane 2: " + set(7) + "/" + set(8);
@@ -133,57 +132,57 @@ private:
     double place_, equation_, ratio_, reference_;
 };
 
-std::string pointOf(int span, const Table<Single>& records) {
-    return std::to_string(span) + "/" + formatNumber(records(span, UlsResults::kPlaceSlot), "0");
+/// The row of a span, with where the cranes stood if its check says so.
+CheckRow staticRow(std::string place, const StaticCheck& check, const RowSet& set, bool twoCranes) {
+    CheckRow row = checkRow(std::move(place), set);
+    if (check.rows == 8) return withCranes(std::move(row), set, twoCranes);
+    if (check.rows == 5 && !set(5).empty()) row.cranes = "Crane: " + set(5);
+    return row;
+}
+
+std::string placeOf(int span, const CheckExtreme& extreme, const UlsResults& uls) {
+    if (!extreme.place) return std::to_string(span);
+    return std::to_string(span) + "/" + formatNumber((uls.*extreme.place)(span, UlsResults::kPlaceSlot), "0");
+}
+
+/// The checks of a limit state that are printed.
+std::vector<const CheckResult*> printed(LimitState state, const Project& project, const CheckResults& checks) {
+    std::vector<const CheckResult*> list;
+    for (const CheckResult& result : checks.all)
+        if (result.check->state == state && isShown(*result.check, project)) list.push_back(&result);
+    return list;
 }
 
 void ultimateRows(CheckList& list, const Project& project, const Results& results) {
-    const CheckResults& checks = results.Checks;
-    const UlsResults& uls = results.Uls;
     const bool two = project.NofCranes == 2;
-    const bool monorail = project.CraneType == 2;
+    const auto checks = printed(LimitState::Ultimate, project, results.Checks);
     list.group("Governing");
-    for (const RowSet<8>* set : {&checks.ShearGov, &checks.BendGov, &checks.LtbGov})
-        list.row(withCranes(checkRow("", *set), *set, two));
-    list.row(checkRow("", checks.LocalGov));
-    if (monorail) list.row(checkRow("", checks.VonMisesGov));
-
+    for (const CheckResult* result : checks) {
+        const RowSet& set = result->governing;
+        list.row(staticRow("", *result->check, set, two));
+    }
     for (int span = 1; span <= project.NofSpans; ++span) {
         list.group("Span: " + std::to_string(span));
-        struct Sectional {
-            const Array<RowSet<8>>& rows;
-            std::string place;
-        };
-        for (const Sectional& check :
-             {Sectional{checks.ShearMax, pointOf(span, uls.VzMaxSpan)},
-              Sectional{checks.ShearMin, pointOf(span, uls.VzMinSpan)},
-              Sectional{checks.BendMax, pointOf(span, uls.MyMaxSpan)},
-              Sectional{checks.BendMin, pointOf(span, uls.MyMinSpan)}, Sectional{checks.LtbPos, std::to_string(span)},
-              Sectional{checks.LtbNeg, std::to_string(span)}})
-            list.row(withCranes(checkRow(check.place, check.rows(span)), check.rows(span), two));
-        for (const Array<RowSet<4>>* local : {&checks.LocalSpan, &checks.VonMisesSpan})
-            if (local->has(span)) list.row(checkRow(std::to_string(span), (*local)(span)));
+        for (const CheckResult* result : checks) {
+            const StaticCheck& check = *result->check;
+            for (std::size_t i = 0; i < check.extremes.size(); ++i)
+                list.row(
+                    staticRow(placeOf(span, check.extremes[i], results.Uls), check, result->extremes[i](span), two));
+            if (check.extremes.empty()) list.row(staticRow(std::to_string(span), check, result->spans(span), two));
+        }
     }
     list.note("Crane Position: Span/Distance from left wheel to left support");
 }
 
-CheckRow deflectionRow(std::string place, const RowSet<5>& set) {
-    CheckRow row = checkRow(std::move(place), set);
-    if (!set(5).empty()) row.cranes = "Crane: " + set(5);
-    return row;
-}
-
-void deflectionRows(CheckList& list, const Project& project, const CheckResults& checks) {
+void deflectionRows(CheckList& list, const Project& project, const CheckResults& results) {
+    const auto checks = printed(LimitState::Serviceability, project, results);
     list.group("Governing");
     // Without the crane's position: that of the governing row set is always the first span's.
-    list.row(checkRow("", checks.DefZGov));
-    if (project.HasLoadsY) list.row(checkRow("", checks.DefYGov));
+    for (const CheckResult* result : checks) list.row(checkRow("", result->governing));
     list.group("Every span");
-    for (int span = 1; span <= project.NofSpans; ++span) {
-        const std::string place = "Span: " + std::to_string(span);
-        list.row(deflectionRow(place, checks.DefZSpan(span)));
-        if (project.HasLoadsY) list.row(deflectionRow(place, checks.DefYSpan(span)));
-    }
+    for (int span = 1; span <= project.NofSpans; ++span)
+        for (const CheckResult* result : checks)
+            list.row(staticRow("Span: " + std::to_string(span), *result->check, result->spans(span), false));
 }
 
 const char* placeName(FatigueDetailTitle::Place place) {
@@ -209,8 +208,7 @@ void governingFatigueRows(CheckList& list, const Project& project, const Fatigue
 
 /// The rows of a detail; those of detail 4 of an overhead crane live in the list of detail 6, which replaces them when
 /// it is checked too. Only the governing one is left then.
-const Array<RowSet<4>>* rowsOf(const FatigueDetailTitle& detail, const Project& project,
-                               const FatigueResults& fatigue) {
+const Array<RowSet>* rowsOf(const FatigueDetailTitle& detail, const Project& project, const FatigueResults& fatigue) {
     const bool lodger = detail.flag == &Project::Fat4;
     if (lodger && project.Fat6) return nullptr;
     const auto& rows = fatigue.FatRows(lodger ? 6 : detail.number);
@@ -222,7 +220,7 @@ void allFatigueRows(CheckList& list, const Project& project, const FatigueResult
         const auto& governing = fatigue.FatResult(detail.number);
         if (!(project.*detail.flag) || !governing) continue;
         list.group(detail.name);
-        const Array<RowSet<4>>* rows = rowsOf(detail, project, fatigue);
+        const Array<RowSet>* rows = rowsOf(detail, project, fatigue);
         if (rows == nullptr) {
             list.row(checkRow("", *governing));
             continue;

@@ -9,44 +9,23 @@ namespace borvik {
 namespace {
 
 /// Formula, numbers, ratio, limit and reference: what every check row shows.
-template <int Rows>
-std::vector<TableCell> checkRow(TableCell place, const RowSet<Rows>& set) {
+std::vector<TableCell> checkRow(TableCell place, const RowSet& set) {
     return {std::move(place), textCell(set(1)), textCell(set(2)), ratioCell(set), textCell(set(4))};
 }
 
 /// Adds where the cranes stood: rows 5, 6 for wheel 1 and, with two cranes, 7, 8 for wheel 5.
-void addCranes(std::vector<TableCell>& row, const RowSet<8>& set, bool twoCranes) {
+void addCranes(std::vector<TableCell>& row, const RowSet& set, bool twoCranes) {
     row.push_back(textCell(set(5) + "/" + set(6)));
     if (twoCranes) row.push_back(textCell(set(7) + "/" + set(8)));
 }
 
-class StaticRows {
-public:
-    StaticRows(ResultTable& table, const Project& project) : table_(table), twoCranes_(project.NofCranes == 2) {}
-
-    void section(const Array<RowSet<8>>& sets, int span, double position) {
-        auto row = checkRow(textCell(std::to_string(span) + "/" + formatNumber(position, "0")), sets(span));
-        addCranes(row, sets(span), twoCranes_);
-        table_.rows.push_back(std::move(row));
-    }
-    void wholeSpan(const Array<RowSet<8>>& sets, int span) {
-        auto row = checkRow(numberCell(span, "0"), sets(span));
-        addCranes(row, sets(span), twoCranes_);
-        table_.rows.push_back(std::move(row));
-    }
-    void local(const Array<RowSet<4>>& sets, int span) {
-        if (sets.has(span)) table_.rows.push_back(checkRow(numberCell(span, "0"), sets(span)));
-    }
-    void deflection(const Array<RowSet<5>>& sets, int span) {
-        auto row = checkRow(numberCell(span, "0"), sets(span));
-        row.push_back(textCell(sets(span)(5)));
-        table_.rows.push_back(std::move(row));
-    }
-
-private:
-    ResultTable& table_;
-    bool twoCranes_;
-};
+/// A row of a span, with where the cranes stood if its check says so.
+std::vector<TableCell> staticRow(TableCell place, const StaticCheck& check, const RowSet& set, bool twoCranes) {
+    auto row = checkRow(std::move(place), set);
+    if (check.rows == 8) addCranes(row, set, twoCranes);
+    if (check.rows == 5) row.push_back(textCell(set(5)));
+    return row;
+}
 
 const std::vector<TableColumn>& checkColumns() {
     static const std::vector<TableColumn> columns{{"Bar/Point", "", "Span / distance from its left support in mm"},
@@ -70,8 +49,7 @@ const char* groupHeading(FatigueDetailTitle::Place place) {
 }
 
 /// The rows of one detail of an overhead crane live in its own entry but for detail 4, which shares that of detail 6.
-const Array<RowSet<4>>* rowsOf(const FatigueDetailTitle& detail, const Project& project,
-                               const FatigueResults& fatigue) {
+const Array<RowSet>* rowsOf(const FatigueDetailTitle& detail, const Project& project, const FatigueResults& fatigue) {
     int entry = detail.number;
     if (detail.flag == &Project::Fat4) {
         if (project.Fat6) return nullptr;
@@ -89,7 +67,7 @@ ResultTable fatigueTable(const Project& project, const Results& results, std::sp
         if (!(project.*detail.flag) || !governing) continue;
         table.rows.push_back(
             {textCell(groupHeading(detail.place), Emphasis::Heading), textCell(detail.name, Emphasis::Heading)});
-        const Array<RowSet<4>>* rows = rowsOf(detail, project, results.Fatigue);
+        const Array<RowSet>* rows = rowsOf(detail, project, results.Fatigue);
         if (rows == nullptr) {  // only the governing row of detail 4 is left where detail 6 took its place
             table.rows.push_back(checkRow(textCell(""), *governing));
             continue;
@@ -107,8 +85,7 @@ struct SummaryLine {
     std::string reference;
 };
 
-template <int Rows>
-SummaryLine summaryLine(const RowSet<Rows>& set) {
+SummaryLine summaryLine(const RowSet& set) {
     return {set(1) + set(2), ratioCell(set), set(4)};
 }
 
@@ -120,10 +97,11 @@ void addLine(ResultTable& table, const SummaryLine& line) {
     table.rows.push_back({textCell(line.control), line.ratio, textCell(line.reference)});
 }
 
-std::vector<SummaryLine> ulsLines(const Project& project, const CheckResults& checks) {
-    std::vector<SummaryLine> lines{summaryLine(checks.ShearGov), summaryLine(checks.BendGov),
-                                   summaryLine(checks.LtbGov), summaryLine(checks.LocalGov)};
-    if (project.CraneType == 2) lines.push_back(summaryLine(checks.VonMisesGov));
+std::vector<SummaryLine> linesOf(LimitState state, const Project& project, const CheckResults& checks) {
+    std::vector<SummaryLine> lines;
+    for (const CheckResult& result : checks.all)
+        if (result.check->state == state && isShown(*result.check, project))
+            lines.push_back(summaryLine(result.governing));
     return lines;
 }
 
@@ -140,8 +118,7 @@ ResultTable summaryTable(const std::vector<SummaryLine>& uls) {
 
 void addDeflections(ResultTable& table, const Project& project, const CheckResults& checks) {
     addHeading(table, "SLS - Deflection Control");
-    addLine(table, summaryLine(checks.DefZGov));
-    if (project.HasLoadsY) addLine(table, summaryLine(checks.DefYGov));
+    for (const SummaryLine& line : linesOf(LimitState::Serviceability, project, checks)) addLine(table, line);
 }
 
 void addFatigue(ResultTable& table, const Project& project, const FatigueResults& fatigue, const char* heading) {
@@ -154,27 +131,27 @@ void addFatigue(ResultTable& table, const Project& project, const FatigueResults
 }  // namespace
 
 ResultTable TableCodeStatic(const Project& project, const Results& results) {
-    const CheckResults& checks = results.Checks;
-    const UlsResults& uls = results.Uls;
+    const bool twoCranes = project.NofCranes == 2;
 
     ResultTable table;
     table.columns = checkColumns();
     table.columns.push_back({"Crane 1", "", "Span of wheel 1 / its distance from the left support in mm"});
     table.columns.push_back({"Crane 2", "", "Span of wheel 5 / its distance from the left support in mm"});
     table.note = "A ratio over 1.000 is not acceptable";
-    StaticRows rows(table, project);
-    for (int span = 1; span <= project.NofSpans; ++span) {
-        rows.section(checks.ShearMax, span, uls.VzMaxSpan(span, UlsResults::kPlaceSlot));
-        rows.section(checks.ShearMin, span, uls.VzMinSpan(span, UlsResults::kPlaceSlot));
-        rows.section(checks.BendMax, span, uls.MyMaxSpan(span, UlsResults::kPlaceSlot));
-        rows.section(checks.BendMin, span, uls.MyMinSpan(span, UlsResults::kPlaceSlot));
-        rows.wholeSpan(checks.LtbPos, span);
-        rows.wholeSpan(checks.LtbNeg, span);
-        rows.local(checks.LocalSpan, span);
-        if (project.CraneType == 2) rows.local(checks.VonMisesSpan, span);
-        rows.deflection(checks.DefZSpan, span);
-        if (project.HasLoadsY) rows.deflection(checks.DefYSpan, span);
-    }
+    for (int span = 1; span <= project.NofSpans; ++span)
+        for (const CheckResult& result : results.Checks.all) {
+            const StaticCheck& check = *result.check;
+            if (!isShown(check, project)) continue;
+            for (std::size_t i = 0; i < check.extremes.size(); ++i) {
+                const auto place = check.extremes[i].place;
+                TableCell at = place ? textCell(std::to_string(span) + "/" +
+                                                formatNumber((results.Uls.*place)(span, UlsResults::kPlaceSlot), "0"))
+                                     : numberCell(span, "0");
+                table.rows.push_back(staticRow(std::move(at), check, result.extremes[i](span), twoCranes));
+            }
+            if (check.extremes.empty())
+                table.rows.push_back(staticRow(numberCell(span, "0"), check, result.spans(span), twoCranes));
+        }
     table.rows.push_back({textCell("Note:", Emphasis::Note),
                           textCell("Crane Position: Span/Distance from left wheel to left support", Emphasis::Note)});
     return table;
@@ -189,7 +166,7 @@ ResultTable TableCodeFatigueR(const Project& project, const Results& results) {
 }
 
 ResultTable ShowSummaryULS(const Project& project, const Results& results) {
-    return summaryTable(ulsLines(project, results.Checks));
+    return summaryTable(linesOf(LimitState::Ultimate, project, results.Checks));
 }
 
 ResultTable ShowSummaryULSSLS(const Project& project, const Results& results) {
@@ -205,7 +182,7 @@ ResultTable ShowSummaryAll(const Project& project, const Results& results) {
 }
 
 ResultTable ShowSummary(const Project& project, const Results& results) {
-    std::vector<SummaryLine> uls = ulsLines(project, results.Checks);
+    std::vector<SummaryLine> uls = linesOf(LimitState::Ultimate, project, results.Checks);
     std::stable_sort(uls.begin(), uls.end(),
                      [](const SummaryLine& a, const SummaryLine& b) { return ranksAbove(a.ratio.text, b.ratio.text); });
     ResultTable table = summaryTable(uls);

@@ -27,10 +27,9 @@ Json json(const std::string& text) {
     return text;
 }
 
-template <int Rows>
-Json json(const RowSet<Rows>& rows);
 template <class T>
 Json json(const std::optional<T>& item);
+Json json(const RowSet& rows, int count = kFatigueRows);
 
 template <class Items>
 Json list(const Items& items) {
@@ -44,9 +43,16 @@ Json json(const std::vector<T>& items) {
     return list(items);
 }
 
-template <int Rows>
-Json json(const RowSet<Rows>& rows) {
-    return list(rows.Text);
+Json json(const RowSet& rows, int count) {
+    Json texts = Json::array();
+    for (int row = 1; row <= count; ++row) texts.push_back(rows(row));
+    return texts;
+}
+
+Json json(const Array<RowSet>& sets, int count) {
+    Json array = Json::array();
+    for (const RowSet& set : sets) array.push_back(json(set, count));
+    return array;
 }
 
 template <class T>
@@ -141,16 +147,25 @@ Json json(const SlsResults& r) {
                   "UzMaxSpan", r.UzMaxSpan, "UyMaxSpan", r.UyMaxSpan);
 }
 
-Json json(const CheckResults& r) {
-    Json checks =
-        fields("ShearMax", r.ShearMax, "ShearMin", r.ShearMin, "ShearSpan", r.ShearSpan, "ShearGov", r.ShearGov,
-               "BendMax", r.BendMax, "BendMin", r.BendMin, "BendSpan", r.BendSpan, "BendGov", r.BendGov,  //
-               "LtbPos", r.LtbPos, "LtbNeg", r.LtbNeg, "LtbSpan", r.LtbSpan, "LtbGov", r.LtbGov,          //
-               "LocalSpan", r.LocalSpan, "LocalGov", r.LocalGov,                                          //
-               "VonMisesSpan", r.VonMisesSpan, "VonMisesGov", r.VonMisesGov,                              //
-               "DefZSpan", r.DefZSpan, "DefYSpan", r.DefYSpan, "DefZGov", r.DefZGov, "DefYGov", r.DefYGov);
-    if (r.VonMisesSpan.size() == 0) checks["VonMisesSpan"] = nullptr;
-    return checks;
+/// The rows of every check, its key before their names; null and empty texts where it doesn't apply. Governing rows of
+/// deflections follow behind the spans of both.
+Json json(const CheckResults& results) {
+    Json object = Json::object();
+    const auto addGoverning = [&](const StaticCheck& check, const CheckResult* result) {
+        object[std::string(check.key) + "Gov"] = json(result ? result->governing : RowSet(), check.governingRows);
+    };
+    for (const StaticCheck& check : staticChecks()) {
+        const CheckResult* result = results.find(check.key);
+        if (result && result->check != &check) continue;
+        const std::string key = check.key;
+        for (std::size_t i = 0; i < check.extremes.size(); ++i)
+            object[key + check.extremes[i].name] = result ? json(result->extremes[i], check.rows) : Json(nullptr);
+        object[key + "Span"] = result ? json(result->spans, check.rows) : Json(nullptr);
+        if (check.state == LimitState::Ultimate) addGoverning(check, result);
+    }
+    for (const StaticCheck& check : staticChecks())
+        if (check.state == LimitState::Serviceability) addGoverning(check, results.find(check.key));
+    return object;
 }
 
 Json json(const StressSet& s) {

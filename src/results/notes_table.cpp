@@ -45,21 +45,30 @@ int numberBehind(const std::string& what, const std::string& words) {
     return at == std::string::npos ? 0 : leadingNumber(what.substr(at + words.size()));
 }
 
-/// Calls visit(rows of the spans, governing row) with the check that a number belongs to. Without a number it is the
-/// check of the note.
-template <class Visit>
-void visitCheck(const std::string& what, NoteCheck check, const CheckResults& c, Visit visit) {
-    const auto is = [&](NoteCheck own, std::initializer_list<const char*> names) {
-        if (what.empty()) return check == own;
-        return std::any_of(names.begin(), names.end(), [&](const char* name) { return what.starts_with(name); });
+/// The check that a number belongs to; without a number that of the note; null where it is no static one.
+const CheckResult* checkOf(const std::string& what, NoteCheck check, const CheckResults& checks) {
+    const auto key = [check]() -> const char* {
+        switch (check) {
+            case NoteCheck::Section:
+                return "Bend";
+            case NoteCheck::LateralBuckling:
+                return "Ltb";
+            case NoteCheck::WheelLoad:
+                return "Local";
+            case NoteCheck::VonMises:
+                return "VonMises";
+            case NoteCheck::Deflection:
+                return "DefZ";
+            case NoteCheck::General:
+            case NoteCheck::Fatigue:
+                break;
+        }
+        return "";
     };
-    if (what.starts_with("shear")) return visit(c.ShearSpan, c.ShearGov);
-    if (what.starts_with("horizontal deflection")) return visit(c.DefYSpan, c.DefYGov);
-    if (is(NoteCheck::Section, {"bending"})) return visit(c.BendSpan, c.BendGov);
-    if (is(NoteCheck::LateralBuckling, {"lateral torsional buckling"})) return visit(c.LtbSpan, c.LtbGov);
-    if (is(NoteCheck::WheelLoad, {"patch load", "flange bending"})) return visit(c.LocalSpan, c.LocalGov);
-    if (is(NoteCheck::VonMises, {"von Mises stress"})) return visit(c.VonMisesSpan, c.VonMisesGov);
-    if (is(NoteCheck::Deflection, {"vertical deflection"})) return visit(c.DefZSpan, c.DefZGov);
+    if (what.empty()) return checks.find(key());
+    const auto named = std::find_if(checks.all.begin(), checks.all.end(),
+                                    [&](const CheckResult& result) { return what.starts_with(result.check->name); });
+    return named == checks.all.end() ? nullptr : &*named;
 }
 
 /// The first row of a table that is one of those wanted; -1 where there is none.
@@ -134,10 +143,9 @@ NoteTarget TargetOf(const Note& note, const Project& project, const Results& res
         return target.row >= 0 || !governing ? target : inSummary(*governing, project, results);
     }
     NoteTarget target{"SummaryAll", -1};
-    visitCheck(what, note.rule->check, results.Checks, [&](const auto& spans, const auto& governing) {
-        target = span > 0 && spans.has(span) ? inStatic(spans(span), span, project, results)
-                                             : inSummary(governing, project, results);
-    });
+    if (const CheckResult* check = checkOf(what, note.rule->check, results.Checks))
+        target = span > 0 && check->spans.has(span) ? inStatic(check->spans(span), span, project, results)
+                                                    : inSummary(check->governing, project, results);
     return target;
 }
 

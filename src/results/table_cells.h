@@ -18,8 +18,7 @@ inline TableCell numberCell(double number, const char* mask) {
 
 /// The ratio of a row set: the text as the check wrote it, the number behind it, and the mark where it does
 /// not show that the check holds.
-template <int Rows>
-TableCell ratioCell(const RowSet<Rows>& set) {
+inline TableCell ratioCell(const RowSet& set) {
     return {set(3), isSatisfied(set.Ratio) ? Emphasis::None : Emphasis::OverLimit, set.Ratio, "0.000"};
 }
 

@@ -91,7 +91,6 @@ struct RailRecord {
     Single RailE1;  ///< distance of the centroid from the top of the head
     Single RailIy;  ///< second moment of area
     Single RailH2, RailH3, RailF2, RailF3;
-    Single RailAred, RailIred;  ///< area and second moment after wear, set by the patch load check
 
     bool operator==(const RailRecord&) const = default;
 };

@@ -20,20 +20,22 @@ TEST(Deflection, textsAndWhatGoverns) {
     samples::setRow(sls.UzMaxSpan, 3, {100, 3, 0});  // 10.000 ranks below 9.000
     samples::setRow(sls.UyMaxSpan, 2, {2.5, 3, 600});
     samples::setRow(sls.UyMaxSpan, 3, {2.5, 3, 800});
-    CheckResults checks;
-    DeflectionChecks(project, sls, checks);
+    const UlsResults uls = samples::uls(3);
+    const RailRecord rail;
+    const CheckBasis basis{project, rail, uls, sls};
+    const CheckResults checks{{runCheck("DefZ", basis), runCheck("DefY", basis)}};
 
-    EXPECT_THAT(samples::texts(checks.DefZSpan(1)),
+    EXPECT_THAT(samples::texts(checks["DefZ"].spans(1), 5),
                 ElementsAre("IR = dz/(L/500)=", "10.0/(5000/500)=", "1.000", " <  1.00 ", "1/1400"));
-    EXPECT_THAT(samples::texts(checks.DefYSpan(1)),
+    EXPECT_THAT(samples::texts(checks["DefY"].spans(1), 5),
                 ElementsAre("IR = dy/(L/400)=", "0.0/(5000/400)=", "0.000", " <  1.00 ", "0/0"));
-    EXPECT_EQ(checks.DefZSpan(2)(5), "2/200.5");
-    EXPECT_EQ(checks.DefZSpan(3)(3), "10.000");
+    EXPECT_EQ(checks["DefZ"].spans(2)(5), "2/200.5");
+    EXPECT_EQ(checks["DefZ"].spans(3)(3), "10.000");
     // The wheel's place stays that of the first span.
-    EXPECT_THAT(samples::texts(checks.DefZGov),
+    EXPECT_THAT(samples::texts(checks["DefZ"].governing, 5),
                 ElementsAre("IR = dz/(L/500)=", "90.0/(5000/500)=", "9.000", " <  1.00 ", "1/1400"));
-    EXPECT_EQ(checks.DefZGov.Ratio, 9.0);
-    EXPECT_THAT(samples::texts(checks.DefYGov),
+    EXPECT_EQ(checks["DefZ"].governing.Ratio, 9.0);
+    EXPECT_THAT(samples::texts(checks["DefY"].governing, 5),
                 ElementsAre("IR = dy/(L/400)=", "2.5/(5000/400)=", "0.200", " <  1.00 ", "0/0"));
 }
 

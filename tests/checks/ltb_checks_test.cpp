@@ -111,7 +111,6 @@ double threeFactorMoment(const SectionRecord& s, double L, double C1, double t) 
 struct Girder {
     Project project;
     UlsResults uls = samples::uls(3);
-    ProjectContext context;
     CheckResults checks;
 
     Girder() {
@@ -126,7 +125,7 @@ struct Girder {
         project.C1EndNeg = 1.7, project.C3EndNeg = 0.9;
         project.C1MidNeg = 99, project.C3MidNeg = 0.8;
     }
-    void check() { LtbChecks(project, context, uls, checks); }
+    void check() { checks.all = {runCheck("Ltb", {project, {}, uls, samples::sls(3)})}; }
 };
 
 TEST(Ltb, factorsOfEachCase) {
@@ -161,7 +160,8 @@ TEST(Ltb, factorsOfEachCase) {
         const double Mcr = threeFactorMoment(s, 5000, c.C1, c.t);
         const double chi = ReductionGeneral(girder.project, s, c.positive, Mcr);
         EXPECT_LT(chi, 0.999) << "the case must tell";
-        const RowSet<8>& rows = c.positive ? girder.checks.LtbPos(c.span) : girder.checks.LtbNeg(c.span);
+        const RowSet& rows =
+            c.positive ? girder.checks["Ltb"].extremes[0](c.span) : girder.checks["Ltb"].extremes[1](c.span);
         EXPECT_NEAR(rows.Ratio, 100 / (chi * (c.positive ? 300 : 250)), 1e-6) << c.why;
     }
 }
@@ -182,19 +182,19 @@ TEST(Ltb, textsOfTheRows) {
     samples::setRow(girder.uls.MySupportSpan, 2, {-1e6, 1, -1, 0, 2, 66, 2, 55});
     girder.check();
 
-    EXPECT_THAT(samples::texts(girder.checks.LtbPos(1)),
+    EXPECT_THAT(samples::texts(girder.checks["Ltb"].extremes[0](1)),
                 ElementsAre("IR = My,Ed/(xLT*My,Rd) = ", "120.0/(0.68*240.0) = ", "0.738",
                             " <  1.00 Beam: 1 (Ch 6.3.2)", "1", "800", "1", "2800"));
-    EXPECT_THAT(samples::texts(girder.checks.LtbPos(2)),
+    EXPECT_THAT(samples::texts(girder.checks["Ltb"].extremes[0](2)),
                 ElementsAre("IR = My,Ed/(xLT*My,Ed) + Mz,Ed/Mz,Rd = ", "120.0/(0.68*240.0) + 4.0/40.0 = ", "0.838",
                             " <  1.00 Beam: 2 (Ch 6.3.3)", "2", "900", "2", "2900"));
-    EXPECT_EQ(girder.checks.LtbPos(3)(1), "IR = My,Ed/(xLT*My,Rd) + Mz,Ed/Mz,Rd = ");
-    EXPECT_THAT(samples::texts(girder.checks.LtbNeg(1)),
+    EXPECT_EQ(girder.checks["Ltb"].extremes[0](3)(1), "IR = My,Ed/(xLT*My,Rd) + Mz,Ed/Mz,Rd = ");
+    EXPECT_THAT(samples::texts(girder.checks["Ltb"].extremes[1](1)),
                 ElementsAre("IR = My,Ed/(xLT*My,Rd) = ", "120.0/(0.68*200.0) = ", "0.886",
                             " <  1.00 Beam: 1 (Ch 6.3.2)", "1", "77", "2", "88"));
-    EXPECT_EQ(girder.checks.LtbSpan(1), girder.checks.LtbNeg(1));
-    EXPECT_EQ(girder.checks.LtbSpan(2), girder.checks.LtbPos(2));
-    EXPECT_EQ(girder.checks.LtbGov, girder.checks.LtbNeg(1));
+    EXPECT_EQ(girder.checks["Ltb"].spans(1), girder.checks["Ltb"].extremes[1](1));
+    EXPECT_EQ(girder.checks["Ltb"].spans(2), girder.checks["Ltb"].extremes[0](2));
+    EXPECT_EQ(girder.checks["Ltb"].governing, girder.checks["Ltb"].extremes[1](1));
 }
 
 TEST(Ltb, numbersRankWithinASpanAndTextsOverTheBeam) {
@@ -204,9 +204,10 @@ TEST(Ltb, numbersRankWithinASpanAndTextsOverTheBeam) {
     samples::setRow(girder.uls.MyMaxSpan, 2, {3000e6});
     samples::setRow(girder.uls.MyMaxSpan, 3, {2700e6, 0, 0, 0, 3});
     girder.check();
-    EXPECT_EQ(girder.checks.LtbSpan(2)(3), "10.000");
-    EXPECT_EQ(girder.checks.LtbGov(3), "9.000");
-    EXPECT_EQ(girder.checks.LtbGov(4), " <  1.00 Beam: 1 (Ch 6.3.2)") << "of equal texts the earlier span stays";
+    EXPECT_EQ(girder.checks["Ltb"].spans(2)(3), "10.000");
+    EXPECT_EQ(girder.checks["Ltb"].governing(3), "9.000");
+    EXPECT_EQ(girder.checks["Ltb"].governing(4), " <  1.00 Beam: 1 (Ch 6.3.2)")
+        << "of equal texts the earlier span stays";
 }
 
 TEST(Ltb, aSpanWithoutNegativeMomentNeedsNoFactors) {
@@ -215,23 +216,14 @@ TEST(Ltb, aSpanWithoutNegativeMomentNeedsNoFactors) {
         girder.project.C1EndNeg = C1EndNeg;
         girder.check();
         const std::string chi = C1EndNeg > 0 ? "0.8" : "1.0";  // with a factor the reduction is made as always
-        EXPECT_EQ(girder.checks.LtbNeg(1)(2).substr(0, 8), "0.0/(" + chi);
-        EXPECT_EQ(girder.checks.LtbNeg(2)(2), "0.0/(1.00*250.0) = ") << "a mid span has no psi";
-        EXPECT_EQ(girder.checks.LtbNeg(2)(3), "0.000");
+        EXPECT_EQ(girder.checks["Ltb"].extremes[1](1)(2).substr(0, 8), "0.0/(" + chi);
+        EXPECT_EQ(girder.checks["Ltb"].extremes[1](2)(2), "0.0/(1.00*250.0) = ") << "a mid span has no psi";
+        EXPECT_EQ(girder.checks["Ltb"].extremes[1](2)(3), "0.000");
     }
     Girder girder;
     girder.project.C1EndNeg = 0;
     girder.uls.MySupportSpan(1, 1) = -1e6;
     EXPECT_THROW(girder.check(), RuntimeFault) << "with a moment to check, a factor of zero is a fault";
-}
-
-TEST(Ltb, usersFactorsStay) {
-    Girder girder;
-    girder.check();
-    EXPECT_EQ(girder.project.C1EndPos.stored(), 1.1F);
-    girder.project.DefaultCfactor = true;
-    girder.check();
-    EXPECT_EQ(girder.project.C1EndPos.stored(), 1.85F);
 }
 
 }  // namespace

@@ -84,9 +84,8 @@ inline void setRow(Table<Single>& table, int row, const std::vector<double>& slo
     for (std::size_t i = 0; i < slots.size(); ++i) table(row, static_cast<int>(i) + 1) = slots[i];
 }
 
-template <int Rows>
-std::vector<std::string> texts(const RowSet<Rows>& rows) {
-    return {rows.Text.begin(), rows.Text.end()};
+inline std::vector<std::string> texts(const RowSet& rows, int count = 8) {
+    return {rows.Text.begin(), rows.Text.begin() + count};
 }
 
 }  // namespace borvik::samples

@@ -40,12 +40,14 @@ TEST(ReducedMoment, takesTheWebAwayAsShearGrows) {
 struct Girder {
     Project project;
     UlsResults uls;
-    ProjectContext context;
     CheckResults checks;
 
     Girder(int spans, const SectionRecord& section)
         : project(samples::project(spans, section)), uls(samples::uls(spans)) {}
-    void check() { SectionChecks(project, context, uls, checks); }
+    void check() {
+        const SlsResults sls = samples::sls(1);
+        checks.all = {runCheck("Shear", {project, {}, uls, sls}), runCheck("Bend", {project, {}, uls, sls})};
+    }
 };
 
 // MyEd 150, shear 250 (exactly half of VzRd: free), 275 (rho 0.01) or 375 kN (rho 0.25), MzEd 0 or 5. MyRdPos 300,
@@ -84,7 +86,7 @@ TEST(Bending, textsOfEveryFormula) {
         samples::setRow(steps, 1,
                         {c.largest ? 150e6 : -150e6, -c.VzEd * 1e3, -c.MzEd * 1e6, 7e3, 1, 400, 1, 2500.5, 2250});
         girder.check();
-        const RowSet<8>& rows = c.largest ? girder.checks.BendMax(1) : girder.checks.BendMin(1);
+        const RowSet& rows = c.largest ? girder.checks["Bend"].extremes[0](1) : girder.checks["Bend"].extremes[1](1);
         EXPECT_THAT(samples::texts(rows),
                     ElementsAre(c.formula, c.numbers, c.ratio, std::string(" <  1.00 ( 1/2250 mm; ") + c.reference, "1",
                                 "400", "1", "2500.5"));
@@ -96,12 +98,12 @@ TEST(Shear, textsAndTheTie) {
     samples::setRow(girder.uls.VzMaxSpan, 1, {0, 600e3, 0, 0, 1, 100, 1, 2100, 0});
     samples::setRow(girder.uls.VzMinSpan, 1, {0, -600e3, 0, 0, 1, 3300, 1, 4900, 4999.6});
     girder.check();
-    EXPECT_THAT(samples::texts(girder.checks.ShearMax(1)),
+    EXPECT_THAT(samples::texts(girder.checks["Shear"].extremes[0](1)),
                 ElementsAre("IR = Vz,Ed/Vz,Rd = ", "600.0/500.0", "1.200", " <  1.00 ( 1/0mm; Ch 6.2.6)", "1", "100",
                             "1", "2100"));
-    EXPECT_EQ(girder.checks.ShearMin(1)(4), " <  1.00 ( 1/5000 mm; Ch 6.2.6)");
+    EXPECT_EQ(girder.checks["Shear"].extremes[1](1)(4), " <  1.00 ( 1/5000 mm; Ch 6.2.6)");
     // Equal ratios: the smallest Vz, with wheel 5 of the largest.
-    EXPECT_THAT(samples::texts(girder.checks.ShearSpan(1)),
+    EXPECT_THAT(samples::texts(girder.checks["Shear"].spans(1)),
                 ElementsAre("IR = Vz,Ed/Vz,Rd = ", "600.0/500.0", "1.200", " <  1.00 ( 1/5000 mm; Ch 6.2.6)", "1",
                             "3300", "1", "2100"));
 }
@@ -110,8 +112,8 @@ TEST(Shear, theRatioIsStoredBeforeItIsShown) {
     Girder girder(1, samples::section());
     girder.uls.VzMaxSpan(1, 2) = 1250;  // 1.25/500 = 0.0025, whose single is 0.00249999994
     girder.check();
-    EXPECT_EQ(girder.checks.ShearMax(1)(3), "0.002");
-    EXPECT_EQ(girder.checks.ShearMax(1).Ratio, double(Single(0.0025)));
+    EXPECT_EQ(girder.checks["Shear"].extremes[0](1)(3), "0.002");
+    EXPECT_EQ(girder.checks["Shear"].extremes[0](1).Ratio, double(Single(0.0025)));
 }
 
 // Resistance 500 kN: ratio 9 and 10 in both spans. Per span numbers count, over the beam texts.
@@ -122,11 +124,11 @@ TEST(Shear, numbersRankWithinASpanAndTextsOverTheBeam) {
     samples::setRow(girder.uls.VzMinSpan, 2, {0, -4500e3, 0, 0, 2, 20, 2, 20});
     samples::setRow(girder.uls.VzMaxSpan, 3, {0, 4500e3, 0, 0, 3, 3, 3, 3});
     girder.check();
-    EXPECT_EQ(girder.checks.ShearSpan(2)(3), "10.000");
-    EXPECT_EQ(girder.checks.ShearSpan(2)(8), "2");
-    EXPECT_EQ(girder.checks.ShearGov, girder.checks.ShearSpan(1))
+    EXPECT_EQ(girder.checks["Shear"].spans(2)(3), "10.000");
+    EXPECT_EQ(girder.checks["Shear"].spans(2)(8), "2");
+    EXPECT_EQ(girder.checks["Shear"].governing, girder.checks["Shear"].spans(1))
         << "9.000 ranks above 10.000, and the earlier span stays";
-    EXPECT_EQ(girder.checks.ShearGov.Ratio, 9.0);
+    EXPECT_EQ(girder.checks["Shear"].governing.Ratio, 9.0);
 }
 
 TEST(Bending, textsRankWithinASpanAndOverTheBeam) {
@@ -137,12 +139,12 @@ TEST(Bending, textsRankWithinASpanAndOverTheBeam) {
     samples::setRow(girder.uls.MyMinSpan, 2, {-2500e6, 0, 0, 0, 2, 23, 2, 24});  // 10.000 ranks below 9.000
     samples::setRow(girder.uls.MyMaxSpan, 3, {2700e6, 0, 0, 0, 3, 31, 3, 32});
     girder.check();
-    EXPECT_EQ(girder.checks.BendSpan(1)(2), "250.0/250.0");
-    EXPECT_EQ(girder.checks.BendSpan(1)(6), "11") << "the wheels are always those of the largest moment";
-    EXPECT_EQ(girder.checks.BendSpan(1)(8), "12");
-    EXPECT_EQ(girder.checks.BendSpan(2)(3), "9.000");
-    EXPECT_EQ(girder.checks.BendSpan(2).Ratio, 9.0);
-    EXPECT_EQ(girder.checks.BendGov, girder.checks.BendSpan(2));
+    EXPECT_EQ(girder.checks["Bend"].spans(1)(2), "250.0/250.0");
+    EXPECT_EQ(girder.checks["Bend"].spans(1)(6), "11") << "the wheels are always those of the largest moment";
+    EXPECT_EQ(girder.checks["Bend"].spans(1)(8), "12");
+    EXPECT_EQ(girder.checks["Bend"].spans(2)(3), "9.000");
+    EXPECT_EQ(girder.checks["Bend"].spans(2).Ratio, 9.0);
+    EXPECT_EQ(girder.checks["Bend"].governing, girder.checks["Bend"].spans(2));
 }
 
 }  // namespace

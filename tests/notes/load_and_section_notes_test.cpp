@@ -116,7 +116,7 @@ TEST(LoadNotes, AWheelBetweenTheStepsIsFound) {
 
 TEST(LoadNotes, ACraneAloneCanBeWorse) {
     const auto bending = [](const Session& session) {
-        const auto& rows = session.results->Checks.BendSpan;
+        const auto& rows = session.results->Checks["Bend"].spans;
         return std::max(rows(1).Ratio, rows(2).Ratio);
     };
     for (const bool fixed : {false, true}) {

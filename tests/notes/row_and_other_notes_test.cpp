@@ -87,8 +87,8 @@ TEST(MissingNotes, NameTheThickestPlate) {
 
 TEST(RowNotes, EveryCheckWithoutASoundRatioIsNamed) {
     Session session = calculated();
-    session.results->Checks.BendSpan(2).Ratio = -0.1;
-    session.results->Checks.DefZSpan(1).Ratio = session.results->Fatigue.FatResult(3)->Ratio = std::nan("");
+    session.results->Checks["Bend"].spans(2).Ratio = -0.1;
+    session.results->Checks["DefZ"].spans(1).Ratio = session.results->Fatigue.FatResult(3)->Ratio = std::nan("");
     const auto finding = findingOf(session, "H8");
     ASSERT_TRUE(finding);
     EXPECT_EQ(finding->remark, "bending, span 2; vertical deflection, span 1; fatigue detail 3");
@@ -103,13 +103,13 @@ TEST(RowNotes, ALargerRatioThatRanksLowerIsNamed) {
         made.project.V(1) = 150;
     });
     const auto& checks = session.results->Checks;
-    ASSERT_GT(checks.DefZSpan(1).Ratio, 10);
-    ASSERT_LT(checks.DefZGov.Ratio, 10) << "by text";
+    ASSERT_GT(checks["DefZ"].spans(1).Ratio, 10);
+    ASSERT_LT(checks["DefZ"].governing.Ratio, 10) << "by text";
     const auto finding = findingOf(session, "H1");
     ASSERT_TRUE(finding);
     EXPECT_EQ(finding->changes[0].what, "vertical deflection, span 1");
-    EXPECT_EQ(finding->changes[0].shown, checks.DefZGov.Ratio);
-    EXPECT_EQ(finding->changes[0].other, checks.DefZSpan(1).Ratio);
+    EXPECT_EQ(finding->changes[0].shown, checks["DefZ"].governing.Ratio);
+    EXPECT_EQ(finding->changes[0].other, checks["DefZ"].spans(1).Ratio);
     EXPECT_FALSE(findingOf(calculated(), "H1"));
 }
 
@@ -119,8 +119,8 @@ TEST(RowNotes, AnEarlierSpanWithMoreUnderAWheelIsNamed) {
     const auto finding = findingOf(session, "H2");
     ASSERT_TRUE(finding);
     EXPECT_EQ(finding->changes[0].what, "patch load, span 1");
-    EXPECT_EQ(finding->changes[0].shown, checks.LocalSpan(3).Ratio);
-    EXPECT_EQ(finding->changes[0].other, checks.LocalSpan(1).Ratio);
+    EXPECT_EQ(finding->changes[0].shown, checks["Local"].spans(3).Ratio);
+    EXPECT_EQ(finding->changes[0].other, checks["Local"].spans(1).Ratio);
     EXPECT_FALSE(findingOf(calculated(), "H2"));
 }
 

@@ -178,7 +178,7 @@ TEST(ReportFile, textCanBeReadBackAndLiesOnThePaper) {
             if (found != std::string::npos) at = found;
         }
         if (std::string(c.scope) == "all") {
-            for (const RowSet<8>& row : session.results->Checks.BendMax)
+            for (const RowSet& row : session.results->Checks["Bend"].extremes[0])
                 EXPECT_NE(text.find(row(2)), std::string::npos) << row(2);
         }
         expectAllOnPaper(file);

@@ -30,11 +30,7 @@ struct BuckledBeam {
         uls.MySupportSpan = Table<Single>(1, 8);
         uls.MyMaxSpan(1, 1) = 50e6;
     }
-    [[nodiscard]] double ratio() {
-        CheckResults checks;
-        LtbChecks(project, context, uls, checks);
-        return checks.LtbPos(1).Ratio;
-    }
+    [[nodiscard]] double ratio() { return runCheck("Ltb", {project, {}, uls, {}}).extremes[0](1).Ratio; }
     /// chiLT, from the ratio My/(chiLT MyRd).
     [[nodiscard]] double chi() { return 50 / (ratio() * project.SpanSection(1).MyRdPos); }
 };
