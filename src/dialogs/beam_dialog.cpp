@@ -47,7 +47,7 @@ BeamDialog::BeamDialog(Session& session, Messages& messages, std::function<void(
     bringRows(project_);
     makeList30();
     auto* content = new QGridLayout;
-    picture_ = new Picture(beamPicture(project_), 70, 5);
+    picture_ = new Picture(beamPicture(project_), 70, 6);
     picture_->setToolTip(tr("The spans to scale, each with its section"));
     content->addWidget(picture_, 0, 0, 1, 4);
     content->addWidget(entry().box, 1, 0, 1, 4);

@@ -33,7 +33,7 @@ const char* plateRefusal(const SectionRecord& section) {
 ProfReinfDialog::ProfReinfDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmProfReinf", tr("Reinforcement"), session, messages, std::move(changed), parent),
       current_(session.context.CurrentSection) {
-    picture_ = new Picture(reinforcementPicture(current_), 44, 16);
+    picture_ = new Picture(reinforcementPicture(current_), 56, 20);
     picture_->setToolTip(tr("The plates at the top flange, to scale"));
     auto* content = new QGridLayout;
     content->addWidget(arrangement().box, 0, 0);

@@ -11,6 +11,9 @@ namespace {
 
 constexpr double kNominalGap = 1000;  // mm, where nothing has been entered yet
 
+// Parts of the cranes' picture, in lines of text.
+constexpr double kLeftOfWheels = 4.5, kBelowBeam = 1.7, kBelowDimension = 0.35;
+
 struct Wheel {
     int number;
     double x;  ///< mm from wheel 1
@@ -50,17 +53,17 @@ std::vector<Wheel> placeWheels(const Project& project, bool twoCranes) {
 
 void drawWheels(QPainter& painter, const QRectF& area, const Ink& ink, const std::vector<Wheel>& wheels, bool hanging) {
     const double line = painter.fontMetrics().lineSpacing();
-    const double radius = line * 0.72;
-    const double left = area.left() + 3 * line;
-    const double scale = (area.width() - 6 * line) / std::max(wheels.back().x, 1.0);
-    const double beamY = hanging ? area.top() + 1.5 * line : area.center().y() + 0.8 * line;
-    const double beamHeight = 0.9 * line;
+    const double radius = line * (hanging ? 0.72 : 0.62);
+    const double left = area.left() + kLeftOfWheels * line;
+    const double scale = (area.width() - (kLeftOfWheels + 3) * line) / std::max(wheels.back().x, 1.0);
+    const double beamHeight = line * (hanging ? 0.9 : 0.5);
+    const double beamY = hanging ? area.top() + 1.5 * line : area.bottom() - kBelowBeam * line - beamHeight;
     painter.setPen(penOf(ink.line));
     painter.setBrush(ink.steel);
     painter.drawRect(QRectF(area.left(), beamY, area.width(), beamHeight));
     const double wheelY = hanging ? beamY + beamHeight + radius : beamY - radius;
     const double bodyY = hanging ? wheelY + radius + 0.2 * line : wheelY - radius - 0.9 * line;
-    const double dimensionY = hanging ? bodyY + 2.2 * line : beamY + beamHeight + 1.5 * line;
+    const double dimensionY = hanging ? bodyY + 2.2 * line : area.bottom() - kBelowDimension * line;
     // the bodies of the cranes
     for (std::size_t first = 0; first < wheels.size(); first += 4) {
         double end = wheels[first].x;
@@ -71,8 +74,8 @@ void drawWheels(QPainter& painter, const QRectF& area, const Ink& ink, const std
                           0.7 * line);
         painter.drawRect(body);
         if (!hanging)
-            drawTextAt(painter, {body.left(), body.top() - 0.1 * line}, QStringLiteral("Cr %1").arg(first == 0 ? 1 : 2),
-                       Qt::AlignLeft | Qt::AlignBottom);
+            drawTextAt(painter, {body.right() + 0.4 * line, body.center().y()},
+                       QStringLiteral("Cr %1").arg(first == 0 ? 1 : 2), Qt::AlignLeft | Qt::AlignVCenter);
     }
     for (std::size_t i = 0; i < wheels.size(); ++i) {
         const Wheel& wheel = wheels[i];
@@ -93,10 +96,26 @@ void drawWheels(QPainter& painter, const QRectF& area, const Ink& ink, const std
     }
 }
 
+/// The place of a fixed crane: wheel 1 from the left end of the beam, not to scale.
+void drawPosition(QPainter& painter, const QRectF& area, const Ink& ink, double position) {
+    const double line = painter.fontMetrics().lineSpacing();
+    const QPointF support(area.left() + 0.5 * line, area.bottom() - kBelowBeam * line);
+    painter.setPen(penOf(ink.line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolygon(
+        QPolygonF{{support, support + QPointF(-0.4 * line, 0.7 * line), support + QPointF(0.4 * line, 0.7 * line)}});
+    const double wheel = area.left() + kLeftOfWheels * line, y = area.bottom() - kBelowDimension * line;
+    painter.setPen(penOf(ink.dimension));
+    painter.drawLine(QPointF(support.x(), support.y() + 0.7 * line), QPointF(support.x(), y + 0.3 * line));
+    painter.drawLine(QPointF(wheel, y - 0.5 * line), QPointF(wheel, y + 0.3 * line));
+    drawDimension(painter, {support.x(), y}, {wheel, y}, QString::fromStdString(formatNumber(position, "0")));
+}
+
 }  // namespace
 
 PicturePainter cranesPicture(const Project& project) {
     return [&project](QPainter& painter, const QRectF& area, const Ink& ink) {
+        if (project.Fixerad) drawPosition(painter, area, ink, project.Position);
         drawWheels(painter, area, ink, placeWheels(project, project.NofCranes == 2), false);
     };
 }

@@ -105,8 +105,19 @@ PicturePainter sectionPicture(const SectionRecord& section, const Project& proje
         const double h = section.h, widest = std::max(double(section.b1), double(section.b2));
         if (h <= 0 || widest <= 0) return;
         const double line = painter.fontMetrics().lineSpacing();
-        const QRectF room = area.adjusted(7 * line, 5 * line, -7 * line, -3 * line);
-        const double scale = std::min(room.width() / (widest + 2 * section.ReinfT), room.height() / h);
+        const QString ofFlange = dimensionText("tf = ", section.tf1, "0.0");
+        const QString ofWeb = dimensionText("tw = ", section.tw, "0.0");
+        const double wordy = painter.fontMetrics().horizontalAdvance(ofFlange) + line;
+        // The thicknesses stand between the flanges where those are wide enough, else at the left of the section.
+        const double across = widest + 2 * section.ReinfT;
+        const auto scaleWith = [&](double left) {
+            return std::min((area.width() - left - 7 * line) / across, (area.height() - 8 * line) / h);
+        };
+        const double clear = (std::min(section.b1, section.b2) - section.tw) / 2;
+        const bool within = !section.Reinforced && section.Id != "Iu" && clear * scaleWith(line) > wordy;
+        const double leftOf = within ? line : 7 * line;
+        const double scale = scaleWith(leftOf);
+        const QRectF room = area.adjusted(leftOf, 5 * line, -7 * line, -3 * line);
         const Frame frame{{room.center().x(), room.center().y() + h * scale / 2}, scale};
         drawSection(painter, frame, section, ink);
         drawPlates(painter, frame, section, ink);
@@ -127,8 +138,14 @@ PicturePainter sectionPicture(const SectionRecord& section, const Project& proje
             painter.setPen(penOf(ink.dimension));
             drawTextAt(painter, {left, to.y()}, text, Qt::AlignRight | Qt::AlignVCenter);
         };
-        note(frame.at(-section.b1 / 2, h - section.tf1 / 2), dimensionText("tf = ", section.tf1, "0.0"));
-        note(frame.at(-section.tw / 2, h / 2), dimensionText("tw = ", section.tw, "0.0"));
+        if (within) {
+            const double x = frame.at(-section.tw / 2 - clear / 2, 0).x(), y = frame.at(0, h / 2).y();
+            drawTextAt(painter, {x, y - 0.6 * line}, ofFlange);
+            drawTextAt(painter, {x, y + 0.6 * line}, ofWeb);
+        } else {
+            note(frame.at(-section.b1 / 2, h - section.tf1 / 2), ofFlange);
+            note(frame.at(-section.tw / 2, h / 2), ofWeb);
+        }
         if (section.Id != "Iu") return;
         note(frame.at(-section.b2 / 2, section.tf2 / 2), dimensionText("tf2 = ", section.tf2, "0.0"));
         const double half2 = section.b2 / 2 * scale, below = foot.y() + 2.2 * line;
@@ -142,7 +159,7 @@ PicturePainter reinforcementPicture(const SectionRecord& section) {
         const double h = section.h, b = section.b1, t = section.ReinfT, d = section.ReinfD;
         if (h <= 0 || b <= 0) return;
         const double line = painter.fontMetrics().lineSpacing();
-        const QRectF room = area.adjusted(2 * line, 3 * line, -8 * line, -2 * line);
+        const QRectF room = area.adjusted(2 * line, 2 * line, -8 * line, -3 * line);
         const double scale = std::min(room.width() / (b + 2 * t), room.height() / (0.75 * h));
         // the bottom of the section lies outside: only its upper part matters here
         const Frame frame{{room.center().x(), room.top() + h * scale}, scale};
@@ -161,7 +178,9 @@ PicturePainter reinforcementPicture(const SectionRecord& section) {
         const QPointF at = frame.at(b / 2 - (under ? t : 0), top - d);
         drawArrow(painter, at + QPointF(-1.5 * line, line), at + QPointF(0, line));
         drawArrow(painter, at + QPointF(t * scale + 1.5 * line, line), at + QPointF(t * scale, line));
-        drawTextAt(painter, at + QPointF(t * scale + 1.7 * line, line), dimensionText("tr = ", t, "0.0"),
+        const QString thickness = dimensionText("tr = ", t, "0.0");
+        const double most = area.right() - painter.fontMetrics().horizontalAdvance(thickness);
+        drawTextAt(painter, {std::min(at.x() + 0.5 * line, most), at.y() + 1.8 * line}, thickness,
                    Qt::AlignLeft | Qt::AlignVCenter);
     };
 }
