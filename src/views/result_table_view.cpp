@@ -85,7 +85,10 @@ void ResultTableView::buildFirstColumn() {
     connect(firstColumn_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeFirstColumn(); });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        if (!fitting_) columnsSetByUser_ = true;
+        if (!fitting_) {
+            columnsSetByUser_ = true;
+            breakLines();
+        }
         placeFirstColumn();
     });
 }
@@ -162,25 +165,27 @@ void ResultTableView::fitColumns() {
             spare = 0;
         }
     auto widest = std::max_element(widths.begin(), widths.end());
-    const bool givesWay = spare < 0 && *widest + spare >= room / 3;
-    if (givesWay) *widest += spare;
+    if (spare < 0 && *widest + spare >= room / 3) *widest += spare;
     fitting_ = true;
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, widths[static_cast<std::size_t>(column)] + std::clamp(spare / columns, 0, kMostSpare));
     fitting_ = false;
-    breakLines(givesWay ? static_cast<int>(widest - widths.begin()) : -1);
+    breakLines();
 }
 
-/// Makes the rows as high as the texts of a column need in its width, all others a line high.
-/// @param column  -1 for none
-void ResultTableView::breakLines(int column) {
+/// Makes each row as high as its texts need in the widths that their columns have; those of a column that yields are
+/// cut instead.
+void ResultTableView::breakLines() {
     const int line = verticalHeader()->defaultSectionSize();
     for (int row = 0; row < model_.rowCount(); ++row) {
         int height = line;
-        if (column >= 0 && !model_.isLine(row)) {
-            const QRect room(0, 0, columnWidth(column) - kTextMargins, 1);
+        for (int column = 0; column < model_.columnCount() && !model_.isLine(row); ++column) {
+            if (model_.table().columns[static_cast<std::size_t>(column)].yields) continue;
             const QString text = model_.index(row, column).data().toString();
-            height = std::max(line, fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height() + kRowPadding);
+            const int width = columnWidth(column) - kTextMargins;
+            if (fontMetrics().horizontalAdvance(text) <= width) continue;
+            const QRect broken = fontMetrics().boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text);
+            height = std::max(height, broken.height() + kRowPadding);
         }
         if (rowHeight(row) != height) setRowHeight(row, height);
     }

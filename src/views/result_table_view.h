@@ -50,7 +50,7 @@ private:
     void placeFirstColumn();
     [[nodiscard]] int contentWidth(int column) const;
     void fitColumns();
-    void breakLines(int column);
+    void breakLines();
     void copy(const QString& text);
 
     ResultTableModel model_;
