@@ -39,7 +39,7 @@ double loadedLength(const Session& session, const SectionRecord& section) {
     return effectiveLoadedLength(rail, wearRail(rail, kWearStatic), session.project.RailFix, section);
 }
 
-/// Patch load of every span of an overhead crane with a resistance of another making.
+/// Patch load of every span of an overhead crane with another resistance.
 /// @param resistance  (span, section) -> kN
 template <class Resistance>
 std::optional<NoteFinding> withPatchResistance(const Session& session, Resistance resistance) {
@@ -97,7 +97,7 @@ double heaviestOfHoist(const Project& project) {
     return *std::max_element(project.V.begin(), project.V.begin() + 4);
 }
 
-/// Flange bending of every span of a monorail with a resistance of another making.
+/// Flange bending of every span of a monorail with another resistance.
 /// @param resistance  (span, section) -> kN
 template <class Resistance>
 std::optional<NoteFinding> withFlangeResistance(const Session& session, Resistance resistance) {

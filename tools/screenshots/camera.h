@@ -25,7 +25,7 @@ private:
     QDir folder_;
 };
 
-/// A program that nobody sits at.
+/// Answers for a program that runs unattended.
 class NoQuestions : public Questions {
 public:
     Answer yesNoCancel(const std::string&) override { return Answer::No; }
