@@ -12,7 +12,7 @@ Session runway(int spans, int length, RunwayCranes cranes) {
     Project& project = session.project;
     for (int i = 1; i <= kMaxSpans; ++i) {
         project.Span(i) = i <= spans ? length : 0;
-        project.SpanSection(i) = i <= spans ? session.context.BlankSection : SectionRecord{};
+        project.SpanSection(i) = i <= spans ? blankSection(session.tables) : SectionRecord{};
     }
     for (int wheel = 1; wheel <= 8; ++wheel) {
         project.V(wheel) = wheel <= 4 ? 40 + wheel : 25 + wheel;

@@ -72,7 +72,6 @@ void checkCalculation(const std::string& bytes) {
     if (positionsOf(project) > kMostPositions) return;
     Session session(tablesOfTheProgram());
     session.project = project;
-    FollowProject(session.tables, session.project, session.context);
     const std::string fast = outcome(session, WalkMethod::Fast);
     if (outcome(session, WalkMethod::Plain) != fast)
         throw BrokenLaw("a second run, by the plain walk, gives other results");

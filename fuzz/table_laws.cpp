@@ -70,9 +70,7 @@ void checkTables(const std::string& bytes) {
         return;
     }
     checkRows(tables);
-    Project project;
-    ProjectContext context;
-    DefaultProject(tables, project, context);
+    Project project = DefaultProject(tables);
     try {
         bool lost = false;
         Project again;

@@ -22,8 +22,7 @@ bool load(Session& session, const std::string& file, Messages& messages) {
         messages.show(error.what());
         return false;
     }
-    FollowProject(session.tables, session.project, session.context);
-    session.context.FileName = session.context.FileTitle = file;
+    session.named(file);
     return true;
 }
 

@@ -75,7 +75,8 @@ void turnRound(Array<Single>& largest, Array<Single>& smallest) {
 }
 
 struct Run {
-    Session& session;
+    Project& project;  ///< is being settled
+    const ReferenceTables& tables;
     Messages& messages;
     Progress& progress;
     WalkMethod method;
@@ -85,10 +86,9 @@ struct Run {
 
 /// Sections, ULS, SLS and the static checks.
 void RunStatic(Run& run) {
-    Session& session = run.session;
-    Project& project = session.project;
-    const RailRecord& rail = session.context.CurrentRail;
-    UpdateSections(session.tables, project, session.context);
+    Project& project = run.project;
+    const RailRecord& rail = railOf(project, run.tables);
+    UpdateSections(run.tables, project);
     run.loads.NCranes = project.NofCranes;
 
     SetUlsLoads(project, rail, run.loads);
@@ -105,11 +105,12 @@ void RunStatic(Run& run) {
 
 /// Two cranes are always overhead cranes here, whatever the crane type says.
 void runFatigue(Run& run) {
-    Project& project = run.session.project;
-    const FatigueRun fatigue{project,      run.session.context, run.loads,        run.method,
-                             run.messages, run.progress,        run.results.Steps};
+    Project& project = run.project;
+    const FatigueRun fatigue{
+        project, railOf(project, run.tables), run.loads, run.method, run.messages, run.progress, run.results.Steps};
     const bool overhead = project.NofCranes == 2 || project.CraneType == 1;
     run.results.Fatigue = overhead ? RunFatigueOverhead(fatigue) : RunFatigueMonorail(fatigue);
+    if (const auto both = run.results.Fatigue.ClassOfBoth) project.FatigueSpare = *both;
 }
 
 /// The lengths of beam and cranes, each sum rounded to a single.
@@ -146,7 +147,23 @@ double secondsSince(std::chrono::steady_clock::time_point start) {
 }  // namespace
 
 Session::Session(ReferenceTables loaded) : tables(std::move(loaded)) {
-    DefaultProject(tables, project, context);
+    startAnew();
+}
+
+void Session::startAnew() {
+    project = DefaultProject(tables);
+    CurrentSection = blankSection(tables);
+    named(kNewProjectFile);
+}
+
+void Session::take(Outcome outcome) {
+    project = std::move(outcome.settled);
+    InputOK = outcome.InputOK;
+    Fault = std::move(outcome.Fault);
+    Calculated = outcome.results.has_value();
+    if (!Calculated) return;
+    results = std::move(outcome.results);
+    CurrentSection = project.SpanSection(project.NofSpans);
 }
 
 bool CheckInput(Project& project, Messages& messages) {
@@ -176,34 +193,38 @@ void TurnReactionsUpward(UlsResults& uls) {
     turnRound(uls.RyMax, uls.RyMin);
 }
 
-bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method) {
+Outcome Calculate(const Project& entered, const ReferenceTables& tables, Messages& messages, Progress& progress,
+                  WalkMethod method) {
     const auto start = std::chrono::steady_clock::now();
-    Project& project = session.project;
-    const Project entered = project;
-    session.Fault.clear();
-    session.Calculated = false;
+    Outcome outcome{entered, std::nullopt, true, ""};
+    Project& project = outcome.settled;
     try {
-        session.InputOK = CheckInput(project, messages);
-        if (!session.InputOK) return false;
+        outcome.InputOK = CheckInput(project, messages);
+        if (!outcome.InputOK) return outcome;
         watched("Lengths of beam and cranes", 0, [&] { setLengths(project); });
-        if (!cranesFit(project, messages) || !walkable(project, messages)) return false;
+        if (!cranesFit(project, messages) || !walkable(project, messages)) return outcome;
 
-        Run run{session, messages, progress, method, {}, {}};
+        Run run{project, tables, messages, progress, method, {}, {}};
         RunStatic(run);
         run.results.SecondsStatic = secondsSince(start);
         runFatigue(run);
         run.results.Seconds = secondsSince(start);
         if (project.NofCranes == 2) progress.runEnds(run.results.SecondsStatic);
-        session.results = std::move(run.results);
-        session.Calculated = true;
-        return true;
+        outcome.results = std::move(run.results);
     } catch (const RuntimeFault& fault) {
         // Half-filled sections go back to what was entered.
         project.SpanSection = entered.SpanSection;
-        session.Fault = std::string("Run-time error. ") + fault.what();
-        messages.show(session.Fault);
-        return false;
+        outcome.Fault = std::string("Run-time error. ") + fault.what();
+        messages.show(outcome.Fault);
     }
+    return outcome;
+}
+
+bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method) {
+    session.Fault.clear();
+    session.Calculated = false;
+    session.take(Calculate(session.project, session.tables, messages, progress, method));
+    return session.Calculated;
 }
 
 }  // namespace borvik

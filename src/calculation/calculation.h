@@ -15,10 +15,13 @@ namespace borvik {
 /// support forces.
 void TurnReactionsUpward(UlsResults& uls);
 
-/// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. On success `Calculated`
-/// is true and `results` are new. On a refusal the user has been told and nothing has changed except InputOK, NofSpans,
-/// the splice flags and the lengths. A run-time fault is shown too, as `Fault`, and leaves everything entered as it
-/// was.
+/// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. What was entered is
+/// only read; of a refused or faulty run `settled` holds NofSpans, the splice flags and the lengths as far as it came,
+/// and the sections as entered. The user has been told of a refusal or a run-time fault.
+[[nodiscard]] Outcome Calculate(const Project& entered, const ReferenceTables& tables, Messages& messages,
+                                Progress& progress, WalkMethod method = WalkMethod::Fast);
+
+/// The same of a session's project, and the outcome put in place.
 /// @return true when the run has ended with results
 bool Calculate(Session& session, Messages& messages, Progress& progress, WalkMethod method = WalkMethod::Fast);
 

@@ -26,12 +26,22 @@ struct Results {
     double Seconds = 0;        ///< time of the whole run
 };
 
+/// What a calculation gives back.
+struct Outcome {
+    Project settled;  ///< the input with what the calculation derives: lengths, spans, sections, C factors
+    std::optional<Results> results;  ///< none where it was refused or ended in a fault
+    bool InputOK = true;             ///< result of the input check
+    std::string Fault;               ///< text of the run-time fault that ended it; empty if none did
+};
+
 /// One project being worked on: the record, the tables it rests on, the flags, and the last results. Owned by the
 /// application; sessions know nothing of each other.
 struct Session {
     ReferenceTables tables;
     Project project;
-    ProjectContext context;
+    SectionRecord CurrentSection;    ///< what the section form works on; after a calculation that of the last span
+    std::string FileName;            ///< path of the project; a mere name as long as it has no file
+    std::string FileTitle;           ///< the path as opened, for the report's heading
     bool Calculated = false;         ///< true from the end of a run until any input changes; gates every result view
     bool InputOK = true;             ///< result of the last input check
     std::string Fault;               ///< text of the run-time fault that ended the last run; empty if none did
@@ -39,8 +49,16 @@ struct Session {
 
     /// A session with the default project.
     explicit Session(ReferenceTables loaded);
+    /// Puts the default project in place of the present one.
+    void startAnew();
+    /// The project belongs to this file from now on.
+    void named(const std::string& file) { FileName = FileTitle = file; }
     /// Any input has changed: results can't be reached until the next run.
     void inputChanged() noexcept { Calculated = false; }
+    /// Puts what a calculation of this project gave back in place.
+    void take(Outcome outcome);
+    /// The rail in use.
+    [[nodiscard]] const RailRecord& rail() const { return railOf(project, tables); }
 };
 
 }  // namespace borvik

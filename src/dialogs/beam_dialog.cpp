@@ -32,9 +32,9 @@ void bringRows(Project& project) {
     sections = std::move(rows);
 }
 
-void updateSections(const ReferenceTables& tables, Project& project, ProjectContext& context) {
+void updateSections(const ReferenceTables& tables, Project& project) {
     try {
-        UpdateSections(tables, project, context);
+        UpdateSections(tables, project);
     } catch (const RuntimeFault&) {
         // A beam still being laid out, such as a span without its section: the input check says so on closing.
     }
@@ -97,8 +97,7 @@ void BeamDialog::settle(Project& project) const {
     MessageList unheard;
     if (!CheckInput(project, unheard)) return;
     MarkSectionsInUse(project);
-    ProjectContext context = session_.context;
-    updateSections(session_.tables, project, context);
+    updateSections(session_.tables, project);
 }
 
 bool BeamDialog::mayClose() {
@@ -196,7 +195,8 @@ void BeamDialog::apply(const std::vector<int>& rows, int what) {
 }
 
 void BeamDialog::bringSectionsUpToDate() {
-    updateSections(session_.tables, project_, session_.context);
+    updateSections(session_.tables, project_);
+    if (project_.NofSpans > 0) session_.CurrentSection = project_.SpanSection(project_.NofSpans);
 }
 
 void BeamDialog::openSectionForm() {

@@ -109,7 +109,7 @@ QString InputDialog::whatChanged() const {
 }
 
 InputDialog::State InputDialog::state() const {
-    return {project_, editsSection() ? session_.context.CurrentSection : SectionRecord()};
+    return {project_, editsSection() ? session_.CurrentSection : SectionRecord()};
 }
 
 void InputDialog::inputChanged() {
@@ -145,8 +145,7 @@ void InputDialog::standAt(const State& (Steps<State>::*step)()) {
     }
     settling_ = true;
     project_ = stand.project;
-    if (editsSection()) session_.context.CurrentSection = stand.section;
-    FollowProject(session_.tables, project_, session_.context);
+    if (editsSection()) session_.CurrentSection = stand.section;
     showInput();
     inputChanged();
     settling_ = false;

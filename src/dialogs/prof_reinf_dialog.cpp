@@ -32,7 +32,7 @@ const char* plateRefusal(const SectionRecord& section) {
 
 ProfReinfDialog::ProfReinfDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmProfReinf", tr("Reinforcement"), session, messages, std::move(changed), parent),
-      current_(session.context.CurrentSection) {
+      current_(session.CurrentSection) {
     picture_ = new Picture(reinforcementPicture(current_), 56, 20);
     picture_->setToolTip(tr("The plates at the top flange, to scale"));
     auto* content = new QGridLayout;
@@ -127,7 +127,7 @@ bool ProfReinfDialog::mayClose() {
     SectionRecord named = current_;
     try {
         // The name is made anew with the suffix, so that a second visit doesn't add a second suffix.
-        UpdateSection(session_.tables, project_, session_.context, named);
+        UpdateSection(session_.tables, project_, named);
         current_ = named;
     } catch (const RuntimeFault&) {
         // no section of these dimensions: the section form says so

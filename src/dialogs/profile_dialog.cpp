@@ -55,10 +55,10 @@ QString impossible(const SectionRecord& s) {
 
 ProfileDialog::ProfileDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmProfile", tr("Profile"), session, messages, std::move(changed), parent, "Input string mismatch"),
-      current_(session.context.CurrentSection),
-      keptTable_(session.context.BlankSection),
-      keptIs_(firstOf(session.project, "Is", session.context.BlankSection)),
-      keptIu_(firstOf(session.project, "Iu", session.context.BlankSection)) {
+      current_(session.CurrentSection),
+      keptTable_(blankSection(session.tables)),
+      keptIs_(firstOf(session.project, "Is", blankSection(session.tables))),
+      keptIu_(firstOf(session.project, "Iu", blankSection(session.tables))) {
     auto* left = new QVBoxLayout;
     left->addWidget(tabs());
     lblName_ = new QLabel;
@@ -119,7 +119,7 @@ void ProfileDialog::WriteProfInput() {
 void ProfileDialog::UpdateResult() {
     SectionRecord section = current_;
     try {
-        UpdateSection(session_.tables, project_, session_.context, section);
+        UpdateSection(session_.tables, project_, section);
         current_ = section;
         WriteSectionResult();
     } catch (const RuntimeFault& fault) {

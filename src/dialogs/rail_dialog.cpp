@@ -14,7 +14,7 @@ namespace borvik {
 RailDialog::RailDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent)
     : InputDialog("frmRail", tr("Rail"), session, messages, std::move(changed), parent) {
     auto* content = new QGridLayout;
-    picture_ = new Picture(railPicture(session_.context, project_), 62, 20);
+    picture_ = new Picture(railPicture(project_, session_.tables), 62, 20);
     picture_->setToolTip(tr("The rail to scale on the top flange, with its fastening"));
     content->addWidget(choice().box, 0, 0);
     content->addWidget(fastening().box, 1, 0);
@@ -69,14 +69,12 @@ Group RailDialog::fastening() {
 
 void RailDialog::chooseRail(int row) {
     project_.RailName = session_.tables.RailTable(row).Name;
-    session_.context.RailIndex = FindRail(session_.tables, project_.RailName);
-    session_.context.CurrentRail = session_.tables.RailTable(session_.context.RailIndex);
     writeList();
     inputChanged();
 }
 
 void RailDialog::writeList() {
-    const RailRecord& rail = session_.context.CurrentRail;
+    const RailRecord& rail = railOf(project_, session_.tables);
     const auto row = [](const char* label, Single value, const char* mask, const char* unit) {
         return PropertyRow{label, formatNumber(value, mask), unit};
     };

@@ -66,7 +66,7 @@ StressSet walk(const FatigueRun& run, const History& history, const CraneFactors
 }  // namespace
 
 FatigueResults RunFatigueOverhead(const FatigueRun& run) {
-    Project& project = run.project;
+    const Project& project = run.project;
     const bool train = project.MinDistConst != 0.0;
     const bool twoCranes = project.NofCranes == 2;
     const bool crane2Alone = twoCranes && !train;
@@ -85,8 +85,8 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
         results.Cr2 = walk(run, StressHistoryCr2, factors.Cr2);
     }
     if (crane2Alone && project.TwoCraneMode == 2) {
-        project.FatigueSpare = classOfBoth(project);
-        factors.Cr12 = factorsOf(project.FatigueSpare, factors.Cr1.NofWheels + factors.Cr2.NofWheels, 0.0);
+        results.ClassOfBoth = classOfBoth(project);
+        factors.Cr12 = factorsOf(*results.ClassOfBoth, factors.Cr1.NofWheels + factors.Cr2.NofWheels, 0.0);
         loadBoth(run, factors);
         results.Cr12 = walk(run, StressHistoryCr12, factors.Cr12);
     }
@@ -97,14 +97,14 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
     if (twoCranes && project.TwoCraneMode == 2) results.Summed = Cranes::Together;
     const StressSet none(project.NofSpans);
     checkDetails(kOverheadDetails,
-                 {project, run.context.CurrentRail, factors, *results.Cr1, results.Cr2 ? *results.Cr2 : none,
+                 {project, run.rail, factors, *results.Cr1, results.Cr2 ? *results.Cr2 : none,
                   results.Cr12 ? *results.Cr12 : none},
                  results.Summed, results);
     return results;
 }
 
 FatigueResults RunFatigueMonorail(const FatigueRun& run) {
-    Project& project = run.project;
+    const Project& project = run.project;
     FatigueResults results;
     FatigueFactors& factors = results.Factors;
     ClearSpanLoad(run);
@@ -113,8 +113,7 @@ FatigueResults RunFatigueMonorail(const FatigueRun& run) {
     results.Cr1 = walk(run, StressHistoryMonorail, factors.Cr1);
 
     const StressSet none(project.NofSpans);
-    checkDetails(kMonorailDetails, {project, run.context.CurrentRail, factors, *results.Cr1, none, none}, Cranes::Alone,
-                 results);
+    checkDetails(kMonorailDetails, {project, run.rail, factors, *results.Cr1, none, none}, Cranes::Alone, results);
     return results;
 }
 

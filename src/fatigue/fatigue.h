@@ -11,9 +11,9 @@ namespace borvik {
 
 /// What a fatigue driver needs from the calculation around it.
 struct FatigueRun {
-    Project& project;               ///< FatigueSpare is written
-    const ProjectContext& context;  ///< CurrentRail
-    RunLoads& loads;                ///< as the serviceability run left them; rewritten by each fatigue walk
+    const Project& project;
+    const RailRecord& rail;
+    RunLoads& loads;  ///< as the serviceability run left them; rewritten by each fatigue walk
     WalkMethod method;
     Messages& messages;
     Progress& progress;

@@ -32,8 +32,9 @@ struct StressSet {
 /// not checked.
 struct FatigueResults {
     std::optional<StressSet> Cr1, Cr2, Cr12;
-    FatigueFactors Factors;         ///< with which the sets were made; all zero for a set that is absent
-    Cranes Summed = Cranes::Alone;  ///< which cranes the details sum up
+    FatigueFactors Factors;                   ///< with which the sets were made; all zero for a set that is absent
+    Cranes Summed = Cranes::Alone;            ///< which cranes the details sum up
+    std::optional<std::int16_t> ClassOfBoth;  ///< crane class of both together, where they act so
     /// FatRows1..FatRows6. The rows of detail 4 of an overhead crane live in entry 6 (and are gone when detail 6 is
     /// checked too); entry 4 is filled by a monorail only: note H6.
     FixedArray<std::optional<Array<RowSet>>, 1, 6> FatRows;

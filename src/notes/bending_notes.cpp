@@ -87,7 +87,7 @@ std::optional<NoteFinding> shearLeftOut(const Session& session) {
     if (project.CraneType != 1) return matters(!remark.empty(), remark);
 
     constexpr double kLocalShare = 0.2;  // of the local vertical stress
-    const RailRecord& rail = session.context.CurrentRail;
+    const RailRecord& rail = session.rail();
     const WornRail worn = wearRail(rail, kWearStatic);
     RunLoads loads;
     SetUlsLoads(project, rail, loads);

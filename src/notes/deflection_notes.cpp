@@ -41,11 +41,11 @@ std::optional<NoteFinding> withDynamicFactor(const Session& session) {
     factored.LfULS = project.LfSLS;
     RunLoads loads;
     loads.NCranes = project.NofCranes;
-    SetUlsLoads(factored, session.context.CurrentRail, loads);
+    SetUlsLoads(factored, session.rail(), loads);
     SilentMessages silent;
     Progress progress;
     const SlsResults sls = RunSls(project, loads, WalkMethod::Fast, silent, progress);
-    const CheckResult other = runCheck("DefZ", {project, session.context.CurrentRail, session.results->Uls, sls});
+    const CheckResult other = runCheck("DefZ", {project, session.rail(), session.results->Uls, sls});
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span)
         if (other.spans(span).Ratio > 1)

@@ -91,7 +91,7 @@ std::optional<NoteFinding> eccentricWheel(const Session& session) {
     const bool classAboveS3 = project.CraneClass1 > 3 || (project.NofCranes == 2 && project.CraneClass2 > 3);
     if (detail == nullptr || !overheadFatigue(session) || !classAboveS3) return std::nullopt;
     if (project.W1 == "FW") return matters(true, "two fillets, which bend otherwise than the web");
-    if (project.RailFix == kRigidlyFixed && session.context.CurrentRail.Id == "A")
+    if (project.RailFix == kRigidlyFixed && session.rail().Id == "A")
         return matters(true, "a crane rail rigidly fixed, whose own torsional stiffness helps");
     std::vector<DamagePoint> worst;
     for (int span = 1; span <= project.NofSpans; ++span) {

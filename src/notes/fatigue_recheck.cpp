@@ -57,7 +57,7 @@ StressSet walked(const Project& project, RunLoads& loads, const History& history
 
 }  // namespace
 
-FatigueRecheck::FatigueRecheck(const Session& session) : project(session.project), rail(session.context.CurrentRail) {
+FatigueRecheck::FatigueRecheck(const Session& session) : project(session.project), rail(session.rail()) {
     const FatigueResults& checked = session.results->Fatigue;
     const StressSet none(project.NofSpans);
     factors = checked.Factors;

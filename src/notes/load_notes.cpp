@@ -78,12 +78,12 @@ std::optional<Session> underOtherLoads(const Session& session, Change change) {
     Session copy = session;
     RunLoads loads;
     loads.NCranes = copy.project.NofCranes;
-    SetUlsLoads(copy.project, copy.context.CurrentRail, loads);
+    SetUlsLoads(copy.project, copy.rail(), loads);
     change(loads);
     Results& results = *copy.results;
     results.Uls = RunUls(copy.project, loads, WalkMethod::Fast, silent, progress);
     TurnReactionsUpward(results.Uls);
-    results.Checks = RunCodeChecks({copy.project, copy.context.CurrentRail, results.Uls, results.Sls});
+    results.Checks = RunCodeChecks({copy.project, copy.rail(), results.Uls, results.Sls});
     return copy;
 }
 
@@ -91,8 +91,8 @@ std::optional<Session> underOtherLoads(const Session& session, Change change) {
 std::optional<NoteFinding> relievingDeadLoad(const Session& session) {
     const Project& project = session.project;
     if (project.NofSpans == 1 || project.LfULS == 1) return std::nullopt;
-    const auto other = underOtherLoads(
-        session, [&](RunLoads& loads) { SetDeadLoad(project, session.context.CurrentRail, 1.0, loads); });
+    const auto other =
+        underOtherLoads(session, [&](RunLoads& loads) { SetDeadLoad(project, session.rail(), 1.0, loads); });
     if (!other) return std::nullopt;
     NoteFinding finding = grown(allRatios(session), allRatios(*other)).value_or(NoteFinding{});
     const Array<Single>&shown = session.results->Uls.RzMin, &smallest = other->results->Uls.RzMin;
@@ -117,7 +117,7 @@ std::optional<NoteFinding> gangwayOnWorstSpans(const Session& session) {
     const auto loadedOn = [&](auto loaded) {
         const auto other = underOtherLoads(session, [&](RunLoads& loads) {
             const RunLoads onAll = loads;
-            SetDeadLoad(without, session.context.CurrentRail, project.LfULS, loads);
+            SetDeadLoad(without, session.rail(), project.LfULS, loads);
             for (int span = 1; span <= project.NofSpans; ++span)
                 if (loaded(span)) loads.SpanLoad(span) = onAll.SpanLoad(span);
         });
@@ -137,7 +137,7 @@ std::optional<NoteFinding> leverOfHorizontalLoad(const Session& session) {
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
         const double hs = section.h - (section.tf1 + section.tf2) / 2;
-        const double factor = 1 + (session.context.CurrentRail.RailHr + section.tf1 / 2) / hs;
+        const double factor = 1 + (session.rail().RailHr + section.tf1 / 2) / hs;
         double shown = 0, other = 0;
         for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan})
             for (const double times : {1.0, factor}) {

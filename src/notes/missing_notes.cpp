@@ -33,7 +33,7 @@ std::optional<NoteFinding> stressUnderWheel(const Session& session) {
     constexpr double kWorthANote = 0.8;
     const Project& project = session.project;
     if (project.CraneType != 1) return std::nullopt;
-    const RailRecord& rail = session.context.CurrentRail;
+    const RailRecord& rail = session.rail();
     const WornRail worn = wearRail(rail, kWearStatic);
     double FzEd = 0;
     for (int wheel = 1; wheel <= 8; ++wheel)

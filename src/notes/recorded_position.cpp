@@ -14,7 +14,7 @@ constexpr double kStep = 200;  // mm, of the walk
 RunLoads ulsLoads(const Session& session) {
     RunLoads loads;
     loads.NCranes = session.project.NofCranes;
-    SetUlsLoads(session.project, session.context.CurrentRail, loads);
+    SetUlsLoads(session.project, session.rail(), loads);
     return loads;
 }
 

@@ -28,10 +28,7 @@ std::optional<NoteFinding> thickFlanges(const Session& session) {
     if (grade < 0) return std::nullopt;
     const SteelGradeRow& row = session.tables.MaterialTable(grade);
     if (project.fyk != row.fyk1 || !(row.fyk2 > 0 && row.fyk2 < row.fyk1)) return std::nullopt;
-    const auto weaker = recalculated(session, [&row](Session& copy) {
-        copy.project.fyk = row.fyk2;
-        FollowProject(copy.tables, copy.project, copy.context);
-    });
+    const auto weaker = recalculated(session, [&row](Session& copy) { copy.project.fyk = row.fyk2; });
     if (!weaker) return std::nullopt;
     const CheckResults &shown = session.results->Checks, &other = weaker->results->Checks;
     std::vector<NoteChange> changes;
@@ -106,7 +103,7 @@ std::optional<NoteFinding> torsionOfUnequalFlanges(const Session& session) {
     }
     if (!unequal) return std::nullopt;
     const Results& results = *session.results;
-    const CheckResult thinner = runCheck("Ltb", {other, session.context.CurrentRail, results.Uls, results.Sls});
+    const CheckResult thinner = runCheck("Ltb", {other, session.rail(), results.Uls, results.Sls});
     std::vector<NoteChange> changes;
     for (int span = 1; span <= session.project.NofSpans; ++span)
         changes.push_back({inSpan("lateral torsional buckling", span), results.Checks["Ltb"].spans(span).Ratio,
@@ -127,7 +124,7 @@ std::optional<NoteFinding> slenderReinforcement(const Session& session) {
     constexpr double kClass3 = 14;  // c/t of an outstand in compression, times epsilon
     for (int span = 1; span <= session.project.NofSpans; ++span) {
         const SectionRecord& section = session.project.SpanSection(span);
-        if (section.Reinforced && section.ReinfD > kClass3 * session.context.Epsilon * section.ReinfT)
+        if (section.Reinforced && section.ReinfD > kClass3 * epsilonOf(session.project.fyk) * section.ReinfT)
             return matters(true, "d/t " + formatNumber(section.ReinfD / section.ReinfT, "0.0") + " in span " +
                                      std::to_string(span));
     }

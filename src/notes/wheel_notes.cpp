@@ -29,13 +29,13 @@ std::optional<NoteFinding> patchLoadFactors(const Session& session) {
     for (int wheel = 1; wheel <= 8; ++wheel)
         factored.V(wheel) = (wheel <= 4 ? factored.PsiV1 : factored.PsiV2) * factored.LfULS * factored.V(wheel);
     const Results& results = *session.results;
-    const CheckResult other = runCheck("Local", {factored, session.context.CurrentRail, results.Uls, results.Sls});
+    const CheckResult other = runCheck("Local", {factored, session.rail(), results.Uls, results.Sls});
     return NoteFinding{{worst("patch load", results.Checks["Local"].spans, other.spans)}, ""};
 }
 
 /// leff of the rail in use, worn.
 double loadedLength(const Session& session, const SectionRecord& section) {
-    const RailRecord& rail = session.context.CurrentRail;
+    const RailRecord& rail = session.rail();
     return effectiveLoadedLength(rail, wearRail(rail, kWearStatic), session.project.RailFix, section);
 }
 

@@ -46,9 +46,9 @@ QString symbol(const char* name, double value) {
 
 }  // namespace
 
-PicturePainter railPicture(const ProjectContext& context, const Project& project) {
-    return [&context, &project](QPainter& painter, const QRectF& area, const Ink& ink) {
-        const RailRecord& rail = context.CurrentRail;
+PicturePainter railPicture(const Project& project, const ReferenceTables& tables) {
+    return [&project, &tables](QPainter& painter, const QRectF& area, const Ink& ink) {
+        const RailRecord& rail = railOf(project, tables);
         const double h = rail.RailHr, b = std::max(double(rail.RailBr), 1.0), k = rail.RailKr;
         const bool flat = rail.Id != "A";
         const double line = painter.fontMetrics().lineSpacing();

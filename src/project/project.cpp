@@ -30,17 +30,6 @@ SectionRecord weldedTemplate(const SectionRecord& blank, const char* family, con
     return section;
 }
 
-SectionRecord blankSection(const ReferenceTables& tables) {
-    SectionRecord section = tables.SectionTable(kDefaultSection);
-    section.Reinforced = false;
-    section.InUse = true;
-    section.ReinfD = 100;
-    section.ReinfB = 200;
-    section.ReinfT = 10;
-    section.ReinfText.clear();
-    return section;
-}
-
 void setSections(const SectionRecord& blank, Project& project) {
     SectionRecord equalFlanges = weldedTemplate(blank, "Is", "Is 700x300x15x25");
     equalFlanges.b2 = 300;
@@ -152,37 +141,37 @@ void setFactors(Project& project) {
 }  // namespace
 
 Single epsilonOf(double fyk) {
-    return std::sqrt(235.0 / fyk);
+    return fyk > 0.0 ? Single(std::sqrt(235.0 / fyk)) : Single(0.0);
 }
 
-void DefaultProject(const ReferenceTables& tables, Project& project, ProjectContext& context) {
-    project = Project{};
-    context = ProjectContext{};
-    context.BlankSection = blankSection(tables);
-    context.CurrentSection = context.BlankSection;
-    context.FileName = kNewProjectFile;
-    context.FileTitle = context.FileName;
+const RailRecord& railOf(const Project& project, const ReferenceTables& tables) {
+    static const RailRecord none;
+    const int row = FindRail(tables, project.RailName);
+    if (row >= 0) return tables.RailTable(row);
+    return tables.RailTable.has(kDefaultRail) ? tables.RailTable(kDefaultRail) : none;
+}
 
-    setSections(context.BlankSection, project);
+SectionRecord blankSection(const ReferenceTables& tables) {
+    SectionRecord section = tables.SectionTable(kDefaultSection);
+    section.Reinforced = false;
+    section.InUse = true;
+    section.ReinfD = 100;
+    section.ReinfB = 200;
+    section.ReinfT = 10;
+    section.ReinfText.clear();
+    return section;
+}
+
+Project DefaultProject(const ReferenceTables& tables) {
+    Project project;
+    setSections(blankSection(tables), project);
     setBeamAndLoads(project);
     setOverheadDetails(project);
     setMonorailDetails(project);
     setFactors(project);
     project.SteelGrade = tables.MaterialTable(kDefaultMaterial).MatName;
     project.RailName = tables.RailTable(kDefaultRail).Name;
-    FollowProject(tables, project, context);
-}
-
-void FollowProject(const ReferenceTables& tables, const Project& project, ProjectContext& context) {
-    if (const int row = FindMaterial(tables, project.SteelGrade); row >= 0) {
-        context.MaterialIndex = row;
-        context.CurrentMaterial = project.SteelGrade;
-    }
-    if (const int row = FindRail(tables, project.RailName); row >= 0) {
-        context.RailIndex = row;
-        context.CurrentRail = tables.RailTable(row);
-    }
-    context.Epsilon = project.fyk > 0.0 ? epsilonOf(project.fyk) : Single(0.0);
+    return project;
 }
 
 }  // namespace borvik

@@ -12,7 +12,7 @@ namespace borvik {
 constexpr int kMaxSpans = 30;
 constexpr int kCheckedSplices = 4;  // of the ten that a file holds
 
-/// Every value that the user enters, and the few lengths that the calculation writes back. Fields stand in the order of
+/// Every value that the user enters, and the few lengths that a calculation settles. Fields stand in the order of
 /// the project file; fields named Spare are never used and survive load and save unchanged. mm, kN, kN/m, MPa. Flags
 /// are true or false here and -1 or 0 in the file. A default-made record is empty, as after no input at all;
 /// DefaultProject gives the values that the program starts with.
@@ -34,7 +34,7 @@ struct Project {
     bool Fixerad = false;           ///< the crane stands fixed at Position
     std::int16_t TwoCraneMode = 0;  ///< 1 independent, 2 simultaneous
     FixedArray<std::uint8_t, 1, 4> Spare2;
-    std::int16_t FatigueSpare = 0;  ///< crane class of both cranes together; working storage of the fatigue driver
+    std::int16_t FatigueSpare = 0;  ///< crane class of both cranes together, settled by the calculation
     std::int16_t CraneClass1 = 0;   ///< 0..9 for S0..S9
     std::int16_t CraneClass2 = 0;
     std::int16_t CraneClassR = 0;       ///< of the monorail hoist
@@ -159,30 +159,17 @@ struct Project {
 /// The name of a new project's file, until it is saved under another.
 inline constexpr const char* kNewProjectFile = "test.brvk";
 
-/// What stands beside the record and isn't saved: the choices that follow from it, and the section being worked on.
-struct ProjectContext {
-    SectionRecord BlankSection;    ///< template for new spans
-    SectionRecord CurrentSection;  ///< the section being edited or computed
-    int MaterialIndex = 0;         ///< row of SteelGrade in the material table
-    std::string CurrentMaterial;   ///< name of the material row in use
-    int RailIndex = 0;             ///< row of RailName in the rail table
-    RailRecord CurrentRail;        ///< the rail in use
-    Single Epsilon;                ///< sqrt(235 / fyk)
-    std::string FileName;          ///< path of the current project; a mere name as long as it has no file
-    std::string FileTitle;         ///< the path as opened, for the report's heading
-};
-
-/// sqrt(235 / fyk), EN 1993-1-1 Table 5.2. @param fyk MPa, > 0
+/// sqrt(235 / fyk), EN 1993-1-1 Table 5.2; 0 where fyk is not above 0. @param fyk MPa
 [[nodiscard]] Single epsilonOf(double fyk);
 
-/// Sets the record and its context to what the program starts with: three spans of HEA 300 under one two-wheel crane.
-/// Every field is set, so that nothing of a former project stays.
-void DefaultProject(const ReferenceTables& tables, Project& project, ProjectContext& context);
+/// The rail of a project, a row of the rail table; the rail of a new project where the table has none of its name.
+[[nodiscard]] const RailRecord& railOf(const Project& project, const ReferenceTables& tables);
 
-/// Brings the context in line with a record that has just been loaded: the rows of its steel grade and of its rail, and
-/// Epsilon from its fyk (fyk itself is not overwritten by the grade; an fyk of 0 or less leaves Epsilon at 0). A name
-/// that the table doesn't have leaves the current row.
-void FollowProject(const ReferenceTables& tables, const Project& project, ProjectContext& context);
+/// The section that a new project and a new span start with.
+[[nodiscard]] SectionRecord blankSection(const ReferenceTables& tables);
+
+/// What the program starts with: three spans of HEA 300 under one two-wheel crane. Every field is set.
+[[nodiscard]] Project DefaultProject(const ReferenceTables& tables);
 
 /// The steel grade that lets the user type fyk freely.
 inline constexpr const char* kGeneralSteel = "General";

@@ -4,8 +4,8 @@
 
 namespace borvik {
 
-ProjectHistory::ProjectHistory(const Project& project, const ProjectContext& context) {
-    replaced("", project, context);
+ProjectHistory::ProjectHistory(const Project& project, const std::string& fileName) {
+    replaced("", project, fileName);
 }
 
 bool ProjectHistory::changed(const std::string& what, const Project& project) {
@@ -14,8 +14,8 @@ bool ProjectHistory::changed(const std::string& what, const Project& project) {
     return true;
 }
 
-void ProjectHistory::replaced(const std::string& what, const Project& project, const ProjectContext& context) {
-    replaced(what, project, ProjectDocument{context.FileName, context.FileTitle, project});
+void ProjectHistory::replaced(const std::string& what, const Project& project, const std::string& fileName) {
+    replaced(what, project, ProjectDocument{fileName, fileName, project});
 }
 
 void ProjectHistory::replaced(const std::string& what, const Project& project, ProjectDocument document) {

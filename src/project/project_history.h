@@ -26,13 +26,14 @@ struct ProjectStep {
 /// to an input form or for one command; opening another project is a step like any other.
 class ProjectHistory {
 public:
-    ProjectHistory(const Project& project, const ProjectContext& context);
+    /// @param fileName  of a project that has no file yet: the name that the first save proposes
+    ProjectHistory(const Project& project, const std::string& fileName);
 
     /// Records a change of the present project; what was undone before it is forgotten.
     /// @return false where the project is as it was: no step
     bool changed(const std::string& what, const Project& project);
     /// Another project takes the place of this one, just as its file holds it.
-    void replaced(const std::string& what, const Project& project, const ProjectContext& context);
+    void replaced(const std::string& what, const Project& project, const std::string& fileName);
     /// Another project takes the place of this one, with changes that its file does not hold.
     void replaced(const std::string& what, const Project& project, ProjectDocument document);
     /// What the program derives from the input belongs to the step that stands, and is no change of the user's: a saved

@@ -38,7 +38,7 @@ std::string lowerCase(std::string text) {
 }
 
 PageHeadTexts headOf(const Session& session, const ReportTime& when) {
-    return {kProgramAndVersion,   when.date, when.time, session.project.Proj, lowerCase(session.context.FileTitle),
+    return {kProgramAndVersion,   when.date, when.time, session.project.Proj, lowerCase(session.FileTitle),
             session.project.Ident};
 }
 
@@ -154,7 +154,7 @@ bool canReport(const Session& session) {
 
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when, bool withNotes) {
     ReportPage page(printer, headOf(session, when));
-    Report report{page, session.project, session.context, *session.results};
+    Report report{page, session.project, session.rail(), *session.results};
     const DiagramData data{session.project, &*session.results};
     if (scope == ReportScope::All)
         PrintFull(report, data);
@@ -170,7 +170,7 @@ ReportTime reportTime(const std::tm& local) {
 }
 
 std::string reportFileName(const Session& session, ReportScope scope) {
-    std::string name = std::filesystem::path(session.context.FileName).stem().string();
+    std::string name = std::filesystem::path(session.FileName).stem().string();
     if (name.empty()) name = session.project.Proj;
     // A title may hold what no file name may.
     std::replace_if(

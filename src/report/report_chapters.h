@@ -10,7 +10,7 @@ namespace borvik {
 struct Report {
     ReportPage& page;
     const Project& project;
-    const ProjectContext& context;
+    const RailRecord& rail;
     const Results& results;
 };
 

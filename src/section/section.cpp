@@ -24,15 +24,14 @@ void update(const ReferenceTables& tables, const SectionSetting& setting, Sectio
     SectionResistance(setting, section);
 }
 
-}  // namespace
-
-SectionSetting settingOf(const Project& project, const ProjectContext& context) {
+/// What the properties of a section depend on beside its own dimensions.
+SectionSetting settingOf(const ReferenceTables& tables, const Project& project) {
     SectionSetting setting;
     setting.CraneType = project.CraneType;
     setting.LoadLevel = project.LoadLevel;
     setting.StiffenerMode = project.StiffenerMode;
-    setting.RailHr = context.CurrentRail.RailHr;
-    setting.Epsilon = context.Epsilon;
+    setting.RailHr = railOf(project, tables).RailHr;
+    setting.Epsilon = epsilonOf(project.fyk);
     setting.fyk = project.fyk;
     setting.Eta = project.Eta;
     setting.GammaM0 = project.GammaM0;
@@ -40,20 +39,22 @@ SectionSetting settingOf(const Project& project, const ProjectContext& context) 
     return setting;
 }
 
-void UpdateSections(const ReferenceTables& tables, Project& project, ProjectContext& context) {
-    const SectionSetting setting = settingOf(project, context);
+}  // namespace
+
+void UpdateSections(const ReferenceTables& tables, Project& project) {
+    const SectionSetting setting = settingOf(tables, project);
     for (int span = 1; span <= project.NofSpans; ++span) {
         watched("Section properties", span, [&] {
-            context.CurrentSection = project.SpanSection(span);
-            update(tables, setting, context.CurrentSection);
-            project.SpanSection(span) = context.CurrentSection;
+            // A copy: a designation that the table doesn't have leaves the span's section as it was.
+            SectionRecord section = project.SpanSection(span);
+            update(tables, setting, section);
+            project.SpanSection(span) = section;
         });
     }
 }
 
-void UpdateSection(const ReferenceTables& tables, const Project& project, const ProjectContext& context,
-                   SectionRecord& section) {
-    watched("Section properties", 0, [&] { update(tables, settingOf(project, context), section); });
+void UpdateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section) {
+    watched("Section properties", 0, [&] { update(tables, settingOf(tables, project), section); });
 }
 
 void LoadRolled(const ReferenceTables& tables, const std::string& TableName, SectionRecord& section) {

@@ -8,16 +8,15 @@
 namespace borvik {
 
 /// Brings the section of every span 1..NofSpans up to date: rolled sections are loaded anew from the table, welded ones
-/// built from their dimensions, reinforcement added, then class and resistances. CurrentSection of the context is left
-/// holding the last of them. Nothing piles up: two runs in a row give the same.
+/// built from their dimensions, reinforcement added, then class and resistances. Nothing piles up: two runs in a row
+/// give the same.
 /// @throws RuntimeFault  naming the span: a designation that the section table doesn't have, or an arithmetic fault
-void UpdateSections(const ReferenceTables& tables, Project& project, ProjectContext& context);
+void UpdateSections(const ReferenceTables& tables, Project& project);
 
 /// The same for one section.
 /// @param section  in: family, dimensions, reinforcement; out: every computed property
 /// @throws RuntimeFault  as UpdateSections, without a span
-void UpdateSection(const ReferenceTables& tables, const Project& project, const ProjectContext& context,
-                   SectionRecord& section);
+void UpdateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section);
 
 /// Copies the first row of the section table with this designation into the section: family, dimensions and the
 /// published properties, weak-axis modulus WplZ included; DisplayName becomes the designation. Every other field stays.
@@ -27,8 +26,5 @@ void LoadRolled(const ReferenceTables& tables, const std::string& TableName, Sec
 
 /// Sets InUse of each row of SectionList: true when some span's section has its DisplayName.
 void MarkSectionsInUse(Project& project);
-
-/// What the section room reads of the project and its context.
-[[nodiscard]] SectionSetting settingOf(const Project& project, const ProjectContext& context);
 
 }  // namespace borvik

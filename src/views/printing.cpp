@@ -48,7 +48,7 @@ bool isReady(const Session& session, const Services& services) {
 
 /// The file that a report is saved to unless the user chooses another: beside the project.
 QString proposedFile(const Session& session, ReportScope scope) {
-    const QFileInfo project(QString::fromStdString(session.context.FileName));
+    const QFileInfo project(QString::fromStdString(session.FileName));
     const QString name = QString::fromStdString(reportFileName(session, scope));
     return project.isAbsolute() ? project.absoluteDir().filePath(name) : name;
 }

@@ -57,7 +57,7 @@ MainWindow::MainWindow(Session& session, const Services& services, QWidget* pare
       session_(session),
       services_(services),
       recent_(services.settings, kApplicationTitle),
-      history_(session.project, session.context),
+      history_(session.project, session.FileName),
       recovery_(QString::fromStdString(services.recoveryFolder)) {
     setObjectName("frmBorvik");
     setAcceptDrops(true);
@@ -66,7 +66,7 @@ MainWindow::MainWindow(Session& session, const Services& services, QWidget* pare
     buildMenus();
     buildStatusBar();
     ShowRecentFiles();
-    WritefrmInput();
+    settleInput();
 }
 
 MainWindow::~MainWindow() {
@@ -227,13 +227,26 @@ void MainWindow::buildStatusBar() {
         statusBar()->addPermanentWidget(state);
 }
 
-void MainWindow::WritefrmInput() {
+/// A crane that is fixed at its place neither starts nor stops outside the beam.
+void MainWindow::keepInside() {
+    if (session_.project.Fixerad) session_.project.StartStopOutside = 0;
+}
+
+/// What the window derives from an input that has arrived: a file's, an earlier step's, a form's. It belongs to the
+/// step that stands and is no change of the user's.
+void MainWindow::settleInput() {
     const bool asRemembered = session_.project == history_.present().project;
     session_.project.BeamChecked = true;
-    panel_->showProject();
+    keepInside();
     if (asRemembered) history_.settled(session_.project);
+    WritefrmInput();
+}
+
+/// Refreshes everything that shows the input, and writes none of it.
+void MainWindow::WritefrmInput() {
+    panel_->showProject();
     picBalk_->showSketch(session_.project);
-    setWindowTitle("Borvik : " + QString::fromStdString(session_.context.FileName));
+    setWindowTitle("Borvik : " + QString::fromStdString(session_.FileName));
     ShowTreeView();
     showState();
 }
@@ -241,6 +254,7 @@ void MainWindow::WritefrmInput() {
 void MainWindow::projectChanged(const QString& what, bool resultsStand) {
     if (!resultsStand) session_.inputChanged();
     splicesDropped_ = false;
+    keepInside();
     picBalk_->showSketch(session_.project);
     panel_->showProject();
     remember(what);

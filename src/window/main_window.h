@@ -139,6 +139,8 @@ private:
     bool run();
     void showCalculation();
     [[nodiscard]] bool inputIsCalculated() const;
+    void keepInside();
+    void settleInput();
     void followInput();
 
     // Results

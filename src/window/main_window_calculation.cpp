@@ -41,7 +41,7 @@ void MainWindow::calculate() {
         showCalculation();
     } else {
         progress_.reset();
-        WritefrmInput();
+        settleInput();
     }
 }
 

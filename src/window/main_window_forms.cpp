@@ -32,6 +32,7 @@ void MainWindow::openForm(DialogKind kind, const QString& what) {
 /// An edit within the form that is open: shown in the sketch and kept for recovery at once, a step of the history when
 /// the form closes, since only then its last guard is asked.
 void MainWindow::formChanged(const QString& what) {
+    keepInside();
     picBalk_->showSketch(session_.project);
     panel_->showProject();
     showState();
@@ -59,7 +60,7 @@ void MainWindow::takeOver(const InputDialog& form, DialogKind kind, const QStrin
     }
     keepCopy();
     followInput();
-    WritefrmInput();
+    settleInput();
 }
 
 }  // namespace borvik

@@ -54,15 +54,14 @@ void MainWindow::redo() {
 /// @param another  the step is of another project than the one shown
 void MainWindow::standAt(const ProjectStep& step, const QString& told, bool another) {
     session_.project = step.project;
-    session_.context.FileName = step.document->FileName;
-    session_.context.FileTitle = step.document->FileTitle;
-    FollowProject(session_.tables, session_.project, session_.context);
+    session_.FileName = step.document->FileName;
+    session_.FileTitle = step.document->FileTitle;
     splicesDropped_ = false;
     followInput();
     if (another) {
         projectShown();
     } else {
-        WritefrmInput();
+        settleInput();
     }
     keepCopy();
     statusBar()->showMessage(told, 4000);

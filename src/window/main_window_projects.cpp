@@ -53,7 +53,7 @@ void MainWindow::ShowRecentFiles() {
 
 void MainWindow::newProject() {
     panel_->commit();
-    if (!session_.context.FileName.empty()) {
+    if (!session_.FileName.empty()) {
         switch (services_.questions.yesNoCancel("Vill du spara ändringarna i det aktuella projektet?")) {
             case Answer::Yes:
                 if (!saveInPlace()) return;
@@ -65,8 +65,7 @@ void MainWindow::newProject() {
                 break;
         }
     }
-    session_.project = {};
-    DefaultProject(session_.tables, session_.project, session_.context);
+    session_.startAnew();
     projectReplaced("New");
 }
 
@@ -76,7 +75,7 @@ bool MainWindow::hasPlace(const std::string& fileName) {
 
 /// Where choosers start: beside the project, or where one was opened or saved last.
 std::string MainWindow::projectFolder() const {
-    const std::string& file = session_.context.FileName;
+    const std::string& file = session_.FileName;
     if (hasPlace(file)) return QFileInfo(QString::fromStdString(file)).absolutePath().toStdString();
     const std::string last = services_.settings.get(kApplicationTitle, "Settings", kFolderKey);
     return QFileInfo(QString::fromStdString(last)).isDir() ? last : std::string();
@@ -123,15 +122,14 @@ bool MainWindow::load(const std::string& path, const std::string& step, const st
         return false;
     }
     session_.project = std::move(loaded);
-    session_.context.FileName = session_.context.FileTitle = shownAs;
-    FollowProject(session_.tables, session_.project, session_.context);
+    session_.named(shownAs);
     projectReplaced(step);
     history_.present().document->stamp = stamp;
     return true;
 }
 
 void MainWindow::projectReplaced(const std::string& step) {
-    history_.replaced(step, session_.project, session_.context);
+    history_.replaced(step, session_.project, session_.FileName);
     projectShown();
 }
 
@@ -143,7 +141,7 @@ void MainWindow::projectShown() {
     splicesDropped_ = false;
     picRes_->clear();
     results_->clear();
-    WritefrmInput();
+    settleInput();
 }
 
 bool MainWindow::saveTo(const std::string& path) {
@@ -154,7 +152,7 @@ bool MainWindow::saveTo(const std::string& path) {
         services_.messages.show(error.what());
         return false;
     }
-    session_.context.FileName = session_.context.FileTitle = path;
+    session_.named(path);
     history_.saved(session_.project, path);
     history_.present().document->stamp = stampOf(path);
     services_.settings.save(kApplicationTitle, "Settings", kFolderKey, projectFolder());
@@ -167,7 +165,7 @@ bool MainWindow::saveTo(const std::string& path) {
 /// Asks for a file to save to. @return nothing when cancelled
 std::optional<std::string> MainWindow::askForPlace() {
     const std::string folder = projectFolder();
-    const QString name = QFileInfo(QString::fromStdString(session_.context.FileName)).fileName();
+    const QString name = QFileInfo(QString::fromStdString(session_.FileName)).fileName();
     const auto chosen = services_.questions.fileToSave(
         folder.empty() ? name.toStdString() : QDir(QString::fromStdString(folder)).filePath(name).toStdString(),
         kPattern, "brvk");
@@ -177,7 +175,7 @@ std::optional<std::string> MainWindow::askForPlace() {
 /// The file that the project is saved to: its own, unless that would overwrite what the user has not seen.
 /// @return nothing when the user wants no saving
 std::optional<std::string> MainWindow::placeToSave() {
-    const std::string& file = session_.context.FileName;
+    const std::string& file = session_.FileName;
     if (!hasPlace(file)) {
         // The default project goes to the current folder where its name is free there; an example asks for a name.
         const bool isNew = file == kNewProjectFile;
@@ -203,7 +201,7 @@ bool MainWindow::saveInPlace() {
 
 void MainWindow::save() {
     if (!panel_->commit() || !saveInPlace()) return;
-    recent_.AddRecentOnSave(session_.context.FileName);
+    recent_.AddRecentOnSave(session_.FileName);
     ShowRecentFiles();
 }
 

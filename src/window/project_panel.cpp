@@ -67,10 +67,7 @@ QWidget* ProjectPanel::materialBox() {
         cbofyk_->addItem(QString::fromStdString(row.MatName));
     connect(cbofyk_, &QComboBox::activated, this, &ProjectPanel::chooseMaterial);
 
-    const auto changed = [this] {
-        if (session_.project.fyk > 0) session_.context.Epsilon = epsilonOf(session_.project.fyk);
-        Q_EMIT inputChanged(tr("Strength of the steel"));
-    };
+    const auto changed = [this] { Q_EMIT inputChanged(tr("Strength of the steel")); };
     ifyk_ = binder_.add({.name = "ifyk",
                          .field = session_.project.fyk,
                          .mask = "#00",
@@ -123,7 +120,7 @@ QWidget* ProjectPanel::craneTypeBox() {
 }
 
 void ProjectPanel::showProject() {
-    Project& project = session_.project;
+    const Project& project = session_.project;
     showName(iproj_, project.Proj);
     showName(iident_, project.Ident);
     const bool refusedHere = ifyk_->standsRefused() && ifyk_->text().toStdString() == formatNumber(project.fyk, "#00");
@@ -132,13 +129,11 @@ void ProjectPanel::showProject() {
     ifyk_->setEnabled(isGeneral(project));
 
     const int row = FindMaterial(session_.tables, project.SteelGrade);
-    if (row >= 0) session_.context.MaterialIndex = row;
-    cbofyk_->setCurrentIndex(session_.context.MaterialIndex);
+    if (row >= 0) cbofyk_->setCurrentIndex(row);
 
     optOverH_->setChecked(project.CraneType == 1);
     optRunW_->setChecked(project.CraneType != 1);
 
-    if (project.Fixerad) project.StartStopOutside = 0;
     chkStartStop_->setEnabled(!project.Fixerad);
     chkStartStop_->setChecked(project.StartStopOutside != 0);
 }
@@ -195,12 +190,9 @@ void ProjectPanel::enterInIdent() {
 void ProjectPanel::chooseMaterial(int row) {
     Project& project = session_.project;
     const SteelGradeRow& grade = session_.tables.MaterialTable(row);
-    session_.context.MaterialIndex = row;
-    session_.context.CurrentMaterial = grade.MatName;
     project.SteelGrade = grade.MatName;
     if (!isGeneral(project)) {
         project.fyk = grade.fyk1;
-        if (project.fyk > 0) session_.context.Epsilon = epsilonOf(project.fyk);
         binder_.show(ifyk_);
     }
     ifyk_->setEnabled(isGeneral(project));

@@ -354,7 +354,7 @@ TEST(Calculate, leavesTheSectionsComputed) {
     session.project.SpanSection(3) = session.project.SectionList(1);
     ASSERT_TRUE(session.calculate());
     for (int i = 1; i <= 3; ++i) EXPECT_GT(session.project.SpanSection(i).MyRdPos, 0) << i;
-    EXPECT_TRUE(session.context.CurrentSection == session.project.SpanSection(3));
+    EXPECT_TRUE(session.CurrentSection == session.project.SpanSection(3));
 }
 
 /// The far end gets the sign of a support force: all weight is carried upward.

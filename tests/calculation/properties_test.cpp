@@ -29,7 +29,6 @@ TEST(RandomProjects, giveTheSameBitsInEveryWay) {
             session.project = start;
             return randomProject(session, random);
         }();
-        for (TestSession* one : {&session, &other}) FollowProject(one->tables, one->project, one->context);
         SaveProject(folder.file("random.brvk"), project);
 
         if (session.calculate()) ++finished;

@@ -9,7 +9,6 @@ TestSession::TestSession() : Session(LoadTables(BORVIK_SOURCE_DIR "/data")) {}
 
 TestSession::TestSession(const std::filesystem::path& file) : TestSession() {
     LoadProject(file.string(), project);
-    FollowProject(tables, project, context);
 }
 
 bool TestSession::calculate(WalkMethod method) {

@@ -27,7 +27,6 @@ std::vector<std::string> vectorNames() {
 nlohmann::json calculated(const std::string& name, WalkMethod method) {
     Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
     LoadProject((kVectors / (name + ".brvk")).string(), session.project);
-    FollowProject(session.tables, session.project, session.context);
     MessageList messages;
     Progress progress;
     Calculate(session, messages, progress, method);

@@ -20,7 +20,6 @@ const std::filesystem::path kExamples = BORVIK_SOURCE_DIR "/examples";
 struct CalculatedExample {
     explicit CalculatedExample(const std::string& file) : session(LoadTables(BORVIK_SOURCE_DIR "/data")) {
         LoadProject((kExamples / file).string(), session.project);
-        FollowProject(session.tables, session.project, session.context);
         loaded = session.project;
         Progress progress;
         Calculate(session, messages, progress);

@@ -40,7 +40,6 @@ protected:
         p.Fat5Span(1) = 1;
         p.Fat5d1(1) = 5000;
         p.SpanSection(1).Iz = 1e7;
-        context.CurrentRail = girder.rail;
         for (Single& load : loads.SpanLoad) load = 5;
         for (Single& load : loads.WheelH) load = 9;
         for (Single& gap : loads.WheelGap) gap = 111;
@@ -48,14 +47,13 @@ protected:
     }
 
     FatigueResults run(FatigueResults (*driver)(const FatigueRun&) = RunFatigueOverhead) {
-        return driver({girder.project, context, loads, WalkMethod::Plain, messages, progress, steps});
+        return driver({girder.project, girder.rail, loads, WalkMethod::Plain, messages, progress, steps});
     }
 
     /// Range of the bottom flange's stress at midspan.
     static double midspan(const std::optional<StressSet>& set) { return set.value().Sig2Range(1, 11); }
 
     Girder girder;
-    ProjectContext context;
     RunLoads loads;
     MessageList messages;
     Progress progress;

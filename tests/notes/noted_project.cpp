@@ -23,7 +23,7 @@ void oneWheel(Session& session, int spans, int length) {
     Project& project = session.project;
     for (int span = 1; span <= kMaxSpans; ++span) {
         project.Span(span) = span <= spans ? length : 0;
-        project.SpanSection(span) = span <= spans ? session.context.BlankSection : SectionRecord{};
+        project.SpanSection(span) = span <= spans ? blankSection(session.tables) : SectionRecord{};
     }
     project.V = project.H = {};
     project.V(1) = 100;

@@ -8,8 +8,7 @@ namespace {
 class History : public testing::Test {
 protected:
     Project project;
-    ProjectContext context;
-    ProjectHistory history{project, context};
+    ProjectHistory history{project, "test.brvk"};
 
     void change(const std::string& title) {
         project.Proj = title;
@@ -40,8 +39,7 @@ TEST_F(History, knowsTheSavedStateOfEachProject) {
     history.saved(project, "a.brvk");
     change("b");
     EXPECT_TRUE(history.unsaved(project));
-    context.FileName = "other.brvk";
-    history.replaced("Open", Project(), context);
+    history.replaced("Open", Project(), "other.brvk");
     EXPECT_FALSE(history.unsaved(history.present().project));
     EXPECT_EQ(undone(), "b");
     EXPECT_EQ(history.present().document->FileName, "a.brvk");

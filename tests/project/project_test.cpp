@@ -13,67 +13,33 @@ namespace {
 
 const std::string kSource = BORVIK_SOURCE_DIR;
 
-class ProjectTest : public testing::Test {
-protected:
-    const ReferenceTables tables = LoadTables(kSource + "/data");
-    Project project;
-    ProjectContext context;
-};
-
-TEST_F(ProjectTest, defaultIsByteForByteTheOneOfAnIndependentProgram) {
-    DefaultProject(tables, project, context);
+TEST(DefaultProject, isByteForByteTheOneOfAnIndependentProgram) {
     bool lost = false;
-    EXPECT_EQ(ProjectBytes(project, lost), testing_support::bytesOf(kSource + "/tests/data/vectors/default.brvk"));
+    EXPECT_EQ(ProjectBytes(DefaultProject(LoadTables(kSource + "/data")), lost),
+              testing_support::bytesOf(kSource + "/tests/data/vectors/default.brvk"));
     EXPECT_FALSE(lost);
 }
 
-TEST_F(ProjectTest, defaultLeavesNothingOfAFormerProject) {
-    DefaultProject(tables, project, context);
-    const Project fresh = project;
-    LoadProject(kSource + "/tests/data/vectors/case-24.brvk", project);
-    ASSERT_FALSE(project == fresh);
-    context.FileName = "other.brvk";
-    context.CurrentSection.h = 1;
-    DefaultProject(tables, project, context);
-    EXPECT_TRUE(project == fresh);
-    EXPECT_EQ(context.FileName, "test.brvk");
-    EXPECT_EQ(context.FileTitle, "test.brvk");
-    EXPECT_TRUE(context.CurrentSection == context.BlankSection);
+TEST(DefaultProject, startsWithASectionForNewSpans) {
+    const SectionRecord section = blankSection(LoadTables(kSource + "/data"));
+    EXPECT_EQ(section.DisplayName, "HEA 300") << "a span without a name has no section";
+    EXPECT_TRUE(section.InUse);
+    EXPECT_EQ(double(section.ReinfD), 100);
 }
 
-TEST_F(ProjectTest, defaultContextFollowsTheTables) {
-    DefaultProject(tables, project, context);
-    EXPECT_EQ(context.MaterialIndex, 2);
-    EXPECT_EQ(context.CurrentMaterial, "S355");
-    EXPECT_EQ(context.RailIndex, 7);
-    EXPECT_EQ(context.CurrentRail.Name, "Pl 50x30");
-    EXPECT_EQ(context.Epsilon.stored(), 0.813616514F) << "sqrt(235/355), EN 1993-1-1 Table 5.2 gives 0.81";
-    EXPECT_EQ(context.BlankSection.DisplayName, "HEA 300") << "a span without a name has no section";
-    EXPECT_TRUE(context.BlankSection.InUse);
-    EXPECT_EQ(double(context.BlankSection.ReinfD), 100);
-}
-
-TEST_F(ProjectTest, contextFollowsALoadedRecord) {
-    DefaultProject(tables, project, context);
-    project.SteelGrade = "S235";
-    project.fyk = 500;  // stays, though the grade would give 235
+TEST(Project, railAndEpsilonFollowTheRecord) {
+    const ReferenceTables tables = LoadTables(kSource + "/data");
+    Project project = DefaultProject(tables);
+    EXPECT_EQ(railOf(project, tables).Name, "Pl 50x30");
     project.RailName = "A 75";
-    FollowProject(tables, project, context);
-    EXPECT_EQ(context.MaterialIndex, 0);
-    EXPECT_EQ(context.RailIndex, 3);
-    EXPECT_EQ(double(context.CurrentRail.RailHr), 85);
-    EXPECT_EQ(double(project.fyk), 500);
-    EXPECT_NEAR(context.Epsilon, 0.685565, 1e-6) << "sqrt(0.47)";
-
-    project.SteelGrade = "unknown";
+    EXPECT_EQ(double(railOf(project, tables).RailHr), 85);
     project.RailName = "";
-    for (const double fyk : {0.0, -355.0, std::nan("")}) {
-        project.fyk = fyk;
-        FollowProject(tables, project, context);
-        EXPECT_EQ(double(context.Epsilon), 0) << fyk;
-    }
-    EXPECT_EQ(context.CurrentMaterial, "S235") << "a name that no table has leaves the current row";
-    EXPECT_EQ(context.CurrentRail.Name, "A 75");
+    EXPECT_EQ(railOf(project, tables).Name, "Pl 50x30") << "a name that no table has: as in a new project";
+    EXPECT_EQ(railOf(project, ReferenceTables()), RailRecord());
+
+    EXPECT_EQ(epsilonOf(355).stored(), 0.813616514F) << "sqrt(235/355), EN 1993-1-1 Table 5.2 gives 0.81";
+    EXPECT_NEAR(epsilonOf(500), 0.685565, 1e-6) << "sqrt(0.47)";
+    for (const double fyk : {0.0, -355.0, std::nan("")}) EXPECT_EQ(double(epsilonOf(fyk)), 0) << fyk;
 }
 
 TEST(CraneClasses, damageFactorsAreThoseOfEN1991) {

@@ -113,7 +113,7 @@ TEST(Report, longTitlesAreBrokenAndKeptWhole) {
     std::string title;
     for (int word = 1; word <= 40; ++word) title += "word" + std::to_string(word) + " ";
     session.project.Proj = title;
-    session.context.FileTitle = "/" + std::string(300, 'x') + ".brvk";
+    session.FileTitle = "/" + std::string(300, 'x') + ".brvk";
     RecordingPrinter printer(kA4.width, kA4.height);
     PrintReport(printer, session, ReportScope::Uls, {});
     const std::string text = withoutBlanks(printer.text());
@@ -215,7 +215,7 @@ TEST(Report, onlyResultsOfThePresentInputCanBePrinted) {
 TEST(Report, fileNameFollowsProjectAndScope) {
     Session session = sessionOf(Sample::OneCrane);
     EXPECT_EQ(reportFileName(session, ReportScope::UlsSls), "Hall ÅMÅL-ULS-SLS.pdf");
-    session.context.FileName.clear();
+    session.FileName.clear();
     session.project.Proj = " a/b: c ";
     EXPECT_EQ(reportFileName(session, ReportScope::Compressed), "a-b- c-compressed.pdf");
     session.project.Proj = " ";

@@ -62,7 +62,6 @@ TEST(Tables, everyShownNumberStandsBehindItsText) {
             if (entry.path().extension() != ".brvk") continue;
             Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
             LoadProject(entry.path().string(), session.project);
-            FollowProject(session.tables, session.project, session.context);
             MessageList messages;
             Progress progress;
             if (!Calculate(session, messages, progress)) continue;

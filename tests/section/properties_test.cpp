@@ -288,18 +288,15 @@ TEST(UpdateSections, givesTheSameTwiceAndLeavesNothingOfFormerPlates) {
     project.SpanSection(1) = rolled("HEA 300");
     project.SpanSection(2) = reinforced(rolled("HEA 300"), 100, 10);
     project.SpanSection(3) = reinforced(welded("Iu", 700, 300, 200, 15, 25, 25), 120, 8);
-    ProjectContext context;
-    context.Epsilon = 1.0;
 
-    UpdateSections(tables, project, context);
+    UpdateSections(tables, project);
     const Array<SectionRecord> once = project.SpanSection;
-    EXPECT_EQ(context.CurrentSection, once(3));
     EXPECT_NE(once(1).Iy, once(2).Iy);
-    UpdateSections(tables, project, context);
+    UpdateSections(tables, project);
     EXPECT_EQ(project.SpanSection, once);
 
     project.SpanSection(2).Reinforced = false;
-    UpdateSections(tables, project, context);
+    UpdateSections(tables, project);
     const SectionRecord& bare = project.SpanSection(2);
     EXPECT_EQ(bare.DisplayName, "HEA 300");
     EXPECT_EQ(bare.A, once(1).A);
@@ -325,10 +322,8 @@ TEST(UpdateSections, aFaultNamesTheSpan) {
         project.SpanSection = Array<SectionRecord>(1, 2);
         project.SpanSection(1) = rolled("HEA 300");
         project.SpanSection(2) = c.section;
-        ProjectContext context;
-        context.Epsilon = 1.0;
         try {
-            UpdateSections(smallTables(), project, context);
+            UpdateSections(smallTables(), project);
             ADD_FAILURE() << "no fault: " << c.text;
         } catch (const RuntimeFault& fault) {
             EXPECT_THAT(fault.what(), testing::AllOf(testing::HasSubstr("span 2"), testing::HasSubstr(c.text)));

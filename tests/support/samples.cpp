@@ -113,7 +113,7 @@ Session calculated(Sample sample) {
             p.Fat6 = false;
             break;
     }
-    session.context.FileName = session.context.FileTitle = "/projects/Hall ÅMÅL.brvk";
+    session.FileName = session.FileTitle = "/projects/Hall ÅMÅL.brvk";
     MessageList messages;
     Progress progress;
     EXPECT_TRUE(Calculate(session, messages, progress))

@@ -282,7 +282,7 @@ TEST_F(BeamForm, OwnWeightFollowsItsBoxAndTheSectionFormBringsNewSections) {
 
 class SectionForm : public FormTest {
 protected:
-    SectionRecord& current = session.context.CurrentSection;
+    SectionRecord& current = session.CurrentSection;
     /// The value beside a label of the list of properties; empty when there is no such row.
     std::string property(const char* label) {
         const auto found = control<QTreeWidget>("lstResult").findItems(label, Qt::MatchExactly);

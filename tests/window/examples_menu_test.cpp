@@ -30,7 +30,7 @@ TEST(ExamplesMenu, opensAnExampleThatSavingLeavesAlone) {
 
     workshop->trigger();
     EXPECT_EQ(program.session.project.NofSpans, 1);
-    EXPECT_EQ(program.session.context.FileName, "workshop-single-span.brvk");
+    EXPECT_EQ(program.session.FileName, "workshop-single-span.brvk");
     EXPECT_FALSE(program.window.hasUnsavedChanges());
     EXPECT_FALSE(program.control<QAction>("mnuMRU1").isVisible());
     program.trigger("mnuArkivSpara");

@@ -103,8 +103,7 @@ TEST_F(MainWindowTest, aGradeSetsItsStrength) {
     chooseMaterial("S235");
     EXPECT_EQ(project().fyk, 235.0);
     EXPECT_EQ(project().SteelGrade, "S235");
-    EXPECT_EQ(session.context.CurrentMaterial, "S235");
-    EXPECT_EQ(session.context.Epsilon, 1.0);
+    EXPECT_EQ(epsilonOf(session.project.fyk), 1.0);
     EXPECT_EQ(control<QLineEdit>("ifyk").text(), "235");
     EXPECT_FALSE(control<QLineEdit>("ifyk").isEnabled());
     expectNotCalculated("S235");
@@ -118,7 +117,7 @@ TEST_F(MainWindowTest, generalKeepsTheStrengthUntilTheUserTypes) {
     enter("ifyk", "420,4");
     EXPECT_EQ(project().fyk, Single(420.4));
     EXPECT_EQ(control<QLineEdit>("ifyk").text(), "420");
-    EXPECT_EQ(session.context.Epsilon, Single(std::sqrt(235.0 / Single(420.4))));
+    EXPECT_EQ(epsilonOf(session.project.fyk), Single(std::sqrt(235.0 / Single(420.4))));
 }
 
 TEST_F(MainWindowTest, strengthHasLimits) {
@@ -208,7 +207,7 @@ TEST_F(MainWindowTest, aFixedCraneCannotStartOutside) {
     EXPECT_EQ(project().StartStopOutside, 1);
     expectNotCalculated("start and stop outside");
     project().Fixerad = true;
-    window.WritefrmInput();
+    window.projectChanged("Position");
     EXPECT_EQ(project().StartStopOutside, 0);
     EXPECT_FALSE(control<QAbstractButton>("chkStartStop").isChecked());
     EXPECT_FALSE(control<QAbstractButton>("chkStartStop").isEnabled());

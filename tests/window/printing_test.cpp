@@ -107,7 +107,7 @@ TEST(Printing, theNotesAreOfferedAndOffUnlessChosen) {
 TEST(Printing, theDialogWritesAFileOnlyOfPagesThatAreThere) {
     WindowFixture f;
     const testing_support::TempFolder folder;
-    f.session.context.FileName = folder.file("hall 12.5 t.brvk");
+    f.session.FileName = folder.file("hall 12.5 t.brvk");
     f.click("cmdCalc");
     f.messages.texts.clear();
     const std::string file = folder.file("hall 12.5 t-ULS.pdf");

@@ -19,9 +19,7 @@ protected:
 
     /// A project file of that title.
     std::string makeFile(const std::string& name, const std::string& title) {
-        Project made;
-        ProjectContext context;
-        DefaultProject(session.tables, made, context);
+        Project made = DefaultProject(session.tables);
         made.Proj = title;
         const std::string path = folder.file(name);
         SaveProject(path, made);
@@ -75,7 +73,7 @@ TEST_F(ProjectCommands, newAsksAndObeys) {
 }
 
 TEST_F(ProjectCommands, newStopsWhereSavingFails) {
-    session.context.FileName = folder.file("no/such/folder/a.brvk");
+    session.FileName = folder.file("no/such/folder/a.brvk");
     project().Span(1) = 7000;
     questions.answers = {Answer::Yes};
     trigger("mnuArkivNytt");
@@ -101,7 +99,7 @@ TEST_F(ProjectCommands, openShowsTheProject) {
     EXPECT_EQ(questions.asked.back(), "*.brvk");
     EXPECT_EQ(control<QLineEdit>("iproj").text(), "Opened");
     EXPECT_EQ(window.windowTitle(), QString::fromStdString("Borvik : " + path));
-    EXPECT_EQ(session.context.FileTitle, path);
+    EXPECT_EQ(session.FileTitle, path);
     EXPECT_EQ(recentMenu(), std::vector<std::string>{"1. " + folder.file("räls && balk.brvk")});
     EXPECT_TRUE(control<QAction>("mnuMRU0").isVisible());
     EXPECT_FALSE(window.hasUnsavedChanges());
@@ -158,7 +156,7 @@ TEST_F(ProjectCommands, aSaveNeverTakesTheFileOfAnotherUnasked) {
 
     window.openProject("test.brvk");
     QDir::setCurrent(before);
-    EXPECT_EQ(session.context.FileName, others) << "however it was named";
+    EXPECT_EQ(session.FileName, others) << "however it was named";
     const auto saveWith = [&](std::optional<std::size_t> choice) {
         questions.choices = {choice};
         questions.asked.clear();
@@ -171,7 +169,7 @@ TEST_F(ProjectCommands, aSaveNeverTakesTheFileOfAnotherUnasked) {
     EXPECT_EQ(saveWith({}), 1U);
     questions.toSave = {folder.file("aside.brvk")};
     EXPECT_EQ(saveWith(1), 2U);
-    EXPECT_EQ(session.context.FileName, folder.file("aside.brvk"));
+    EXPECT_EQ(session.FileName, folder.file("aside.brvk"));
     EXPECT_EQ(bytesOf(others), theirs) << "neither a refusal nor another name touches it";
     trigger("mnuArkivÖppna");
     EXPECT_EQ(questions.openedIn, folder.path().string());

@@ -46,8 +46,7 @@ TEST_F(RailForm, ACraneRailHasTwoRowsMoreAndBecomesTheRailInUse) {
     const RailRecord& rail = referenceTables().RailTable(row);
     Q_EMIT control<QComboBox>("cboRail").activated(row);
     EXPECT_EQ(project.RailName, rail.Name);
-    EXPECT_EQ(session.context.RailIndex, row);
-    EXPECT_EQ(session.context.CurrentRail, rail);
+    EXPECT_EQ(session.rail(), rail);
     const auto listed = rows();
     ASSERT_EQ(listed.size(), 8u);
     EXPECT_EQ(listed[4].substr(0, 7), "  e1 =|");

@@ -204,8 +204,7 @@ Project scrapYard(const ReferenceTables&, Project project) {
 
 std::vector<Example> Examples(const ReferenceTables& tables) {
     Project start;
-    ProjectContext context;
-    DefaultProject(tables, start, context);
+    start = DefaultProject(tables);
     return {
         {"default-project.brvk", start},
         {"workshop-single-span.brvk", workshopCrane(tables, start)},

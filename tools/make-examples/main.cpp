@@ -19,7 +19,6 @@ int main(int argc, char** argv) {
         Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
         for (const Example& example : Examples(session.tables)) {
             session.project = example.project;
-            FollowProject(session.tables, session.project, session.context);
             MessageList messages;
             Progress progress;
             if (!Calculate(session, messages, progress)) {

@@ -48,8 +48,8 @@ void takeForms(Camera& camera, Session& session, Messages& messages) {
     for (const FormKind& kind : formKinds()) {
         Session& shown = kind.cranes == FormKind::Monorail ? monorail : session;
         const bool plates = kind.kind == DialogKind::ProfReinf;
-        shown.context.CurrentSection.Reinforced = plates;
-        shown.context.CurrentSection.ReinfText = plates ? "PL1" : "";
+        shown.CurrentSection.Reinforced = plates;
+        shown.CurrentSection.ReinfText = plates ? "PL1" : "";
         const auto form = makeDialog(
             kind.kind, shown, messages, [] {}, nullptr);
         form->show();

@@ -10,11 +10,10 @@ namespace {
 /// IPE 300 of S355 over one span of 6 m under My = 50 kNm, brought up to date by the program.
 struct BuckledBeam {
     Project project;
-    ProjectContext context;
     UlsResults uls;
 
     BuckledBeam(const ReferenceTables& tables, int curve, double C1, double C2, int loadLevel) {
-        DefaultProject(tables, project, context);
+        project = DefaultProject(tables);
         project.NofSpans = 1;
         project.Span = {};
         project.Span(1) = 6000;
@@ -25,7 +24,7 @@ struct BuckledBeam {
         project.DefaultCfactor = false;
         project.C1EndPos = C1;
         project.C2EndPos = C2;
-        UpdateSections(tables, project, context);
+        UpdateSections(tables, project);
         uls.MyMaxSpan = uls.MyMinSpan = Table<Single>(1, 9);
         uls.MySupportSpan = Table<Single>(1, 8);
         uls.MyMaxSpan(1, 1) = 50e6;

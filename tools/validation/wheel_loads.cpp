@@ -64,15 +64,13 @@ load factor 1.35, dynamic factor 1.1; My,Ed = 40 kNm.
 - sigma f = 40e6/8.36e7 x 150 = 71.7703 N/mm2; 1 - (71.7703/355)^2 = 0.959127
 - Ff,Rd = leff tf^2 fy/(4 m gamma M0) (1 - ...) = 268.150 x 114.49 x 355/157.8 x 0.959127 = 66.2435 kN, eq. (6.1)
 - IR = 14.85/66.2435 = 0.224173)");
-    Project project;
-    ProjectContext context;
-    DefaultProject(tables, project, context);
+    Project project = DefaultProject(tables);
     project.CraneType = 2;
     project.NofSpans = 1;
     project.Span = {};
     project.Span(1) = 6000;
     project.SpanSection(1) = tables.SectionTable(FindSection(tables, "IPE 300"));
-    UpdateSections(tables, project, context);
+    UpdateSections(tables, project);
     project.V = FixedArray<Single, 1, 8>::of(20, 20);
     project.Avst = FixedArray<Single, 1, 6>::of(200);
     project.Inn = 20;
