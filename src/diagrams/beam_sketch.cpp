@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,17 @@
 namespace borvik {
 namespace {
 
-constexpr double kWheelRadius = 0.3;  // in text heights
+constexpr double kWheelRadius = 0.3;  // text heights
+// Text heights between the beam and the row of span lengths; on paper it stands between the supports.
+constexpr double kBelowSupports = 0.8;
+constexpr double kAtBeam = 0.15;
+constexpr double kSmallestLegend = 5.0;  // points
+
+// What stays where there is too little room for all: span lengths, loads, then names and distances.
+constexpr double kSpanRank = 1e7;
+constexpr double kLoadRank = 1e6;
+constexpr double kDistanceRank = 2.0;
+constexpr double kNameRank = 1.0;
 
 /// Crane by crane what the two sketches differ in.
 struct SketchKind {
@@ -38,6 +49,7 @@ void drawSupports(DiagramCanvas& canvas, double base, bool below) {
     const Em em = emOf(canvas.surface);
     for (int support = 1; support <= canvas.project.NofSpans + 1; ++support) {
         const double x = canvas.supportX(support);
+        if (!canvas.shows(x)) continue;
         const double foot = base + (below ? 0.7 : -0.7) * em.y;
         const Place corners[] = {{x, base}, {x - 0.4 * em.x, foot}, {x + 0.4 * em.x, foot}};
         canvas.drawLine(corners[0], corners[1], colours::black, 1);
@@ -47,22 +59,31 @@ void drawSupports(DiagramCanvas& canvas, double base, bool below) {
     }
 }
 
-/// Number, " - " and name of each distinct section, in as many lines as they need, at the foot of the drawing.
-void drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
+/// Number, " - " and name of each distinct section, in as many lines as there is room for at the foot of the drawing.
+/// @return the sections that found no room
+std::vector<std::string> drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
     DrawingSurface& surface = canvas.surface;
     const double bottom = canvas.Y0 + canvas.layout.area.bottom - 2.0;
     const double room = 0.4 * (canvas.layout.area.bottom - canvas.layout.bases[0]);
-    std::vector<std::string> lines;
-    for (Font font = canvas.labelFont; font.points >= 5.0; font.points -= 0.5) {
+    std::vector<std::string> lines, missed;
+    for (Font font = canvas.labelFont; font.points >= kSmallestLegend; font.points -= 0.5) {
         surface.setFont(font);
+        const auto mostLines = static_cast<std::size_t>(std::max(1.0, room / surface.textHeight()));
         lines.assign(1, "");
+        missed.clear();
         for (std::size_t i = 0; i < names.size(); ++i) {
-            const std::string entry = std::to_string(i + 1) + " - " + names[i] + "     ";
-            if (!lines.back().empty() && surface.textWidth(lines.back() + entry) > kDiagramWidth) lines.emplace_back();
-            lines.back() += entry;
+            const std::string entry = std::to_string(i + 1) + " - " + names[i];
+            const bool full = !lines.back().empty() && surface.textWidth(lines.back() + entry) > kDiagramWidth;
+            if (missed.empty() && (!full || lines.size() < mostLines)) {
+                if (full) lines.emplace_back();
+                lines.back() += entry + "     ";
+            } else {
+                missed.push_back("Section " + entry);
+            }
         }
-        if (static_cast<double>(lines.size()) * surface.textHeight() <= room) break;
+        if (missed.empty()) break;
     }
+    if (!missed.empty()) lines.back() += "...";
     const double top = bottom - static_cast<double>(lines.size()) * surface.textHeight();
     surface.setColour(colours::black);
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -70,13 +91,31 @@ void drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
         surface.text(corner, lines[i]);
         canvas.labels.keepClear({corner.x, corner.y, corner.x + surface.textWidth(lines[i]), bottom});
     }
+    return missed;
 }
 
 void addSpanLabels(DiagramCanvas& canvas, const DistinctSections& sections, double base, bool below) {
     for (int span = 1; span <= canvas.project.NofSpans; ++span) {
         const int length = canvas.project.Span(span);
-        Label label{{std::to_string(length)}, {canvas.x(span, 0.5 * length), base}, below};
-        if (const int number = sections.numberOf(span); number > 0) label.circled = std::to_string(number);
+        const Stretch place = canvas.placeOfSpan(span);
+        Label label;
+        label.forms = {{std::to_string(length)}};
+        label.anchor = {canvas.x(span, 0.5 * length), base};
+        if (!canvas.shows(label.anchor.x)) continue;
+        label.left = std::max(place.left, canvas.supportX(span));
+        label.right = std::min(place.right, canvas.supportX(span + 1));
+        label.spots = spotsInRow(below, canvas.mode == DiagramMode::Screen ? kBelowSupports : kAtBeam);
+        for (const auto across : {Spot::Across::FromAnchor, Spot::Across::ToAnchor}) {  // beside a splice
+            label.spots.push_back(label.spots.front());
+            label.spots.back().across = across;
+        }
+        label.rank = kSpanRank + length;
+        label.inList = "Span " + std::to_string(span) + ": " + std::to_string(length);
+        if (const int number = sections.numberOf(span); number > 0) {
+            label.circled = std::to_string(number);
+            label.forms.push_back({"(" + label.circled + ")", std::to_string(length)});
+            label.inList += ", " + sections.names()[static_cast<std::size_t>(number - 1)];
+        }
         canvas.labels.add(std::move(label));
     }
 }
@@ -87,6 +126,7 @@ void drawSplices(DiagramCanvas& canvas, double base) {
     surface.setColour(colours::black);
     for (const SplicePlace& splice : splicePlaces(canvas.project)) {
         const Extent size = surface.extent("X");
+        if (!canvas.shows(canvas.x(splice.span, splice.position))) continue;
         const Place corner{canvas.x(splice.span, splice.position) - 0.5 * size.width, base - 0.5 * size.height};
         surface.text(corner, "X");
         canvas.labels.keepClear({corner.x, corner.y, corner.x + size.width, corner.y + size.height});
@@ -94,28 +134,62 @@ void drawSplices(DiagramCanvas& canvas, double base) {
     surface.setFont(canvas.labelFont);
 }
 
-/// The distance between two wheels of a crane, where there is room for it.
-void addWheelDistances(DiagramCanvas& canvas, const CraneGeometry& cranes, double bridge, bool below) {
+/// A wheel on its place in the drawing.
+struct ShownWheel {
+    int wheel = 0;
+    double x = 0.0;
+    [[nodiscard]] int crane() const { return wheel <= 4 ? 1 : 2; }
+};
+
+/// The cranes in the drawing: which way is away from the beam, and how far from it their parts stand.
+struct CraneDrawing {
+    const SketchKind& kind;
+    std::vector<ShownWheel> wheels;
+    double axle, bridge;
+};
+
+/// The distances between the wheels of a crane: all of them or none, as a single one could be taken for another's.
+void addWheelDistances(DiagramCanvas& canvas, const CraneDrawing& cranes) {
     for (std::size_t i = 1; i < cranes.wheels.size(); ++i) {
-        const WheelPlace& left = cranes.wheels[i - 1];
-        const WheelPlace& right = cranes.wheels[i];
-        if ((left.wheel <= 4) != (right.wheel <= 4)) continue;
-        const double distance = canvas.project.Avst(left.wheel <= 4 ? left.wheel : left.wheel - 1);
+        const ShownWheel& left = cranes.wheels[i - 1];
+        const ShownWheel& right = cranes.wheels[i];
+        if (left.crane() != right.crane()) continue;
+        const double distance = canvas.project.Avst(left.crane() == 1 ? left.wheel : left.wheel - 1);
         if (distance == 0.0) continue;
-        Label label{{formatNumber(distance, "0")}, {canvas.X0 + 0.5 * (left.x + right.x), bridge}, below};
+        Label label;
+        label.forms = {{formatNumber(distance, "0")}};
+        label.anchor = {0.5 * (left.x + right.x), cranes.bridge};
+        label.left = left.x;
+        label.right = right.x;
+        label.spots = spotsInRow(!cranes.kind.cranesAbove, 0.2);
+        label.inList = "Wheels " + std::to_string(left.wheel) + " to " + std::to_string(right.wheel) + ": " +
+                       label.forms[0][0] + " mm";
         label.colour = colours::grey;
-        label.optional = true;
+        label.rank = kDistanceRank;
+        label.together = left.crane();
         canvas.labels.add(std::move(label));
     }
 }
 
 /// Wheels and the bar between them, with the crane's name.
-void drawCrane(DiagramCanvas& canvas, const std::vector<double>& places, const char* name, double axle, double bridge) {
+void drawCrane(DiagramCanvas& canvas, const CraneDrawing& cranes, int crane) {
+    std::vector<double> places;
+    for (const ShownWheel& wheel : cranes.wheels)
+        if (wheel.crane() == crane) places.push_back(wheel.x);
+    if (places.empty()) return;
     DrawingSurface& surface = canvas.surface;
     const Em em = emOf(surface);
-    canvas.drawLine({places.front() - em.x * 0.5, bridge}, {places.back() + em.x * 0.5, bridge}, colours::blue, 2);
-    Label label{{name}, {0.5 * (places.front() + places.back()), bridge}, bridge > axle};
+    const double left = places.front() - em.x * 0.5, right = places.back() + em.x * 0.5;
+    canvas.drawLine({left, cranes.bridge}, {right, cranes.bridge}, colours::blue, 2);
+    Label label;
+    label.forms = {{crane == 1 ? cranes.kind.crane1 : cranes.kind.crane2}};
+    label.anchor = {0.5 * (left + right), cranes.bridge};
+    label.left = canvas.labels.frame().left;
+    label.right = canvas.labels.frame().right;
     label.colour = colours::blue;
+    label.spots = spotsAtPoint(!cranes.kind.cranesAbove);
+    label.rank = kNameRank;
+    label.withLeader = false;
     canvas.labels.add(std::move(label));
 
     surface.setColour(colours::black);
@@ -123,55 +197,139 @@ void drawCrane(DiagramCanvas& canvas, const std::vector<double>& places, const c
     surface.setFill(colours::white);
     const double radius = kWheelRadius * em.y;
     for (const double place : places) {
-        surface.circle({place, axle}, radius);
+        surface.circle({place, cranes.axle}, radius);
         canvas.labels.keepClear(
-            {place - kWheelRadius * em.x, axle - radius, place + kWheelRadius * em.x, axle + radius});
+            {place - kWheelRadius * em.x, cranes.axle - radius, place + kWheelRadius * em.x, cranes.axle + radius});
     }
     surface.setFill(std::nullopt);
 }
 
-void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base) {
-    const CraneGeometry cranes = craneGeometry(canvas.project);
+Label loadLabel(const DiagramCanvas& canvas, const CraneDrawing& cranes, const ShownWheel& wheel) {
+    const std::vector<std::string> lines = loadLines(canvas.project, wheel.wheel, cranes.kind);
+    Label label;
+    label.forms = {lines};
+    label.anchor = {wheel.x, cranes.bridge};
+    label.rank = kLoadRank + std::abs(canvas.project.V(wheel.wheel));
+    label.inList = "Wheel " + std::to_string(wheel.wheel) + ": " + lines[0] + ", " + lines[1];
+    return label;
+}
+
+/// The loads straight above their wheels, where each has room there.
+bool loadsStandSideBySide(const DiagramCanvas& canvas, const std::vector<Label>& loads) {
+    const double gap = emOf(canvas.surface).x;
+    double end = canvas.labels.frame().left;
+    for (const Label& load : loads) {
+        double width = 0.0;
+        for (const std::string& line : load.forms[0]) width = std::max(width, canvas.surface.textWidth(line));
+        const double left = std::max(canvas.labels.frame().left, load.anchor.x - 0.5 * width);
+        if (left < end) return false;
+        end = left + width + gap;
+    }
+    return end - gap <= canvas.labels.frame().right;
+}
+
+/// Loads of wheels that stand close together, as flags: a line straight up from each wheel, its load beside the line's
+/// end, the next one lower. So no line crosses a text, and each text belongs to one wheel.
+void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std::vector<Label>& loads,
+                   std::vector<std::string>& missed) {
+    DrawingSurface& surface = canvas.surface;
+    const Em em = emOf(surface);
+    const Box& frame = canvas.labels.frame();
+    const double away = cranes.kind.cranesAbove ? -1.0 : 1.0;
+    std::vector<std::string> texts;
+    double widest = 0.0;
+    for (const Label& load : loads) {
+        texts.push_back(load.forms[0][0] + "  " + load.forms[0][1]);
+        widest = std::max(widest, surface.textWidth(texts.back()) + 0.6 * em.x);
+    }
+    const bool toTheRight = loads.back().anchor.x + widest <= frame.right;
+    std::vector<std::size_t> order(loads.size());
+    for (std::size_t i = 0; i < order.size(); ++i) order[i] = toTheRight ? order.size() - 1 - i : i;
+    std::vector<int> levels(loads.size(), 0);
+    for (std::size_t n = 0; n < order.size(); ++n)
+        for (std::size_t before = 0; before < n; ++before) {
+            const double apart = std::abs(loads[order[n]].anchor.x - loads[order[before]].anchor.x);
+            if (apart < widest + em.x) levels[order[n]] = std::max(levels[order[n]], levels[order[before]] + 1);
+        }
+    surface.setFont(canvas.labelFont);
+    for (std::size_t i = 0; i < loads.size(); ++i) {
+        const double x = loads[i].anchor.x;
+        const double middle = cranes.bridge + away * (1.8 + levels[i]) * em.y;
+        const double top = middle - 0.5 * em.y;
+        const double width = surface.textWidth(texts[i]);
+        const double left = toTheRight ? x + 0.4 * em.x : x - 0.4 * em.x - width;
+        // Title and legend keep their rows.
+        if (left < frame.left || top < frame.top + 1.5 * em.y ||
+            top + em.y > canvas.Y0 + canvas.layout.area.bottom - 3.0 * em.y) {
+            missed.push_back(loads[i].inList);
+            continue;
+        }
+        canvas.drawLine({x, cranes.bridge}, {x, middle}, colours::grey, 1);
+        canvas.drawLine({x, middle}, {toTheRight ? left - 0.1 * em.x : left + width + 0.1 * em.x, middle},
+                        colours::grey, 1);
+        surface.setColour(colours::black);
+        surface.text({left, top}, texts[i]);
+        canvas.labels.keepClear({left, top, left + width, top + em.y});
+    }
+}
+
+void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, std::vector<std::string>& missed) {
     const double side = kind.cranesAbove ? -1.0 : 1.0;
     const double radius = kWheelRadius * emOf(canvas.surface).y;
-    const double axle = base + side * (radius + 1.0);
-    const double bridge = base + side * (2.4 * radius + 1.0);
-    for (const int crane : {1, 2}) {
-        std::vector<double> places;
-        for (const WheelPlace& wheel : cranes.wheels)
-            if ((wheel.wheel <= 4 ? 1 : 2) == crane) places.push_back(canvas.X0 + wheel.x);
-        if (!places.empty()) drawCrane(canvas, places, crane == 1 ? kind.crane1 : kind.crane2, axle, bridge);
+    CraneDrawing cranes{kind, {}, base + side * (radius + 1.0), base + side * (2.4 * radius + 1.0)};
+    for (const WheelPlace& wheel : craneGeometry(canvas.project).wheels) {
+        const double x = canvas.xOfWhole(wheel.x);
+        if (canvas.shows(x))
+            cranes.wheels.push_back({wheel.wheel, x});
+        else if (wheel.x > kBeamStart + kBeamLength && canvas.showsSpan(canvas.project.NofSpans))
+            missed.push_back(loadLabel(canvas, cranes, {wheel.wheel, x}).inList);  // the crane is longer than the beam
     }
-    for (const WheelPlace& wheel : cranes.wheels) {
+    for (const int crane : {1, 2}) drawCrane(canvas, cranes, crane);
+
+    std::vector<Label> loads;
+    for (const ShownWheel& wheel : cranes.wheels) {
         const bool loaded = canvas.project.V(wheel.wheel) != 0.0 || canvas.project.H(wheel.wheel) != 0.0;
         const bool firstOfItsCrane = wheel.wheel == 1 || wheel.wheel == 5;
-        if (loaded || firstOfItsCrane)
-            canvas.labels.add(
-                {loadLines(canvas.project, wheel.wheel, kind), {canvas.X0 + wheel.x, bridge}, !kind.cranesAbove});
+        if (loaded || firstOfItsCrane) loads.push_back(loadLabel(canvas, cranes, wheel));
     }
-    addWheelDistances(canvas, cranes, bridge, !kind.cranesAbove);
+    if (loads.empty()) return;
+    if (loadsStandSideBySide(canvas, loads)) {
+        for (Label& load : loads) {
+            load.left = canvas.labels.frame().left;
+            load.right = canvas.labels.frame().right;
+            load.spots = spotsInRow(!kind.cranesAbove, 0.2);
+            canvas.labels.add(load);
+        }
+    } else {
+        drawLoadFlags(canvas, cranes, loads, missed);
+    }
+    addWheelDistances(canvas, cranes);
 }
 
 }  // namespace
 
-void drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0, DiagramMode mode) {
+std::vector<std::string> drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0,
+                                        DiagramMode mode, BeamPart part) {
     Project project = input;
     project.NofSpans = static_cast<std::int16_t>(enteredSpans(input));
-    DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode);
+    DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode, part);
     const SketchKind& kind = kindOf(project);
     const DistinctSections sections(project);
     const bool splices = !splicePlaces(project).empty();
     canvas.drawHead(splices ? "          X = Beam splice" : "", false);
     const double above = canvas.layout.bases[0] - canvas.layout.area.top;
     const double base = Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
-    drawLegend(canvas, sections.names());
+    std::vector<std::string> missed = drawLegend(canvas, sections.names());
     surface.setFont(canvas.labelFont);
-    canvas.drawLine({X0 + kBeamStart, base}, {X0 + kBeamStart + kBeamLength, base}, colours::black, 3);
+    canvas.drawLine({canvas.left(), base}, {canvas.right(), base}, colours::black, 3);
+    canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
     drawSupports(canvas, base, kind.cranesAbove);
     drawSplices(canvas, base);
-    drawCranes(canvas, kind, base);
+    drawCranes(canvas, kind, base, missed);
     addSpanLabels(canvas, sections, base, kind.cranesAbove);
-    canvas.drawLabels();
+    const std::vector<std::string> others = canvas.drawLabels();
+    missed.insert(missed.end(), others.begin(), others.end());
+    return missed;
 }
 
 }  // namespace borvik

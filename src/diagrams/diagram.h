@@ -39,6 +39,13 @@ struct DiagramArea {
     double top, bottom;
 };
 
+/// A stretch of the beam, mm from its start: a beam of many spans is shown in parts. The default is the whole beam.
+struct BeamPart {
+    double from = 0.0, to = 0.0;
+    double across = 0.0;  ///< mm that the drawing is wide, where that is more: parts of one scale
+    [[nodiscard]] bool isWhole() const { return to <= from; }
+};
+
 // Units across of every diagram: its width, and where the beam stands in it.
 constexpr double kDiagramWidth = 1000.0;
 constexpr double kBeamStart = 50.0;

@@ -1,9 +1,12 @@
 #include "diagrams/diagram_canvas.h"
 
+#include <algorithm>
+
 namespace borvik {
 namespace {
 
 constexpr double kSupportMark = 6.0;
+constexpr double kRounding = 1e-6;       // units
 constexpr double kSmallestRemark = 5.5;  // points
 
 // Pen widths on paper, mm.
@@ -13,7 +16,7 @@ constexpr std::array<double, 3> kPaperPens{0.2, 0.35, 0.5};
 }  // namespace
 
 DiagramCanvas::DiagramCanvas(DrawingSurface& target, const DiagramKind& kind, const Project& of, double left,
-                             double top, DiagramMode how)
+                             double top, DiagramMode how, BeamPart part)
     : surface(target),
       project(of),
       mode(how),
@@ -28,22 +31,75 @@ DiagramCanvas::DiagramCanvas(DrawingSurface& target, const DiagramKind& kind, co
         for (std::size_t i = 0; i < penWidth_.size(); ++i) penWidth_[i] = kPaperPens[i] * surface.unitsPerMillimetre();
     starts_.push_back(0.0);
     for (int span = 1; span <= project.NofSpans; ++span) starts_.push_back(total_ += project.Span(span));
+    from_ = part.isWhole() ? 0.0 : part.from;
+    to_ = part.isWhole() ? total_ : part.to;
+    const double across = std::max(part.across, to_ - from_);
+    unitsPerMm_ = across > 0.0 ? kBeamLength / across : 0.0;
+    left_ = std::max(supportX(1), X0 + kBeamStart);
+    right_ = std::min(supportX(project.NofSpans + 1), X0 + kBeamStart + (to_ - from_) * unitsPerMm_);
 }
 
-void DiagramCanvas::drawLabels() {
+std::vector<std::string> DiagramCanvas::drawLabels() {
     surface.setPenWidth(penWidth(1));
-    labels.draw(surface, labelFont);
+    return labels.draw(surface, labelFont);
 }
 
 double DiagramCanvas::x(int span, double position) const {
-    return X0 + kBeamStart + (starts_[static_cast<std::size_t>(span - 1)] + position) * unitsPerMm();
+    return X0 + kBeamStart + (starts_[static_cast<std::size_t>(span - 1)] + position - from_) * unitsPerMm_;
 }
 
 double DiagramCanvas::supportX(int support) const {
-    return X0 + kBeamStart + starts_[static_cast<std::size_t>(support - 1)] * unitsPerMm();
+    return X0 + kBeamStart + (starts_[static_cast<std::size_t>(support - 1)] - from_) * unitsPerMm_;
 }
 
-void DiagramCanvas::drawHead(const std::string& remark, bool withSigns) {
+double DiagramCanvas::xOfWhole(double units) const {
+    return X0 + kBeamStart + ((units - kBeamStart) / kBeamLength * total_ - from_) * unitsPerMm_;
+}
+
+bool DiagramCanvas::shows(double x) const {
+    return x >= left_ - kRounding && x <= right_ + kRounding;
+}
+
+bool DiagramCanvas::showsSpan(int span) const {
+    return supportX(span + 1) > left_ + kRounding && supportX(span) < right_ - kRounding;
+}
+
+Stretch DiagramCanvas::placeOfSpan(int span) const {
+    const Box& frame = labels.frame();
+    const double left = span == 1 ? frame.left : supportX(span);
+    const double right = span == project.NofSpans ? frame.right : supportX(span + 1);
+    return clipped({left, right});
+}
+
+Stretch DiagramCanvas::placeOfSupport(int support) const {
+    const Box& frame = labels.frame();
+    const double x = supportX(support);
+    const double left = support == 1 ? frame.left : 0.5 * (supportX(support - 1) + x);
+    const double right = support > project.NofSpans ? frame.right : 0.5 * (x + supportX(support + 1));
+    return clipped({left, right});
+}
+
+Stretch DiagramCanvas::clipped(Stretch place) const {
+    return {std::max(place.left, labels.frame().left), std::min(place.right, labels.frame().right)};
+}
+
+std::string DiagramCanvas::spansShown() const {
+    int first = 0, last = 0;
+    for (int span = 1; span <= project.NofSpans; ++span) {
+        if (!showsSpan(span)) continue;
+        if (first == 0) first = span;
+        last = span;
+    }
+    if (first == 0 || (from_ <= 0.0 && to_ >= total_)) return "";
+    const std::string spans = first == last ? "Span " + std::to_string(first)
+                                            : "Spans " + std::to_string(first) + " to " + std::to_string(last);
+    return spans + " of " + std::to_string(project.NofSpans);
+}
+
+void DiagramCanvas::drawHead(const std::string& ofDiagram, bool withSigns) {
+    std::string remark = spansShown();
+    if (!remark.empty() && !ofDiagram.empty() && ofDiagram.front() != ' ') remark += "; ";
+    remark += ofDiagram;
     const double top = Y0 + layout.area.top;
     surface.setFill(std::nullopt);
     surface.setColour(colours::black);
@@ -107,18 +163,53 @@ void DiagramCanvas::drawLine(Place from, Place to, Colour colour, int pen) {
 }
 
 void DiagramCanvas::drawBeam(double y, Colour colour) {
-    drawLine({X0 + kBeamStart, y}, {X0 + kBeamStart + kBeamLength, y}, colour, 1);
-    for (int support = 1; support <= project.NofSpans + 1; ++support)
-        drawLine({supportX(support), y - kSupportMark}, {supportX(support), y + kSupportMark}, colours::black, 2);
+    drawLine({left_, y}, {right_, y}, colour, 1);
+    labels.keepClear({left_, y, right_, y});
+    // Where the beam goes on beyond the drawing its line does too, in dashes.
+    constexpr double kBeyond = 25.0;
+    surface.setDashed(true);
+    if (supportX(1) < left_ - kRounding) drawLine({left_ - kBeyond, y}, {left_, y}, colour, 1);
+    if (supportX(project.NofSpans + 1) > right_ + kRounding) drawLine({right_, y}, {right_ + kBeyond, y}, colour, 1);
+    surface.setDashed(false);
+    for (int support = 1; support <= project.NofSpans + 1; ++support) {
+        const double at = supportX(support);
+        if (!shows(at)) continue;
+        drawLine({at, y - kSupportMark}, {at, y + kSupportMark}, colours::black, 2);
+        labels.keepClear({at, y - kSupportMark, at, y + kSupportMark});
+    }
+}
+
+std::vector<Place> DiagramCanvas::cut(std::vector<Place> curve) const {
+    for (const double limit : {left_, right_}) {
+        std::vector<Place> kept;
+        const auto inside = [&](const Place& place) {
+            return limit == left_ ? place.x >= limit - kRounding : place.x <= limit + kRounding;
+        };
+        for (std::size_t i = 0; i < curve.size(); ++i) {
+            if (i > 0 && inside(curve[i - 1]) != inside(curve[i])) {
+                const double share = (limit - curve[i - 1].x) / (curve[i].x - curve[i - 1].x);
+                kept.push_back({limit, curve[i - 1].y + share * (curve[i].y - curve[i - 1].y)});
+            }
+            if (inside(curve[i])) kept.push_back(curve[i]);
+        }
+        curve = std::move(kept);
+    }
+    return curve;
 }
 
 void DiagramCanvas::drawCurve(double base, const std::function<double(int, int)>& at, Colour line, Colour tint) {
     for (int span = 1; span <= project.NofSpans; ++span) {
+        if (!showsSpan(span)) continue;
         std::vector<Place> places{{x(span, 0.0), base}};
         for (int k = 1; k <= kPoints; ++k)
             places.push_back({x(span, project.Span(span) * (k - 1) / 20.0), at(span, k)});
         places.push_back({x(span, project.Span(span)), base});
-        surface.polygon(places, tint);
+        places = cut(std::move(places));
+        if (places.size() < 2) continue;
+        std::vector<Place> filled = places;  // down to the beam's line where the drawing ends too
+        if (filled.front().y != base) filled.insert(filled.begin(), {filled.front().x, base});
+        if (filled.back().y != base) filled.push_back({filled.back().x, base});
+        surface.polygon(filled, tint);
         surface.setColour(line);
         surface.setPenWidth(penWidth(1));
         surface.polyline(places);

@@ -23,12 +23,15 @@ struct Curve {
     std::function<double(int, int)> at;  ///< (span 1..n, point 1..21)
 };
 
-/// An extreme that is written beside the curves.
+/// An extreme of a span that is written beside the curves.
 struct PeakLabel {
     int span = 0;
     double position = 0.0;  ///< mm from the left support of the span
     double value = 0.0;     ///< where it stands beside the line
-    std::string text;
+    std::string text;       ///< "My=-66.2"
+    /// Before and behind the position: "  L=", " mm". Both empty where the position isn't written.
+    std::string before = {}, after = {};
+    bool inRow = false;  ///< below the deepest curve, in a row with the others
 };
 
 /// A beam line with its curves, one of a diagram's one or two.
@@ -40,8 +43,13 @@ struct Panel {
     bool oneSided = false;  ///< all curves stand on one side
 };
 
-/// Lines of text at each support: "Rz=+12.3/-4.5". [support - 1][line]
-using SupportTexts = std::vector<std::vector<std::string>>;
+/// The texts at a support.
+struct SupportText {
+    std::vector<std::string> lines;                      ///< "Rz=+12.3/-4.5"
+    std::vector<std::vector<std::string>> shorter = {};  ///< "+12.3/-4.5" and the like, where that is plain enough
+    double value = 0.0;                                  ///< the largest magnitude
+};
+using SupportTexts = std::vector<SupportText>;  ///< [support - 1]
 
 /// Heights of a diagram in units below its origin.
 struct DiagramLayout {

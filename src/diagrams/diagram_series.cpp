@@ -1,7 +1,9 @@
 #include "diagrams/diagram_series.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <string_view>
 
 #include "base/number_text.h"
 
@@ -14,8 +16,10 @@ constexpr double kPerKiloMetre = 1000000.0;  // Nmm to kNm
 std::string oneDecimal(double number) {
     return formatNumber(number, "0.0");
 }
-std::string whole(double number) {
-    return formatNumber(number, "0");
+/// A number behind its name. What shows as zero has no sign.
+std::string signedText(const std::string& name, const std::string& sign, double number) {
+    const std::string text = oneDecimal(number);
+    return name + (text == "0.0" ? "" : sign) + text;
 }
 
 /// What differs between the forces of the two planes.
@@ -80,7 +84,7 @@ Panel momentPanel(const ForcePlane& plane, int spans) {
             const double moment = (*extreme)(span, plane.momentSlot) / kPerKiloMetre;
             const double x = (*extreme)(span, plane.placeSlot);
             if (moment != 0.0)  // a record that no position of the cranes filled says nothing
-                panel.peaks.push_back({span, x, moment, name + "=" + oneDecimal(moment) + "  L=" + whole(x) + " mm"});
+                panel.peaks.push_back({span, x, moment, name + "=" + oneDecimal(moment), "  L=", " mm"});
         }
     return panel;
 }
@@ -95,7 +99,7 @@ Panel shearPanel(const ForcePlane& plane, int spans) {
             const double shear = (*extreme)(span, plane.shearSlot) / kPerKilo;
             if (shear != 0.0)
                 panel.peaks.push_back({span, (*extreme)(span, plane.placeSlot), shear,
-                                       name + (shear > 0.0 ? "=+" : "=") + oneDecimal(shear)});
+                                       signedText(name + "=", shear > 0.0 ? "+" : "", shear)});
         }
     return panel;
 }
@@ -131,9 +135,21 @@ Curve stressCurve(std::string name, const std::optional<StressSet>& set, Table<S
     return {std::move(name), [&stresses](int span, int k) { return double(stresses(span, k)); }};
 }
 
-std::string reactionText(const char* label, const Array<Single>& largest, const Array<Single>& smallest, int support) {
-    return label + oneDecimal(largest(support) / kPerKilo) + "/" + oneDecimal(smallest(support) / kPerKilo);
-}
+/// Largest and smallest reaction of a support, behind "Rz=+".
+struct Reaction {
+    std::string largest, smallest;
+    double magnitude;
+
+    Reaction(const Array<Single>& max, const Array<Single>& min, int support)
+        : largest(oneDecimal(max(support) / kPerKilo)),
+          smallest(oneDecimal(min(support) / kPerKilo)),
+          magnitude(std::max(std::abs(max(support) / kPerKilo), std::abs(min(support) / kPerKilo))) {}
+    /// On one line, or below each other.
+    [[nodiscard]] std::vector<std::vector<std::string>> shorter() const {
+        return {{text("+")}, {"+" + largest, smallest}};
+    }
+    [[nodiscard]] std::string text(const std::string& label) const { return label + largest + "/" + smallest; }
+};
 
 }  // namespace
 
@@ -148,7 +164,8 @@ std::vector<Panel> deflectionPanel(const DiagramKind& kind, const DiagramData& d
     const Table<Single>& extremes = kind.horizontal ? sls.UyMaxSpan : sls.UzMaxSpan;
     Panel panel{"mm", Upwards::Never, {envelope(kind.horizontal ? "Uy" : "Uz", points, 1, 1.0)}, {}, true};
     for (int span = 1; span <= data.project.NofSpans; ++span)
-        panel.peaks.push_back({span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1))});
+        panel.peaks.push_back(
+            {span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1)), {}, {}, true});
     return {panel};
 }
 
@@ -172,9 +189,14 @@ std::vector<Panel> stressPanel(const DiagramKind& diagram, const DiagramData& da
         for (int span = 1; span <= data.project.NofSpans; ++span) {
             const double value = peaks(span, 1);
             if (value == 0.0) continue;
-            std::string text = label + oneDecimal(magnitude ? std::abs(value) : value);
-            if (withPlace) text += ", x=" + whole(peaks(span, 2));
-            panel.peaks.push_back({span, peaks(span, 2), value, std::move(text)});
+            const std::string_view whole = label;
+            const bool ownSign = whole.ends_with('+') || whole.ends_with('-');
+            const std::string head(ownSign ? whole.substr(0, whole.size() - 1) : whole);
+            PeakLabel peak{
+                span, peaks(span, 2), value,
+                signedText(head, ownSign ? std::string(1, whole.back()) : "", magnitude ? std::abs(value) : value)};
+            if (withPlace) peak.before = ", x=";
+            panel.peaks.push_back(std::move(peak));
         }
     };
     if (diagram.range) {
@@ -189,8 +211,10 @@ std::vector<Panel> stressPanel(const DiagramKind& diagram, const DiagramData& da
 SupportTexts ulsReactions(const DiagramData& data, bool horizontal) {
     const ForcePlane plane = forcePlane(horizontal, data.results->Uls);
     SupportTexts texts;
-    for (int support = 1; support <= data.project.NofSpans + 1; ++support)
-        texts.push_back({reactionText(plane.reaction, plane.reactionMax, plane.reactionMin, support)});
+    for (int support = 1; support <= data.project.NofSpans + 1; ++support) {
+        const Reaction reaction(plane.reactionMax, plane.reactionMin, support);
+        texts.push_back({{reaction.text(plane.reaction)}, reaction.shorter(), reaction.magnitude});
+    }
     return texts;
 }
 
@@ -204,11 +228,16 @@ SupportTexts flsReactions(const DiagramData& data, bool) {
         {{fatigue.Cr1, " (Crane1)"}, {fatigue.Cr2, " (Crane2)"}, {fatigue.Cr12, " (Crane 1+2)"}}};
     SupportTexts texts;
     for (int support = 1; support <= data.project.NofSpans + 1; ++support) {
-        std::vector<std::string> lines;
-        for (const Set& set : sets)
-            if (set.stresses)
-                lines.push_back(reactionText("Rz=+", set.stresses->RzMax, set.stresses->RzMin, support) + set.crane);
-        texts.push_back(std::move(lines));
+        SupportText text;
+        for (const Set& set : sets) {
+            if (!set.stresses) continue;
+            const Reaction reaction(set.stresses->RzMax, set.stresses->RzMin, support);
+            text.lines.push_back(reaction.text("Rz=+") + set.crane);
+            text.shorter = reaction.shorter();
+            text.value = std::max(text.value, reaction.magnitude);
+        }
+        if (text.lines.size() > 1) text.shorter.clear();  // whose value is it?
+        texts.push_back(std::move(text));
     }
     return texts;
 }

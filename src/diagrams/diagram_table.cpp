@@ -12,7 +12,7 @@ struct Heights {
     DiagramLayout screen, paper;
 };
 const Heights kSketch{{{0.0, 140.0}, {80.0}}, {{-10.0, 88.0}, {50.0}}};
-const Heights kForces{{{0.0, 268.0}, {76.0, 190.0}, 248.0}, {{-10.0, 199.0}, {59.0, 139.0}, 186.0}};
+const Heights kForces{{{0.0, 276.0}, {76.0, 190.0}, 248.0}, {{-10.0, 215.0}, {59.0, 139.0}, 200.0}};
 const Heights kDeflection{{{80.0, 188.0}, {120.0}}, {{-10.0, 88.0}, {20.0}}};
 const Heights kStress{{{44.0, 184.0}, {120.0}}, {{-10.0, 124.0}, {66.0}}};
 const Heights kRange{{{40.0, 134.0}, {120.0}}, {{-10.0, 88.0}, {70.0}}};
@@ -196,9 +196,12 @@ SupportTexts supportTexts(const DiagramKind& kind, const DiagramData& data) {
 }
 
 std::string diagramRemark(const DiagramKind& kind, const DiagramData& data) {
-    if (kind.crane != 0 && data.results != nullptr && !stressSet(data, kind.crane))
-        return "both cranes run as one train: see crane 1";
-    return kind.remark;
+    const bool ofFatigue = kind.crane != 0 || kind.supportTexts == flsReactions;
+    const bool oneTrain =
+        data.results != nullptr && data.project.NofCranes == 2 && stressSet(data, 1) && !stressSet(data, 2);
+    if (!ofFatigue || !oneTrain) return kind.remark;
+    if (kind.crane == 2) return "both cranes run as one train: see crane 1";
+    return std::string(kind.remark) + (*kind.remark == '\0' ? "" : "; ") + "both cranes run as one train";
 }
 
 std::string diagramTitle(const DiagramKind& kind, const Project& project) {

@@ -6,15 +6,33 @@
 #include "base/text.h"
 #include "diagrams/diagram_kind.h"
 #include "diagrams/result_diagrams.h"
+#include "diagrams/sketch_geometry.h"
 
 namespace borvik {
 
-void DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0, double Y0,
-                 DiagramMode mode) {
-    if (diagram == Diagram::Sketch)
-        drawBeamSketch(surface, data.project, X0, Y0, mode);
-    else
-        drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode);
+std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
+                                     double Y0, DiagramMode mode, BeamPart part) {
+    if (diagram == Diagram::Sketch) return drawBeamSketch(surface, data.project, X0, Y0, mode, part);
+    return drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode, part);
+}
+
+std::vector<BeamPart> beamParts(const Project& project) {
+    constexpr int kMostSpans = 8;
+    const int spans = enteredSpans(project);
+    const int strips = (spans + kMostSpans - 1) / kMostSpans;
+    if (strips <= 1) return {{}};
+    std::vector<BeamPart> parts;
+    double start = 0.0, longest = 0.0;
+    for (int strip = 0; strip < strips; ++strip) {
+        double length = 0.0;
+        for (int span = strip * spans / strips + 1; span <= (strip + 1) * spans / strips; ++span)
+            length += project.Span(span);
+        parts.push_back({start, start + length});
+        start += length;
+        longest = std::max(longest, length);
+    }
+    for (BeamPart& part : parts) part.across = longest;
+    return parts;
 }
 
 DiagramArea diagramArea(Diagram diagram, DiagramMode mode) {

@@ -14,8 +14,14 @@ namespace borvik {
 /// paper a frame stands around it, from (X0 - 5, Y0 - 10) to X0 + 1010 and as deep as diagramArea says. The logical
 /// frame of the surface must have been set; DrawPicture does so. The drawing is meant for white paper, on the screen
 /// too. A diagram without results is empty but for its title and the beam.
-void DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0, double Y0,
-                 DiagramMode mode);
+/// @param part  of the beam to draw
+/// @return labels that found no room, as they read in a list: "Span 2: My=-66.2  L=5000 mm"
+std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
+                                     double Y0, DiagramMode mode, BeamPart part = {});
+
+/// The parts in which a beam is drawn on paper: the whole beam, or one of more than eight spans in strips of eight
+/// spans at most, all to the same scale.
+[[nodiscard]] std::vector<BeamPart> beamParts(const Project& project);
 
 /// What a diagram covers, in units below Y0.
 [[nodiscard]] DiagramArea diagramArea(Diagram diagram, DiagramMode mode);

@@ -3,47 +3,60 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
+#include <tuple>
 
 namespace borvik {
 namespace {
 
-constexpr double kReadablePoints = 7.0;  // down to here all labels stay level
-constexpr double kSmallestPoints = 6.0;  // and down to here they may stand upright
+// Text shrinks to this part of its size, but never below what can still be read.
+constexpr double kSmallestPart = 0.75;
+constexpr double kSmallestPoints = 6.0;
+constexpr double kStepPoints = 0.5;
 
 // Lengths in text heights.
-constexpr double kGap = 0.2;         // between anchor and label
+constexpr double kGap = 0.2;         // between a point and its label
 constexpr double kBeside = 0.35;     // room kept left and right of a label
-constexpr double kFarthest = 5.0;    // a label further away than this is better left out
-constexpr double kLeaderFrom = 1.3;  // a label further away than this gets a line to its anchor
-constexpr double kCircle = 1.4;      // diameter of a circled number
-constexpr double kCircleAndGap = 1.8;
+constexpr double kFarthest = 3.0;    // a label further out than this is left out
+constexpr double kLeaderFrom = 1.3;  // one further out than this gets a line to its point
+constexpr double kCircle = 1.25;     // diameter of a circled number
+constexpr double kCircleAndGap = 1.6;
 
-// What is unwelcome about a place, as text heights of distance that it is worth to avoid it.
-constexpr double kAside = 0.4;  // a text height to the side
-constexpr double kOtherSide = 2.5;
-constexpr double kUpright = 3.0;
-constexpr double kLeaderOverOthers = 3.0;
-constexpr double kOverLine = 1.5;
-constexpr int kMostLines = 4;  // more lines under a label make it no worse
-
-// Limits of the sum.
-constexpr double kStandsWell = 4.0;
-constexpr double kAtHand = 1.2;  // an optional label must be so near
-constexpr double kAnyCost = 1000.0;
-
-/// The line from an anchor to a label that stands away from it; nothing where the label is close.
-struct Leader {
-    Place from, to;
-};
-std::optional<Leader> leaderOf(Place anchor, const Box& box, const Em& em) {
-    const Place nearest{std::clamp(anchor.x, box.left, box.right), std::clamp(anchor.y, box.top, box.bottom)};
-    const double away = std::hypot((nearest.x - anchor.x) / em.x, (nearest.y - anchor.y) / em.y);
-    if (away <= kLeaderFrom) return std::nullopt;
-    return Leader{anchor, nearest};
-}
+constexpr double kRounding = 1e-6;  // units
 
 bool touchesAny(const Box& box, const std::vector<Box>& taken) {
     return std::any_of(taken.begin(), taken.end(), [&box](const Box& other) { return box.overlaps(other); });
+}
+
+/// The line from a point to a label that stands away from it; nothing where the label is close.
+std::optional<std::pair<Place, Place>> leaderOf(Place anchor, const Box& box, const Em& em) {
+    const Place nearest{std::clamp(anchor.x, box.left, box.right), std::clamp(anchor.y, box.top, box.bottom)};
+    if (std::hypot((nearest.x - anchor.x) / em.x, (nearest.y - anchor.y) / em.y) <= kLeaderFrom) return std::nullopt;
+    return std::pair{anchor, nearest};
+}
+
+Extent labelExtent(const DrawingSurface& surface, const Label& label, std::size_t form) {
+    Extent whole;
+    for (const std::string& line : label.forms[form]) {
+        const Extent extent = surface.extent(line);
+        whole.width = std::max(whole.width, extent.width);
+        whole.height += extent.height;
+    }
+    if (label.circled.empty() || form > 0) return whole;
+    const Em em = emOf(surface);
+    return {whole.width + kCircleAndGap * em.x, std::max(whole.height, kCircle * em.y)};
+}
+
+void drawCircled(DrawingSurface& surface, std::string_view number, Place centre) {
+    surface.setFill(colours::white);
+    surface.circle(centre, 0.5 * kCircle * emOf(surface).y);
+    surface.setFill(std::nullopt);
+    const Extent size = surface.extent(number);
+    surface.text({centre.x - 0.5 * size.width, centre.y - 0.5 * size.height}, number);
+}
+
+std::string moreValues(int number) {
+    return "+ " + std::to_string(number) + (number == 1 ? " more value" : " more values");
 }
 
 }  // namespace
@@ -70,149 +83,163 @@ Em emOf(const DrawingSurface& surface) {
     return {surface.extent("H", TextDirection::Up).width, surface.extent("H", TextDirection::Across).height};
 }
 
-void drawCircled(DrawingSurface& surface, std::string_view number, Place centre) {
-    surface.setFill(colours::white);
-    surface.circle(centre, 0.5 * kCircle * emOf(surface).y);
-    surface.setFill(std::nullopt);
-    const Extent size = surface.extent(number);
-    surface.text({centre.x - 0.5 * size.width, centre.y - 0.5 * size.height}, number);
+std::vector<Spot> spotsAtPoint(bool below) {
+    std::vector<Spot> spots;
+    for (const bool overLines : {false, true}) {
+        for (double away = kGap; away < kFarthest; away += 0.5)
+            for (const auto across : {Spot::Across::Centred, Spot::Across::FromAnchor, Spot::Across::ToAnchor})
+                spots.push_back({across, below, away, overLines});
+        spots.push_back({Spot::Across::Centred, !below, kGap, overLines});  // within the curve
+    }
+    return spots;
 }
 
-Extent labelExtent(const DrawingSurface& surface, const Label& label, TextDirection direction) {
-    Extent whole;
-    for (const std::string& line : label.lines) {
-        const Extent extent = surface.extent(line, direction);
-        if (direction == TextDirection::Across) {
-            whole.width = std::max(whole.width, extent.width);
-            whole.height += extent.height;
-        } else {
-            whole.width += extent.width;
-            whole.height = std::max(whole.height, extent.height);
-        }
-    }
-    if (label.circled.empty()) return whole;
-    const Em em = emOf(surface);
-    if (direction == TextDirection::Across)
-        return {whole.width + kCircleAndGap * em.x, std::max(whole.height, kCircle * em.y)};
-    return {std::max(whole.width, kCircle * em.x), whole.height + kCircleAndGap * em.y};
+std::vector<Spot> spotsInRow(bool below, double gap) {
+    return {{Spot::Across::Centred, below, gap, true}};
 }
 
-Box LabelPlacer::inside(Box box) const {
-    const double shiftX = std::max(0.0, frame_.left - box.left) - std::max(0.0, box.right - frame_.right);
-    const double shiftY = std::max(0.0, frame_.top - box.top) - std::max(0.0, box.bottom - frame_.bottom);
-    return {box.left + shiftX, box.top + shiftY, box.right + shiftX, box.bottom + shiftY};
+bool LabelPlacer::coversLines(const Box& box) const {
+    return std::any_of(lines_.begin(), lines_.end(), [&box](const Line& line) {
+        return std::max(line.from.x, line.to.x) >= box.left && std::min(line.from.x, line.to.x) <= box.right &&
+               box.crossedBy(line.from, line.to);
+    });
 }
 
-int LabelPlacer::linesUnder(const Box& box) const {
-    int crossed = 0;
-    for (const Line& line : lines_) {
-        if (std::max(line.from.x, line.to.x) < box.left || std::min(line.from.x, line.to.x) > box.right) continue;
-        if (box.crossedBy(line.from, line.to) && ++crossed == kMostLines) break;
-    }
-    return crossed;
-}
-
-std::vector<LabelPlacer::Candidate> LabelPlacer::candidates(const DrawingSurface& surface, const Label& label,
-                                                            TextDirection direction) const {
-    static constexpr std::array<double, 15> kShifts{0.0, -0.25, 0.25, -0.5, 0.5, -0.75, 0.75, -1.0,
-                                                    1.0, -1.5,  1.5,  -2.0, 2.0, -3.0,  3.0};  // in label widths
-    const Extent size = labelExtent(surface, label, direction);
-    const Em em = emOf(surface);
-    std::vector<Candidate> found;
-    if (label.firstChoice && direction == TextDirection::Across) {
-        const Place corner = *label.firstChoice;
-        found.push_back({inside({corner.x, corner.y, corner.x + size.width, corner.y + size.height}), -kOverLine});
-    }
-    for (const bool below : {label.below, !label.below}) {
-        if (label.keepSide && below != label.below) continue;
-        for (int halves = 0; 0.5 * halves < kFarthest; ++halves) {
-            const double away = 0.5 * halves;
-            const double gap = (kGap + away) * em.y;
-            const double top = below ? label.anchor.y + gap : label.anchor.y - gap - size.height;
-            if (top < frame_.top || top + size.height > frame_.bottom) break;
-            for (const double toTheLeft : kShifts) {  // of two places as good as each other the first one is taken
-                const double shift = label.toTheRight ? -toTheLeft : toTheLeft;
-                if (label.optional && shift != 0.0) break;  // it must be plain what it belongs to
-                const double left = label.anchor.x + (shift - 0.5) * size.width;
-                const Box box = inside({left, top, left + size.width, top + size.height});
-                const double aside = std::abs(0.5 * (box.left + box.right) - label.anchor.x) / em.x;
-                const double distance = away + kAside * aside;
-                if (distance > kFarthest) continue;
-                found.push_back({box, distance + (below == label.below ? 0.0 : kOtherSide)});
-            }
-        }
-    }
-    std::stable_sort(found.begin(), found.end(),
-                     [](const Candidate& a, const Candidate& b) { return a.cost < b.cost; });
-    return found;
-}
-
-std::optional<LabelPlacer::Placed> LabelPlacer::search(const DrawingSurface& surface, const Label& label,
-                                                       TextDirection direction, const std::vector<Box>& taken,
-                                                       double highestCost) const {
-    const Em em = emOf(surface);
-    std::optional<Placed> best;
-    for (const Candidate& candidate : candidates(surface, label, direction)) {
-        if (best && candidate.cost >= best->cost) break;  // they come in rising order
-        if (touchesAny(candidate.box, taken)) continue;
-        const auto leader = leaderOf(label.anchor, candidate.box, em);
-        const bool overOthers = leader && std::any_of(taken.begin(), taken.end(), [&leader](const Box& other) {
-                                    return other.crossedBy(leader->from, leader->to);
-                                });
-        const int crossed = linesUnder(candidate.box);
-        const double cost = candidate.cost + kOverLine * crossed + (overOthers ? kLeaderOverOthers : 0.0);
-        if (cost > highestCost || (best && cost >= best->cost)) continue;
-        best = Placed{candidate.box, direction, crossed > 0, cost};
-    }
-    return best;
+std::optional<Box> LabelPlacer::boxAt(const DrawingSurface& surface, const Label& label, std::size_t form,
+                                      const Spot& spot) const {
+    const Extent size = labelExtent(surface, label, form);
+    const bool free = label.always && form + 1 == label.forms.size();
+    const double from = free ? frame_.left : label.left;
+    const double to = free ? frame_.right : label.right;
+    double left = label.anchor.x;
+    if (spot.across == Spot::Across::ToAnchor) left -= size.width;
+    if (spot.across == Spot::Across::Centred) left = std::max(from, std::min(left - 0.5 * size.width, to - size.width));
+    const double gap = spot.gap * emOf(surface).y;
+    const double top = spot.below ? label.anchor.y + gap : label.anchor.y - gap - size.height;
+    const Box box{left, top, left + size.width, top + size.height};
+    const bool inPlace = box.left >= from - kRounding && box.right <= to + kRounding;
+    const bool inFrame = box.left >= frame_.left - kRounding && box.right <= frame_.right + kRounding &&
+                         box.top >= frame_.top - kRounding && box.bottom <= frame_.bottom + kRounding;
+    if (!inPlace || !inFrame) return std::nullopt;
+    return box;
 }
 
 std::optional<LabelPlacer::Placed> LabelPlacer::place(const DrawingSurface& surface, const Label& label,
-                                                      const std::vector<Box>& taken, const Effort& effort) const {
-    const double highestCost = label.optional ? kAtHand : effort.highestCost;
-    const auto across = search(surface, label, TextDirection::Across, taken, highestCost);
-    if (!effort.upright || label.optional || (across && across->cost <= kUpright)) return across;
-    const auto up = search(surface, label, TextDirection::Up, taken, highestCost);
-    if (across && up) return across->cost <= up->cost + kUpright ? across : up;
-    return across ? across : up;
+                                                      const std::vector<Box>& taken) const {
+    for (const bool overLines : {false, true})
+        for (std::size_t form = 0; form < label.forms.size(); ++form)
+            for (const Spot& spot : label.spots) {
+                if (overLines && !spot.overLines) continue;
+                const auto box = boxAt(surface, label, form, spot);
+                if (!box || touchesAny(*box, taken)) continue;
+                const bool covers = coversLines(*box);
+                if (!covers || overLines) return Placed{*box, form, covers};
+            }
+    return std::nullopt;
 }
 
-LabelPlacer::Attempt LabelPlacer::placeAll(const DrawingSurface& surface, const Effort& effort) const {
+LabelPlacer::Attempt LabelPlacer::placeAll(const DrawingSurface& surface) const {
     const double beside = kBeside * emOf(surface).x;
-    const auto withGap = [beside](const Box& box) {
-        return Box{box.left - beside, box.top, box.right + beside, box.bottom};
-    };
-    std::vector<Box> taken;
-    for (const Box& box : taken_) taken.push_back(withGap(box));
+    std::vector<Box> taken = taken_;
+    std::vector<std::size_t> order(labels_.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::stable_sort(order.begin(), order.end(),
+                     [this](std::size_t a, std::size_t b) { return labels_[a].rank > labels_[b].rank; });
     Attempt attempt;
-    for (const Label& label : labels_) {
-        attempt.places.push_back(place(surface, label, taken, effort));
-        if (const auto& placed = attempt.places.back())
-            taken.push_back(withGap(placed->box));
-        else if (!label.optional)
-            attempt.complete = false;
-        if (!attempt.complete && effort.allOrNothing) break;
+    attempt.places.resize(labels_.size());
+    for (const std::size_t i : order) {
+        const auto placed = place(surface, labels_[i], taken);
+        attempt.places[i] = placed;
+        if (placed)
+            taken.push_back(
+                {placed->box.left - beside, placed->box.top, placed->box.right + beside, placed->box.bottom});
+    }
+    for (std::size_t i = 0; i < labels_.size(); ++i)
+        for (std::size_t j = 0; j < labels_.size() && labels_[i].together != 0; ++j)
+            if (labels_[j].together == labels_[i].together && !attempt.places[j]) attempt.places[i].reset();
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        if (!attempt.places[i]) continue;
+        ++attempt.standing;
+        if (attempt.places[i]->form == 0) ++attempt.inFull;
     }
     return attempt;
 }
 
-LabelPlacer::Attempt LabelPlacer::placeInLargest(DrawingSurface& surface, Font& font) const {
-    struct Range {
-        double smallestPoints;
-        Effort effort;
-    };
+LabelPlacer::Attempt LabelPlacer::placeBest(DrawingSurface& surface, Font& font) const {
     const double largest = font.points;
-    for (const Range& range :
-         {Range{kReadablePoints, {false, true, kAnyCost}}, Range{kSmallestPoints, {true, true, kAnyCost}}})
-        for (font.points = largest; font.points >= range.smallestPoints; font.points -= 0.5) {
-            surface.setFont(font);
-            Attempt attempt = placeAll(surface, range.effort);
-            if (attempt.complete) return attempt;
-        }
-    // There are too many: those that stand well, so that the drawing can still be read.
-    font.points = std::min(largest, kReadablePoints);
+    const double smallest = std::min(largest, std::max(kSmallestPoints, kSmallestPart * largest));
+    Attempt best;
+    for (double points = largest; points >= smallest - kRounding; points -= kStepPoints) {
+        font.points = points;
+        surface.setFont(font);
+        Attempt attempt = placeAll(surface);
+        attempt.points = points;
+        if (best.places.empty() || std::tie(attempt.standing, attempt.inFull) > std::tie(best.standing, best.inFull))
+            best = std::move(attempt);
+        if (best.inFull == static_cast<int>(labels_.size())) break;
+    }
+    font.points = best.points;
     surface.setFont(font);
-    return placeAll(surface, {true, false, kStandsWell});
+    return best;
+}
+
+int LabelPlacer::leftOut(const Attempt& attempt) const {
+    int missed = 0;
+    for (std::size_t i = 0; i < labels_.size(); ++i)
+        if (!attempt.places[i] && !labels_[i].inList.empty()) ++missed;
+    return missed;
+}
+
+std::optional<Box> LabelPlacer::cornerFor(Extent remark, const Attempt& attempt) const {
+    std::vector<Box> taken = taken_;
+    for (const auto& placed : attempt.places)
+        if (placed) taken.push_back(placed->box);
+    for (const double top : {frame_.bottom - remark.height, frame_.top + 1.5 * remark.height})
+        for (const double left : {frame_.right - remark.width, frame_.left}) {
+            const Box box{left, top, left + remark.width, top + remark.height};
+            if (!touchesAny(box, taken) && !coversLines(box)) return box;
+        }
+    return std::nullopt;
+}
+
+std::vector<std::string> LabelPlacer::draw(DrawingSurface& surface, Font font) {
+    const double largest = font.points;
+    Attempt attempt = placeBest(surface, font);
+    if (leftOut(attempt) > 0) {
+        const Extent room = surface.extent(moreValues(static_cast<int>(labels_.size())));
+        auto corner = cornerFor(room, attempt);
+        if (!corner) {  // the remark comes first: without it the drawing would seem complete
+            corner = Box{frame_.right - room.width, frame_.bottom - room.height, frame_.right, frame_.bottom};
+            taken_.push_back(*corner);
+            font.points = largest;
+            attempt = placeBest(surface, font);
+        }
+        surface.setColour(colours::grey);
+        const std::string remark = moreValues(leftOut(attempt));
+        const bool atTheRight = corner->right >= frame_.right - kRounding;
+        surface.text({atTheRight ? corner->right - surface.textWidth(remark) : corner->left, corner->top}, remark);
+    }
+    drawLeaders(surface, attempt);
+    std::vector<std::string> missed;
+    for (std::size_t i = 0; i < labels_.size(); ++i)
+        if (attempt.places[i])
+            drawLabel(surface, labels_[i], *attempt.places[i]);
+        else if (!labels_[i].inList.empty())
+            missed.push_back(labels_[i].inList);
+    return missed;
+}
+
+void LabelPlacer::drawLeaders(DrawingSurface& surface, Attempt& attempt) const {
+    const Em em = emOf(surface);
+    surface.setColour(colours::grey);
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        if (!attempt.places[i] || !labels_[i].withLeader) continue;
+        const auto leader = leaderOf(labels_[i].anchor, attempt.places[i]->box, em);
+        if (!leader) continue;
+        surface.line(leader->first, leader->second);
+        for (auto& placed : attempt.places)
+            if (placed && placed->box.crossedBy(leader->first, leader->second)) placed->onLines = true;
+    }
 }
 
 void LabelPlacer::drawLabel(DrawingSurface& surface, const Label& label, const Placed& placed) {
@@ -225,48 +252,13 @@ void LabelPlacer::drawLabel(DrawingSurface& surface, const Label& label, const P
     }
     surface.setColour(label.colour);
     Place corner{box.left, box.top};
-    if (!label.circled.empty()) {
-        const bool across = placed.direction == TextDirection::Across;
-        const double halfX = 0.5 * kCircle * em.x;
-        const double halfY = 0.5 * kCircle * em.y;
-        drawCircled(surface, label.circled,
-                    {box.left + halfX, across ? 0.5 * (box.top + box.bottom) : box.bottom - halfY});
-        if (across) corner = {box.left + kCircleAndGap * em.x, 0.5 * (box.top + box.bottom - em.y)};
+    if (!label.circled.empty() && placed.form == 0) {
+        drawCircled(surface, label.circled, {box.left + 0.5 * kCircle * em.x, 0.5 * (box.top + box.bottom)});
+        corner = {box.left + kCircleAndGap * em.x, 0.5 * (box.top + box.bottom - em.y)};
     }
-    for (const std::string& line : label.lines) {
-        surface.text(corner, line, placed.direction);
-        if (placed.direction == TextDirection::Across)
-            corner.y += em.y;
-        else
-            corner.x += em.x;
-    }
-}
-
-void LabelPlacer::draw(DrawingSurface& surface, Font font) {
-    const double largest = font.points;
-    Attempt attempt = placeInLargest(surface, font);
-    if (!attempt.complete) {  // say so in the lower right corner, which is then taken first
-        const Place corner{frame_.right, frame_.bottom};
-        labels_.insert(labels_.begin(), Label{{"+ more values"}, corner, false, corner, colours::grey});
-        font.points = largest;
-        attempt = placeInLargest(surface, font);
-    }
-    surface.setFont(font);
-    drawLeaders(surface, attempt);
-    for (std::size_t i = 0; i < labels_.size(); ++i)
-        if (attempt.places[i]) drawLabel(surface, labels_[i], *attempt.places[i]);
-}
-
-void LabelPlacer::drawLeaders(DrawingSurface& surface, Attempt& attempt) const {
-    const Em em = emOf(surface);
-    surface.setColour(colours::grey);
-    for (std::size_t i = 0; i < labels_.size(); ++i) {
-        if (!attempt.places[i]) continue;
-        const auto leader = leaderOf(labels_[i].anchor, attempt.places[i]->box, em);
-        if (!leader) continue;
-        surface.line(leader->from, leader->to);
-        for (auto& placed : attempt.places)
-            if (placed && placed->box.crossedBy(leader->from, leader->to)) placed->onLines = true;
+    for (const std::string& line : label.forms[placed.form]) {
+        surface.text(corner, line);
+        corner.y += em.y;
     }
 }
 

@@ -12,43 +12,62 @@ namespace borvik {
 struct Box {
     double left = 0.0, top = 0.0, right = 0.0, bottom = 0.0;
 
+    /// True where they share more than an edge. A box without area is a point or a line.
     [[nodiscard]] bool overlaps(const Box& other) const {
         return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
     }
     [[nodiscard]] bool crossedBy(Place from, Place to) const;
 };
 
-/// A text that belongs to a place of a drawing.
-struct Label {
-    std::vector<std::string> lines;
-    Place anchor;                           ///< what it belongs to
-    bool below = false;                     ///< the side of the anchor on which it is wanted
-    std::optional<Place> firstChoice = {};  ///< upper left corner, where that place is free
-    Colour colour = colours::black;
-    bool keepSide = false;     ///< never on the other side of the anchor
-    bool toTheRight = false;   ///< aside of the anchor rather to the right of it than to the left
-    bool optional = false;     ///< may be left out silently where there is no room
-    std::string circled = {};  ///< a number in a circle in front of the first line
+/// A place that a label may take beside its anchor.
+struct Spot {
+    enum class Across { Centred, FromAnchor, ToAnchor };
+    Across across = Across::Centred;  ///< how it stands to the anchor; a centred one gives way to stay in its place
+    bool below = false;               ///< under the anchor
+    double gap = 0.0;                 ///< between anchor and label, text heights
+    bool overLines = false;           ///< may cover lines of the drawing, where nothing better is free
 };
 
-/// Finds a place for each label of a drawing, so that labels neither cover one another nor leave the frame as long as
-/// there is room. A label stands close to its anchor; lines of the drawing are avoided where that costs little.
+/// A text that belongs to a point of a drawing. It stands within its place or not at all: elsewhere it would be taken
+/// for the value of another point.
+struct Label {
+    std::vector<std::vector<std::string>> forms;  ///< lines of text: the fullest form first, then shorter ones
+    Place anchor;                                 ///< what it belongs to
+    double left = 0.0, right = 0.0;               ///< its place across
+    std::vector<Spot> spots;                      ///< in the order in which they are tried
+    double rank = 0.0;                            ///< where there is too little room the highest stay
+    bool always = false;                          ///< may leave its place; the last form then says where it belongs
+    std::string inList;                           ///< how it reads in a list of what was left out; empty: not missed
+    Colour colour = colours::black;
+    std::string circled = {};  ///< a number in a circle in front of the fullest form
+    bool withLeader = true;    ///< a line to the anchor where it stands away from it
+    int together = 0;          ///< labels of the same number other than 0 stand all or not at all
+};
+
+/// Above or below a point of a curve: close to it, else further out, with a line to the point.
+[[nodiscard]] std::vector<Spot> spotsAtPoint(bool below);
+/// In a row with others, so that all stand on one line.
+[[nodiscard]] std::vector<Spot> spotsInRow(bool below, double gap = 0.0);
+
+/// Gives each label of a drawing a spot in its own place, so that none covers another, a point that is kept clear, or
+/// leaves the frame. Where it gets narrow the text becomes smaller, then labels take a shorter form, and then those of
+/// the lowest rank are left out, which a remark counts.
 class LabelPlacer {
 public:
     explicit LabelPlacer(const Box& frame) : frame_(frame) {}
 
-    /// No label may cover this.
+    /// No label may cover this; a point and a line count too.
     void keepClear(const Box& box) { taken_.push_back(box); }
     /// A line of the drawing, better not covered.
     void avoid(Place from, Place to) { lines_.push_back({from, to}); }
     void add(Label label) { labels_.push_back(std::move(label)); }
+    [[nodiscard]] const Box& frame() const { return frame_; }
 
-    /// Places and draws all labels, those added first with the first choice, in the largest size in which all of them
-    /// find room: level first, down to a size that still reads well, then upright where a line has no room. What finds
-    /// no room in the smallest size is left out, and a remark says so; nothing is ever covered. A label over a line
-    /// gets a white ground, one that stands away from its anchor a thin line to it, in the pen at hand.
+    /// Places and draws all labels. A label over a line gets a white ground, one that stands away from its anchor a
+    /// thin line to it, in the pen at hand.
     /// @param font  its size is the largest to try
-    void draw(DrawingSurface& surface, Font font);
+    /// @return what was left out, as it reads in a list, in the order of the labels
+    std::vector<std::string> draw(DrawingSurface& surface, Font font);
 
 private:
     struct Line {
@@ -56,37 +75,25 @@ private:
     };
     struct Placed {
         Box box;
-        TextDirection direction = TextDirection::Across;
+        std::size_t form = 0;
         bool onLines = false;  ///< covers a line of the drawing
-        double cost = 0.0;     ///< distance and what else is unwelcome, in text heights
     };
-    /// A place that a label could take, and what is unwelcome about it.
-    struct Candidate {
-        Box box;
-        double cost;
-    };
-    /// All labels placed in one size. A label without room has no place.
+    /// All labels placed in one size; nothing for those left out.
     struct Attempt {
+        double points = 0.0;
         std::vector<std::optional<Placed>> places;
-        bool complete = true;  ///< no label is without a place but optional ones
+        int standing = 0, inFull = 0;
     };
-    struct Effort {
-        bool upright;        ///< labels may stand upright
-        bool allOrNothing;   ///< stop at the first label without room
-        double highestCost;  ///< that a place may have
-    };
-    [[nodiscard]] Attempt placeAll(const DrawingSurface& surface, const Effort& effort) const;
-    [[nodiscard]] Attempt placeInLargest(DrawingSurface& surface, Font& font) const;
+    [[nodiscard]] Attempt placeAll(const DrawingSurface& surface) const;
+    [[nodiscard]] Attempt placeBest(DrawingSurface& surface, Font& font) const;
     [[nodiscard]] std::optional<Placed> place(const DrawingSurface& surface, const Label& label,
-                                              const std::vector<Box>& taken, const Effort& effort) const;
-    /// In rising order of cost; others' labels and lines not regarded yet.
-    [[nodiscard]] std::vector<Candidate> candidates(const DrawingSurface& surface, const Label& label,
-                                                    TextDirection direction) const;
-    [[nodiscard]] std::optional<Placed> search(const DrawingSurface& surface, const Label& label,
-                                               TextDirection direction, const std::vector<Box>& taken,
-                                               double highestCost) const;
-    [[nodiscard]] Box inside(Box box) const;
-    [[nodiscard]] int linesUnder(const Box& box) const;
+                                              const std::vector<Box>& taken) const;
+    [[nodiscard]] std::optional<Box> boxAt(const DrawingSurface& surface, const Label& label, std::size_t form,
+                                           const Spot& spot) const;
+    [[nodiscard]] bool coversLines(const Box& box) const;
+    [[nodiscard]] int leftOut(const Attempt& attempt) const;
+    /// Room for the remark that counts what was left out, in a corner.
+    [[nodiscard]] std::optional<Box> cornerFor(Extent remark, const Attempt& attempt) const;
     void drawLeaders(DrawingSurface& surface, Attempt& attempt) const;
     static void drawLabel(DrawingSurface& surface, const Label& label, const Placed& placed);
 
@@ -96,16 +103,10 @@ private:
     std::vector<Label> labels_;
 };
 
-/// The box that the lines of a label cover, at the origin.
-[[nodiscard]] Extent labelExtent(const DrawingSurface& surface, const Label& label, TextDirection direction);
-
 /// Text heights in the units of both directions: a measure that looks the same across and down.
 struct Em {
     double x = 1.0, y = 1.0;
 };
 [[nodiscard]] Em emOf(const DrawingSurface& surface);
-
-/// A number in a circle of 1.5 text heights. @param box  where the circle stands, 1.5 em wide and high
-void drawCircled(DrawingSurface& surface, std::string_view number, Place centre);
 
 }  // namespace borvik

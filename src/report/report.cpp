@@ -17,7 +17,7 @@ namespace {
 constexpr double kForceScale = 1400.0;
 constexpr double kFlatScale = 2000.0;
 constexpr double kSketchStep = 0.075;
-constexpr double kForceStep = 0.15;
+constexpr double kForceStep = 0.162;
 constexpr double kUzStep = 0.051;
 constexpr double kUyStep = 0.05;
 constexpr double kFlsStep = 0.052;

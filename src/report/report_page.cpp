@@ -205,13 +205,31 @@ void ReportPage::ruleAcross(Colour colour) {
 void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step) {
     const DiagramArea area = diagramArea(diagram, DiagramMode::Paper);
     const double linesPerUnit = LinesPerPage / pageUnits;
-    if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));
     const double unitsPerColumn = (kFrameRight - kFrameLeft) / width();
-    surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
-                    kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);
-    DrawDiagram(surface(), diagram, data, 0.0, PrintY / linesPerUnit, DiagramMode::Paper);
-    gridScale();
-    advance(LinesPerPage * step);
+    std::vector<std::string> missed;
+    for (const BeamPart& part : beamParts(data.project)) {
+        if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));
+        surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
+                        kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);
+        for (std::string& value :
+             DrawDiagram(surface(), diagram, data, 0.0, PrintY / linesPerUnit, DiagramMode::Paper, part))
+            if (std::find(missed.begin(), missed.end(), value) == missed.end()) missed.push_back(std::move(value));
+        gridScale();
+        advance(LinesPerPage * step);
+    }
+    if (!missed.empty()) listBelowDiagram(missed, -area.top * linesPerUnit);
+}
+
+void ReportPage::listBelowDiagram(const std::vector<std::string>& values, double linesAbove) {
+    std::string text = "More values:";
+    for (const std::string& value : values) text += (&value == &values.front() ? " " : "; ") + value;
+    PrintY -= linesAbove;  // up to where the frame of the next diagram would begin
+    for (const std::string& line : wrapped(text, width())) {
+        need(1.0);
+        put(ColLeft, line);
+        advance(1.0);
+    }
+    advance(linesAbove + 0.5);
 }
 
 }  // namespace borvik

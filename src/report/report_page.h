@@ -76,7 +76,8 @@ public:
                                                    TextStyle style = {}) const;
 
     /// A diagram as wide as the text, with its origin at PrintY, in a page scale of that many units from top to bottom;
-    /// on a new page where it doesn't fit.
+    /// on a new page where it doesn't fit. A long beam takes several strips below each other, and values that found no
+    /// room stand in a list under the diagram.
     /// @param step  part of the page that PrintY goes down
     void diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step);
 
@@ -89,6 +90,7 @@ public:
 
 private:
     void gridScale() const;
+    void listBelowDiagram(const std::vector<std::string>& values, double linesAbove);
     void setStyle(TextStyle style) const;
     void headLine(std::string_view left, std::string_view right);
     /// Bytes of the characters that fit into a width, at least one character.

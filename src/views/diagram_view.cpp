@@ -82,7 +82,8 @@ QSize DiagramView::sizeHint() const {
 }
 
 double DiagramView::textScale() const {
-    return std::clamp(std::min(width() / 1100.0, height() / pictureHeight(diagrams_)), 1.0, 1.8);
+    constexpr double kDiagramPoints = 9.0;  // of a label
+    return std::max(1.0, QApplication::font().pointSizeF() / kDiagramPoints);
 }
 
 void DiagramView::draw(DrawingSurface& surface) const {
