@@ -206,6 +206,7 @@ std::vector<std::string> LabelPlacer::draw(DrawingSurface& surface, Font font) {
     const double largest = font.points;
     Attempt attempt = placeBest(surface, font);
     if (leftOut(attempt) > 0) {
+        const Font ofRemark = font;
         const Extent room = surface.extent(moreValues(static_cast<int>(labels_.size())));
         auto corner = cornerFor(room, attempt);
         if (!corner) {  // the remark comes first: without it the drawing would seem complete
@@ -214,10 +215,12 @@ std::vector<std::string> LabelPlacer::draw(DrawingSurface& surface, Font font) {
             font.points = largest;
             attempt = placeBest(surface, font);
         }
+        surface.setFont(ofRemark);
         surface.setColour(colours::grey);
         const std::string remark = moreValues(leftOut(attempt));
         const bool atTheRight = corner->right >= frame_.right - kRounding;
         surface.text({atTheRight ? corner->right - surface.textWidth(remark) : corner->left, corner->top}, remark);
+        surface.setFont(font);
     }
     drawLeaders(surface, attempt);
     std::vector<std::string> missed;
