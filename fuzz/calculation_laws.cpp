@@ -4,6 +4,7 @@
 #include "calculation/calculation.h"
 #include "diagrams/diagrams.h"
 #include "laws.h"
+#include "notes/notes.h"
 #include "project/project_file.h"
 #include "results/json.h"
 #include "results/summary.h"
@@ -44,6 +45,7 @@ std::string outcome(Session& session, WalkMethod method) {
     const bool finished = Calculate(session, messages, progress, method);
     if (finished != session.Calculated) throw BrokenLaw("a run that has ended has no results, or the other way round");
     if (!finished && messages.texts.empty()) throw BrokenLaw("a calculation is refused without a word");
+    if (finished) makeNotes(session);
     return ResultsJson(session, messages.texts, {}, "", true);
 }
 

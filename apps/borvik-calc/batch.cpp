@@ -7,6 +7,7 @@
 #include "calculation/load_check.h"
 #include "console.h"
 #include "exit_codes.h"
+#include "notes/notes.h"
 #include "output.h"
 #include "project/project_file.h"
 #include "results/ratios.h"
@@ -38,6 +39,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     Session session(tables);
     if (file && !load(session, *file, console)) return kFileFault;
     Calculate(session, console, console, options.walk);
+    if (session.Calculated && (options.notes || options.withNotes)) makeNotes(session);
     int exitCode = outcome(session, options);
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.

@@ -163,6 +163,7 @@ void Session::take(Outcome outcome) {
     Calculated = outcome.results.has_value();
     if (!Calculated) return;
     results = std::move(outcome.results);
+    notes.reset();
     CurrentSection = project.SpanSection(project.NofSpans);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ struct Outcome {
     std::string Fault;               ///< text of the run-time fault that ended it; empty if none did
 };
 
+struct Notes;
+
 /// One project being worked on: the record, the tables it rests on, the flags, and the last results. Owned by the
 /// application; sessions know nothing of each other.
 struct Session {
@@ -46,6 +49,7 @@ struct Session {
     bool InputOK = true;             ///< result of the last input check
     std::string Fault;               ///< text of the run-time fault that ended the last run; empty if none did
     std::optional<Results> results;  ///< of the last finished run; stays in memory when an input changes, out of reach
+    std::shared_ptr<const Notes> notes;  ///< on these results, made once by makeNotes; null where nobody asked for them
 
     /// A session with the default project.
     explicit Session(ReferenceTables loaded);

@@ -144,4 +144,8 @@ std::string noteText(const Note& note) {
     return text;
 }
 
+void makeNotes(Session& session) {
+    if (!session.notes) session.notes = std::make_shared<const Notes>(ProjectNotes(session));
+}
+
 }  // namespace borvik

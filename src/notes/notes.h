@@ -83,6 +83,10 @@ inline constexpr double kLeastGrowth = 0.01;
 /// that move a ratio by less than `least` without crossing 1, are left out, and so is a note that had no other.
 [[nodiscard]] Notes ProjectNotes(const Session& session, double least = kLeastGrowth);
 
+/// Makes the notes of a session and keeps them with its results; nothing where they are already there.
+/// @pre session.Calculated and its results
+void makeNotes(Session& session);
+
 /// A change in words: "patch load, span 2: 0.084 instead of 0.057".
 [[nodiscard]] std::string changeText(const NoteChange& change);
 /// The text with its first letter as a capital, for a text that begins a line.

@@ -160,7 +160,7 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
         PrintFull(report, data);
     else
         PrintPartial(report, data, scope);
-    if (withNotes) PrintNotes(page, ProjectNotes(session));
+    if (withNotes) PrintNotes(page, *session.notes);
 }
 
 ReportTime reportTime(const std::tm& local) {

@@ -32,7 +32,7 @@ inline constexpr const char* kCalculateBeforePrint = "  Calculate before print  
 
 /// Writes the whole report, from page 1, on paper whose first page is empty.
 /// @param withNotes  the notes for the checking engineer as a last chapter; the others are the same with and without
-/// @pre canReport(session)
+/// @pre canReport(session); with notes, those that the session keeps
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
                  bool withNotes = false);
 

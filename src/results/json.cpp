@@ -216,8 +216,7 @@ Json note(const NoteRule& rule, const NoteFinding& finding) {
 }
 
 /// The notes in their order, then the assumptions.
-Json notesOf(const Session& session) {
-    const Notes notes = ProjectNotes(session);
+Json json(const Notes& notes) {
     Json array = Json::array();
     for (const Note& each : notes.notes) array.push_back(note(*each.rule, each.finding));
     for (const NoteRule* rule : notes.assumptions) array.push_back(note(*rule, {}));
@@ -249,7 +248,7 @@ std::string ResultsJson(const Session& session, const std::vector<std::string>& 
         document["Fls"] = stressSets(results.Fatigue);
         document["Steps"] = json(results.Steps);
         document["Fatigue"] = fatigueRows(results.Fatigue);
-        if (withNotes) document["Notes"] = notesOf(session);
+        if (withNotes && session.notes) document["Notes"] = json(*session.notes);
         const double largest = verdictOf(results).largest;
         document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }

@@ -47,8 +47,8 @@ std::string paragraph(const Note& note) {
 }  // namespace
 
 std::string NotesText(const Session& session) {
-    if (!session.Calculated || !session.results) return "No notes without results\n";
-    const Notes notes = ProjectNotes(session);
+    if (!session.Calculated || !session.notes) return "No notes without results\n";
+    const Notes& notes = *session.notes;
     std::string text = "Notes for the checking engineer: " + std::to_string(notes.notes.size()) + "\n";
     for (const Note& note : notes.notes) text += "\n" + paragraph(note);
     if (!notes.assumptions.empty()) text += "\nAssumptions\n";

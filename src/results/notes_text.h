@@ -6,9 +6,9 @@
 
 namespace borvik {
 
-/// The notes of the last run as plain text for a terminal: one paragraph a note, wrapped, with its check and effect as
-/// a heading and the number it would change to; at the end the assumptions that always hold. Without results a line
-/// that says so.
+/// The notes that a session keeps of its last run as plain text for a terminal: one paragraph a note, wrapped, with its
+/// check and effect as a heading and the number it would change to; at the end the assumptions that always hold.
+/// Without results a line that says so.
 [[nodiscard]] std::string NotesText(const Session& session);
 
 }  // namespace borvik

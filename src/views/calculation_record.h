@@ -12,7 +12,7 @@ namespace borvik {
 struct CalculationRecord {
     Project project;
     Results results;
-    Notes notes{};
+    std::shared_ptr<const Notes> notes;  ///< never null
 };
 using CalculationPtr = std::shared_ptr<const CalculationRecord>;
 

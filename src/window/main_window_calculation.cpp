@@ -76,8 +76,9 @@ bool MainWindow::run() {
 void MainWindow::showCalculation() {
     {
         const BusyPointer busy;
+        makeNotes(session_);
         calculation_ = std::make_shared<const CalculationRecord>(
-            CalculationRecord{session_.project, *session_.results, ProjectNotes(session_)});
+            CalculationRecord{session_.project, *session_.results, session_.notes});
     }
     ShowTreeViewResults();
     showState();

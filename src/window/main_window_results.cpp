@@ -71,12 +71,12 @@ void MainWindow::showNotes() {
     if (!session_.Calculated) return;
     shownNotes_ = true;
     tree_->setCurrentItem(tree_->itemOf("Notes"));
-    results_->showTable(tr("Notes for the checking engineer"), TableNotes(calculation_->notes));
+    results_->showTable(tr("Notes for the checking engineer"), TableNotes(*calculation_->notes));
 }
 
 /// From a note to the row that it names, in the summary of all checks or in one of the tables of the detailed results.
 void MainWindow::goToCheckOf(int note) {
-    const auto& notes = calculation_->notes.notes;
+    const auto& notes = calculation_->notes->notes;
     if (!shownNotes_ || !session_.Calculated || note < 0 || static_cast<std::size_t>(note) >= notes.size()) return;
     const auto [table, row] =
         TargetOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
@@ -87,7 +87,7 @@ void MainWindow::goToCheckOf(int note) {
 }
 
 void MainWindow::showGoverning() {
-    const auto notes = static_cast<int>(calculation_->notes.notes.size());
+    const auto notes = static_cast<int>(calculation_->notes->notes.size());
     stateNotes_->setText(notes == 1 ? tr("1 note") : tr("%1 notes").arg(notes));
     const RatioVerdict verdict = verdictOf(calculation_->results);
     const QString ratio = QString::fromStdString(formatNumber(verdict.largest, "0.000"));

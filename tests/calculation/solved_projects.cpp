@@ -1,5 +1,6 @@
 #include "solved_projects.h"
 
+#include "notes/notes.h"
 #include "project/project_file.h"
 #include "results/json.h"
 
@@ -14,7 +15,9 @@ TestSession::TestSession(const std::filesystem::path& file) : TestSession() {
 bool TestSession::calculate(WalkMethod method) {
     messages.texts.clear();
     Progress progress;
-    return Calculate(*this, messages, progress, method);
+    if (!Calculate(*this, messages, progress, method)) return false;
+    makeNotes(*this);
+    return true;
 }
 
 std::string TestSession::json() const {

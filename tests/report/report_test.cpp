@@ -23,7 +23,9 @@ constexpr Extent kLetter{206.0, 269.0};
 
 RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, bool withNotes = false) {
     RecordingPrinter printer(paper.width, paper.height);
-    PrintReport(printer, sessionOf(sample), scope, {"2026-03-01", "9:05"}, withNotes);
+    Session session = sessionOf(sample);
+    if (withNotes) makeNotes(session);
+    PrintReport(printer, session, scope, {"2026-03-01", "9:05"}, withNotes);
     return printer;
 }
 

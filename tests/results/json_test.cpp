@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "calculation/calculation.h"
+#include "notes/notes.h"
 
 namespace borvik {
 namespace {
@@ -16,7 +17,7 @@ struct DefaultRun {
     DefaultRun() : session(LoadTables(BORVIK_SOURCE_DIR "/data")) {}
     Document document(const std::optional<std::string>& file = std::nullopt) {
         Progress progress;
-        Calculate(session, messages, progress);
+        if (Calculate(session, messages, progress)) makeNotes(session);
         text = ResultsJson(session, messages.texts, file, "Borvik 1.2.3", true);
         return Document::parse(text);
     }

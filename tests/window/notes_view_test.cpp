@@ -15,7 +15,7 @@ protected:
     ResultTableView& list() { return control<ResultTableView>("lstViewDetailed"); }
     std::string details() { return control<QTextBrowser>("lstViewDetailedDetails").toPlainText().toStdString(); }
     std::string title() { return control<QLabel>("lstViewDetailedTitle").text().toStdString(); }
-    const Notes& notes() { return window.calculation()->notes; }
+    const Notes& notes() { return *window.calculation()->notes; }
     int rowOf(const std::string& check) {
         const auto& rows = list().table().rows;
         for (std::size_t row = 0; row < rows.size(); ++row)
