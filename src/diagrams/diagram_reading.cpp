@@ -30,7 +30,7 @@ std::vector<DiagramReading::Quantity> quantitiesAt(const std::vector<Panel>& pan
 }  // namespace
 
 std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
-                                          double reach) {
+                                          double reach, BeamPart part) {
     if (diagrams.empty()) return std::nullopt;
     Diagram diagram = diagrams.back();
     double bottom = 0.0;
@@ -50,8 +50,11 @@ std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, con
     const auto read = [&](int span, double position) {
         reading.points.push_back({span, position, quantitiesAt(panels, span, position, data.project.Span(span))});
     };
-    const double position = (place.x - kBeamStart) / kBeamLength * total;
-    const double near = std::max(reach / kBeamLength, 1e-9) * total;  // a support is met in spite of rounding
+    if (part.isWhole()) part = {0.0, total};
+    const double unitsPerMm = kBeamLength / (part.to - part.from);
+    const double position = part.from + (place.x - kBeamStart) / unitsPerMm;
+    const double near = std::max(reach / unitsPerMm, 1e-9 * total);  // a support is met in spite of rounding
+    if (position < part.from - near || position > part.to + near) return std::nullopt;
     const int last = data.project.NofSpans;
     int support = 1;  // the nearest one
     double start = 0.0, nearest = std::abs(position);
@@ -73,16 +76,19 @@ std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, con
     return reading;
 }
 
-std::vector<double> readingStops(const Project& project, bool supportsOnly) {
+std::vector<double> readingStops(const Project& project, bool supportsOnly, BeamPart part) {
     constexpr int kParts = 20;
     double total = 0.0, start = 0.0;
     for (int span = 1; span <= project.NofSpans; ++span) total += project.Span(span);
     if (total <= 0.0) return {};
-    std::vector<double> stops{kBeamStart};
+    if (part.isWhole()) part = {0.0, total};
+    const auto unitsAt = [&part](double place) {
+        return kBeamStart + kBeamLength * (place - part.from) / (part.to - part.from);
+    };
+    std::vector<double> stops{unitsAt(0.0)};
     for (int span = 1; span <= project.NofSpans; ++span) {
         const double length = project.Span(span);
-        for (int part = supportsOnly ? kParts : 1; part <= kParts; ++part)
-            stops.push_back(kBeamStart + kBeamLength * (start + length * part / kParts) / total);
+        for (int k = supportsOnly ? kParts : 1; k <= kParts; ++k) stops.push_back(unitsAt(start + length * k / kParts));
         start += length;
     }
     return stops;

@@ -32,13 +32,14 @@ struct DiagramReading {
 
 /// Reads a picture at a logical place of its frame.
 /// @param reach  units across within which a support is taken for the place
+/// @param part   of the beam that the picture shows
 /// @return nothing left and right of the beam, or without results
 [[nodiscard]] std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data,
-                                                        Place place, double reach = 0.0);
+                                                        Place place, double reach = 0.0, BeamPart part = {});
 
 /// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each
-/// span.
+/// span. Those outside the part that is shown lie outside the picture.
 /// @return nothing for a beam without length
-[[nodiscard]] std::vector<double> readingStops(const Project& project, bool supportsOnly);
+[[nodiscard]] std::vector<double> readingStops(const Project& project, bool supportsOnly, BeamPart part = {});
 
 }  // namespace borvik

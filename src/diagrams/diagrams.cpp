@@ -88,7 +88,7 @@ Place PictureFrame::pointOf(Place place, double width, double height) const {
     return {(place.x - left) / (right - left) * width, (place.y - top) / (bottom - top) * height};
 }
 
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data) {
+void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data, BeamPart part) {
     const auto [left, top, right, bottom] = pictureFrame(diagrams);
     surface.scale(left, top, right, bottom);
     const std::array<Place, 4> paper{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
@@ -96,7 +96,7 @@ void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, con
     double depth = 0.0;
     for (const Diagram diagram : diagrams) {
         DrawDiagram(surface, diagram, data, 0.0, depth - diagramArea(diagram, DiagramMode::Screen).top,
-                    DiagramMode::Screen);
+                    DiagramMode::Screen, part);
         depth += diagramHeight(diagram, DiagramMode::Screen);
     }
 }

@@ -43,7 +43,8 @@ std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, c
 
 /// Draws a picture for screen or file: lays the logical frame over the whole surface, white paper, the diagrams one
 /// below the other.
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data);
+void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
+                 BeamPart part = {});
 
 /// The height of a picture, in the units of a diagram that is 1000 wide.
 [[nodiscard]] double pictureHeight(std::span<const Diagram> diagrams);

@@ -9,7 +9,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 #include "base/fault.h"
 #include "diagrams/diagram_reading.h"
@@ -20,7 +22,8 @@
 namespace borvik {
 
 namespace {
-constexpr QSize kSavedSize(2000, 500);        // of one diagram
+constexpr QSize kSavedSize(2000, 500);  // of one diagram
+constexpr double kZoomStep = 1.25;
 constexpr double kLeastPixelsPerUnit = 0.72;  // below that the lines of text would run into each other
 }  // namespace
 
@@ -61,12 +64,45 @@ void DiagramView::setOutOfDate(bool outOfDate) {
 }
 
 void DiagramView::contentChanged() {
+    if (diagrams_.empty() || part_.to > beamLength()) part_ = {};
     drawn_ = {};
     stopReading();
     setFocusPolicy(diagrams_.empty() ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(title());
     updateGeometry();
     update();
+}
+
+double DiagramView::beamLength() const {
+    double length = 0.0;
+    for (int span = 1; span <= kMaxSpans && project_->Span(span) > 0; ++span) length += project_->Span(span);
+    return length;
+}
+
+void DiagramView::showPart(BeamPart part) {
+    if (diagrams_.empty() || (part.from == part_.from && part.to == part_.to)) return;
+    const double length = beamLength();
+    part_ = part.isWhole() || part.to > length ? BeamPart{} : part;
+    drawn_ = {};
+    stopReading();
+    update();
+    Q_EMIT partChanged(part_);
+}
+
+void DiagramView::zoom(double factor, double about) {
+    constexpr double kShortest = 200.0;  // mm
+    if (diagrams_.empty()) return;
+    const double length = beamLength();
+    const double shown = part_.isWhole() ? length : part_.to - part_.from;
+    const double wanted = std::max(shown / factor, std::min(kShortest, length));
+    if (wanted >= length) return showWholeBeam();
+    const double share = std::clamp((about - kBeamStart) / kBeamLength, 0.0, 1.0);
+    const double from = std::clamp(part_.from + share * (shown - wanted), 0.0, length - wanted);
+    showPart({from, from + wanted});
+}
+
+void DiagramView::zoom(double factor) {
+    zoom(factor, reading_.isEmpty() ? kBeamStart + kBeamLength / 2.0 : readAt_.x);
 }
 
 QString DiagramView::title() const {
@@ -87,7 +123,7 @@ double DiagramView::textScale() const {
 }
 
 void DiagramView::draw(DrawingSurface& surface) const {
-    DrawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr});
+    DrawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr}, part_);
 }
 
 /// The words that results are out of date, in a box in the middle of the picture.
@@ -176,7 +212,7 @@ Place DiagramView::toLogical(QPointF place) const {
 }
 
 void DiagramView::read(Place place, double reach) {
-    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, place, reach);
+    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, place, reach, part_);
     readAt_ = place;
     reading_ = found ? QString::fromStdString(found->text()) : QString();
     setAccessibleDescription(reading_);
@@ -193,20 +229,44 @@ void DiagramView::stopReading() {
 }
 
 void DiagramView::mouseMoveEvent(QMouseEvent* event) {
+    if (pressedAt_ && !part_.isWhole()) {  // the beam follows the mouse
+        const double shown = part_.to - part_.from;
+        const double moved = (toLogical(*pressedAt_).x - toLogical(event->position()).x) / kBeamLength * shown;
+        dragged_ = dragged_ || (event->position() - *pressedAt_).manhattanLength() >= QApplication::startDragDistance();
+        if (!dragged_) return;
+        pressedAt_ = event->position();
+        const double from = std::clamp(part_.from + moved, 0.0, beamLength() - shown);
+        return showPart({from, from + shown});
+    }
     if (takesClicksAt(event->position())) {
         setCursor(Qt::PointingHandCursor);
     } else {
         unsetCursor();
     }
-    if (!calculation_) return;
-    constexpr double kSupportReach = 3.0;  // pixels on either side of a support that count as the support
-    read(toLogical(event->position()), toLogical({kSupportReach, 0.0}).x - toLogical({0.0, 0.0}).x);
+    if (calculation_) readUnder(event->position());
+}
+
+/// Reads the calculated place next to a point of the widget: a support, or one of the 21 points of a span.
+void DiagramView::readUnder(QPointF point) {
+    constexpr double kBesideBeam = 3.0;  // pixels beside the beam that still read its end
+    Place place = toLogical(point);
+    const double reach = toLogical({kBesideBeam, 0.0}).x - toLogical({0.0, 0.0}).x;
+    const double from = kBeamStart - reach, to = kBeamStart + kBeamLength + reach;
+    if (place.x >= from && place.x <= to) {
+        double away = to - from;
+        for (const double stop : readingStops(*project_, false, part_)) {
+            if (stop < from || stop > to || std::abs(stop - toLogical(point).x) >= away) continue;
+            away = std::abs(stop - toLogical(point).x);
+            place.x = stop;
+        }
+    }
+    read(place, 0.0);
 }
 
 /// Moves the reading by a key.
 /// @return false for a key that moves nothing
 bool DiagramView::walk(int key, bool bySupports) {
-    const std::vector<double> stops = readingStops(*project_, bySupports);
+    const std::vector<double> stops = readingStops(*project_, bySupports, part_);
     const bool first = reading_.isEmpty();
     if (stops.empty()) return false;
     std::size_t shown = 0;
@@ -219,7 +279,8 @@ bool DiagramView::walk(int key, bool bySupports) {
         bottom += height;
     }
     constexpr double kSame = 1e-6;
-    Place to = first ? Place{stops.front(), middles.front()} : readAt_;
+    const auto leftmost = std::lower_bound(stops.begin(), stops.end() - 1, kBeamStart - kSame);
+    Place to = first ? Place{*leftmost, middles.front()} : readAt_;
     const auto next = std::upper_bound(stops.begin(), stops.end(), to.x + kSame);
     const auto here = std::lower_bound(stops.begin(), stops.end(), to.x - kSame);
     switch (key) {
@@ -244,9 +305,30 @@ bool DiagramView::walk(int key, bool bySupports) {
         default:
             return false;
     }
+    if (const double beyond = std::max(to.x - kBeamStart - kBeamLength, std::min(to.x - kBeamStart, 0.0));
+        !part_.isWhole() && std::abs(beyond) > kSame) {  // the part that is shown goes along
+        const double moved = beyond / kBeamLength * (part_.to - part_.from);
+        const double from = std::clamp(part_.from + moved, 0.0, beamLength() - (part_.to - part_.from));
+        showPart({from, from + part_.to - part_.from});
+        to.x -= beyond;
+    }
     read(to, 0.0);
     const Place point = pictureFrame(diagrams_).pointOf(to, width(), height());
     Q_EMIT readingMoved(QPointF(point.x, point.y).toPoint());
+    return true;
+}
+
+/// Plus and minus zoom, Home fits the whole beam again.
+/// @return false for a key that has no such meaning now
+bool DiagramView::zoomByKey(int key) {
+    if (key == Qt::Key_Plus || key == Qt::Key_Equal)
+        zoom(kZoomStep);
+    else if (key == Qt::Key_Minus)
+        zoom(1.0 / kZoomStep);
+    else if (key == Qt::Key_Home && !part_.isWhole())
+        showWholeBeam();
+    else
+        return false;
     return true;
 }
 
@@ -254,6 +336,8 @@ void DiagramView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && clickTo_ > clickFrom_) {
         Q_EMIT clicked();
+    } else if (zoomByKey(event->key())) {
+        return;
     } else if (!calculation_ || !walk(event->key(), event->modifiers().testFlag(Qt::ControlModifier))) {
         QWidget::keyPressEvent(event);
     }
@@ -293,7 +377,26 @@ bool DiagramView::event(QEvent* event) {
 }
 
 void DiagramView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && takesClicksAt(event->position())) Q_EMIT clicked();
+    if (event->button() != Qt::LeftButton) return;
+    pressedAt_ = event->position();
+    dragged_ = false;
+}
+
+void DiagramView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !pressedAt_) return;
+    pressedAt_.reset();
+    if (!dragged_ && takesClicksAt(event->position())) Q_EMIT clicked();
+}
+
+void DiagramView::mouseDoubleClickEvent(QMouseEvent*) {
+    showWholeBeam();
+}
+
+void DiagramView::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QWidget::wheelEvent(event);
+    constexpr double kNotch = 120.0;  // of a wheel, in eighths of a degree
+    zoom(std::pow(kZoomStep, event->angleDelta().y() / kNotch), toLogical(event->position()).x);
+    event->accept();
 }
 
 void DiagramView::contextMenuEvent(QContextMenuEvent* event) {

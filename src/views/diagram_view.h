@@ -37,6 +37,16 @@ public:
     /// @param tip  what it does; shown there only
     void setClickArea(double from, double to, const QString& tip);
 
+    /// The part of the beam that is shown; the whole beam to begin with, and again where the beam became another.
+    [[nodiscard]] const BeamPart& part() const { return part_; }
+    void showPart(BeamPart part);
+    /// Shows the beam larger by a factor, or smaller by one under 1, about a place that stays where it is.
+    /// @param about  units across
+    void zoom(double factor, double about);
+    /// About the reading, or about the middle.
+    void zoom(double factor);
+    void showWholeBeam() { showPart({}); }
+
     void savePictureAs();
     void copyPicture() const;
 
@@ -48,6 +58,8 @@ Q_SIGNALS:
     void clicked();
     /// What stands under the mouse or was reached by the keys; empty where nothing does.
     void readingChanged(const QString& text);
+    /// Another part of the beam is shown.
+    void partChanged(BeamPart part);
     /// The keys have moved the reading to this point of the widget.
     void readingMoved(QPoint to);
 
@@ -59,11 +71,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void contentChanged();
+    [[nodiscard]] double beamLength() const;
+    void readUnder(QPointF point);
+    [[nodiscard]] bool zoomByKey(int key);
     void read(Place place, double reach);
     void stopReading();
     bool walk(int key, bool bySupports);
@@ -81,6 +99,9 @@ private:
     CalculationPtr calculation_;
     bool outOfDate_ = false;
     QPixmap drawn_;  ///< the picture without the read-out; null when it has to be drawn anew
+    BeamPart part_;
+    std::optional<QPointF> pressedAt_;  ///< while the left button is down
+    bool dragged_ = false;
     Place readAt_{};
     QString reading_;
     double clickFrom_ = 0.0, clickTo_ = 0.0;  ///< units across

@@ -169,6 +169,9 @@ QWidget* MainWindow::pictureFrame() {
     connect(picBalk_, &DiagramView::clicked, this, [this] { openForm("Loads"); });
     picRes_ = new DiagramView(services_);
     picRes_->setObjectName("picRes");
+    // Sketch and diagrams show the same part of the beam.
+    connect(picBalk_, &DiagramView::partChanged, picRes_, &DiagramView::showPart);
+    connect(picRes_, &DiagramView::partChanged, picBalk_, &DiagramView::showPart);
     auto* scrolled = new QScrollArea;  // several diagrams below each other keep a legible height
     scrolled->setWidgetResizable(true);
     scrolled->setFrameShape(QFrame::NoFrame);

@@ -155,14 +155,21 @@ void MainWindow::buildInputMenu() {
 }
 
 void MainWindow::buildDiagramMenu() {
-    fill(menu(nullptr, "mnuDiagram", "&Diagram"),
-         {{"mnuSavePicture", "&Save picture...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
-           themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { chosenPicture().savePictureAs(); }},
-          {"mnuCopyPicture", "&Copy picture", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
-           themeIcon("edit-copy", QStyle::SP_FileIcon), [this] {
-               chosenPicture().copyPicture();
-               statusBar()->showMessage(tr("Copied: %1").arg(chosenPicture().accessibleName()), 4000);
-           }}});
+    fill(
+        menu(nullptr, "mnuDiagram", "&Diagram"),
+        {{"mnuSavePicture", "&Save picture...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+          themeIcon("document-save-as", QStyle::SP_DialogSaveButton), [this] { chosenPicture().savePictureAs(); }},
+         {"mnuCopyPicture", "&Copy picture", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+          themeIcon("edit-copy", QStyle::SP_FileIcon),
+          [this] {
+              chosenPicture().copyPicture();
+              statusBar()->showMessage(tr("Copied: %1").arg(chosenPicture().accessibleName()), 4000);
+          }},
+         {"mnuZoomIn", "Zoom &in", QKeySequence(Qt::CTRL | Qt::Key_Plus), {}, [this] { chosenPicture().zoom(1.25); }},
+         {"mnuZoomOut", "Zoom &out", QKeySequence(Qt::CTRL | Qt::Key_Minus), {}, [this] { chosenPicture().zoom(0.8); }},
+         {"mnuWholeBeam", "&Whole beam", QKeySequence(Qt::CTRL | Qt::Key_0), {}, [this] {
+              chosenPicture().showWholeBeam();
+          }}});
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
         const bool inMenu = now == menuBar() || qobject_cast<const QMenu*>(now) != nullptr;
         if (now != nullptr && !inMenu) sketchChosen_ = now == picBalk_;

@@ -437,6 +437,47 @@ TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
     }
 }
 
+TEST_F(ResultsTest, theBeamIsSeenCloserAtThePointerInBothPicturesAndReadAtItsPoints) {
+    calculate();
+    auto& sketch = control<DiagramView>("picBalk");
+    const double length = project().Span(1) + project().Span(2) + project().Span(3);
+    const auto pixelOf = [&](double along) {
+        const BeamPart part = picRes().part().isWhole() ? BeamPart{0.0, length} : picRes().part();
+        const double unit = 50.0 + 900.0 * (along - part.from) / (part.to - part.from);
+        return QPointF((unit + 6.0) / 1012.0 * picRes().width(), 20.0);
+    };
+    const auto mouse = [&](QEvent::Type type, QPointF at, Qt::MouseButton button) {
+        QMouseEvent event(type, at, picRes().mapToGlobal(at), button, button, Qt::NoModifier);
+        QApplication::sendEvent(&picRes(), &event);
+    };
+    const auto readingAt = [&](double along) {
+        QSignalSpy read(&picRes(), &DiagramView::readingChanged);
+        mouse(QEvent::MouseMove, pixelOf(along), Qt::NoButton);
+        return read.last().at(0).toString().toStdString();
+    };
+    const double along = project().Span(1) + 0.25 * project().Span(2);
+    const std::string there = readingAt(along);
+    EXPECT_EQ(readingAt(along + 0.01 * project().Span(2)), there);  // the point next to it
+
+    const QPointF at = pixelOf(along);
+    QWheelEvent wheel(at, picRes().mapToGlobal(at), {}, {0, 480}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&picRes(), &wheel);
+    const BeamPart part = picRes().part();
+    EXPECT_NEAR(part.to - part.from, length / std::pow(1.25, 4), 1.0);
+    EXPECT_NEAR(pixelOf(along).x(), at.x(), 1e-6);
+    EXPECT_EQ(readingAt(along), there);
+    EXPECT_EQ(sketch.part().from, part.from);
+
+    mouse(QEvent::MouseButtonPress, {300.0, 20.0}, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {200.0, 20.0}, Qt::LeftButton);
+    EXPECT_GT(sketch.part().from, part.from);
+    EXPECT_NEAR(sketch.part().to - sketch.part().from, part.to - part.from, 1e-6);
+    mouse(QEvent::MouseButtonRelease, {200.0, 20.0}, Qt::LeftButton);
+    QTest::keyClick(&picRes(), Qt::Key_Home);
+    EXPECT_TRUE(picRes().part().isWhole() && sketch.part().isWhole());
+}
+
 TEST_F(ResultsTest, textsBesideAHeadingAreNotCovered) {
     calculate();
     for (const char* name : {"CodeStatic", "CodeFatigue"}) {
