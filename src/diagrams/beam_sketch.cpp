@@ -15,6 +15,9 @@ constexpr double kWheelRadius = 0.3;  // text heights
 // Text heights between the beam and the row of span lengths; on paper it stands between the supports.
 constexpr double kBelowSupports = 0.8;
 constexpr double kAtBeam = 0.15;
+// Text heights from the bridge to the lowest load of close wheels: above the crane's name, or without room for that.
+constexpr double kAboveName = 1.8;
+constexpr double kAtBridge = 0.7;
 constexpr double kSmallestLegend = 5.0;  // points
 
 // What stays where there is too little room for all: span lengths, loads, then names and distances.
@@ -251,16 +254,23 @@ void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std:
             const double apart = std::abs(loads[order[n]].anchor.x - loads[order[before]].anchor.x);
             if (apart < widest + em.x) levels[order[n]] = std::max(levels[order[n]], levels[order[before]] + 1);
         }
+    // Title and legend keep their rows.
+    const auto topAt = [&](double first, int level) {
+        return cranes.bridge + away * (first + level) * em.y - 0.5 * em.y;
+    };
+    const auto fits = [&](double top) {
+        return top >= frame.top + 1.3 * em.y && top + em.y <= canvas.Y0 + canvas.layout.area.bottom - 3.0 * em.y;
+    };
+    const int highest = *std::max_element(levels.begin(), levels.end());
+    const double first = fits(topAt(kAboveName, highest)) ? kAboveName : kAtBridge;
     surface.setFont(canvas.labelFont);
     for (std::size_t i = 0; i < loads.size(); ++i) {
         const double x = loads[i].anchor.x;
-        const double middle = cranes.bridge + away * (1.8 + levels[i]) * em.y;
-        const double top = middle - 0.5 * em.y;
+        const double top = topAt(first, levels[i]);
+        const double middle = top + 0.5 * em.y;
         const double width = surface.textWidth(texts[i]);
         const double left = toTheRight ? x + 0.4 * em.x : x - 0.4 * em.x - width;
-        // Title and legend keep their rows.
-        if (left < frame.left || top < frame.top + 1.5 * em.y ||
-            top + em.y > canvas.Y0 + canvas.layout.area.bottom - 3.0 * em.y) {
+        if (left < frame.left || !fits(top)) {
             missed.push_back(loads[i].inList);
             continue;
         }
