@@ -61,7 +61,7 @@ void FatigueDialog::build(FatigueForm form) {
 }
 
 void FatigueDialog::WriteSetup() {
-    for (std::size_t i = 0; i < checks_.size(); ++i) checks_[i]->setChecked(form_->details[i].checked);
+    for (std::size_t i = 0; i < checks_.size(); ++i) checks_[i]->setChecked(project_.*form_->catalogue[i].checked);
     for (int j = 1; j <= kFormSplices; ++j) {
         const SpliceControls& controls = splices_[static_cast<std::size_t>(j - 1)];
         controls.used->setChecked(form_->splices.used(j));
@@ -86,37 +86,39 @@ void FatigueDialog::showWelds() {
 Group FatigueDialog::details() {
     const Group group = makeGroup("frDetails", tr("Fatigue details"));
     group.grid->addWidget(new QLabel(tr("Detail")), 0, 0);
-    for (const FatigueDetailRow& detail : form_->details) addDetail(group.grid, detail);
+    for (std::size_t i = 0; i < form_->details.size(); ++i)
+        addDetail(group.grid, form_->catalogue[i], form_->details[i]);
     group.grid->setColumnStretch(4, 1);
     return group;
 }
 
-void FatigueDialog::addDetail(QGridLayout* grid, const FatigueDetailRow& detail) {
+void FatigueDialog::addDetail(QGridLayout* grid, const Detail& detail, const FatigueDetailRow& shown) {
     const int row = nextRow(grid);
-    auto* check = makeChoice<QCheckBox>(detail.name, detail.caption, tr("Check this detail"),
+    const QString caption = shown.caption.isEmpty() ? tr(inputTitleOf(detail)) : shown.caption;
+    auto* check = makeChoice<QCheckBox>("chkFat" + std::to_string(detail.result), caption, tr("Check this detail"),
                                         [this, &detail, i = checks_.size()] {
-                                            detail.checked = checks_[i]->isChecked();
+                                            project_.*detail.checked = checks_[i]->isChecked();
                                             inputChanged();
                                         });
     checks_.push_back(check);
     grid->addWidget(check, row, 0, 2, 1);
-    for (std::size_t i = 0; i < detail.categories.size(); ++i) {
-        const FatigueCategory& category = detail.categories[i];
+    const bool alone = detail.terms[1].category == nullptr;
+    for (std::size_t i = 0; i < detail.terms.size(); ++i) {
+        if (detail.terms[i].category == nullptr) continue;
         NumberBox* box =
-            binder_.add({.name = category.name,
-                         .field = category.field,
+            binder_.add({.name = "txt" + (form_->stem + std::to_string(detail.result)) + "C" + std::to_string(i + 1),
+                         .field = project_.*detail.terms[i].category,
                          .mask = "#0",
                          .message = " 36 <= C-factor <= 160 ",
                          .meaning = tr("Detail category in MPa at two million cycles, EN 1993-1-9 Tables 8.1 to 8.10"),
                          .maskWhenFilled = "0"});
-        auto* label = new QLabel(category.symbol);
+        auto* label = new QLabel(QString(detail.symbols[i]) + " =");
         label->setBuddy(box);
-        const bool alone = detail.categories.size() == 1;
         grid->addWidget(label, row + static_cast<int>(i), 1, alone ? 2 : 1, 1);
         grid->addWidget(box, row + static_cast<int>(i), 2, alone ? 2 : 1, 1);
     }
     auto* pictures = new QHBoxLayout;
-    for (const FatigueInfo& info : detail.pictures) pictures->addWidget(makePictureButton(info, this));
+    for (const FatigueInfo& info : shown.pictures) pictures->addWidget(makePictureButton(info, this));
     grid->addLayout(pictures, row, 3, 2, 1);
 }
 

@@ -1,22 +1,16 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "dialogs/input_dialog.h"
+#include "fatigue/details.h"
 #include "pictures/fatigue_pictures.h"
 
 class QCheckBox;
 class QRadioButton;
 
 namespace borvik {
-
-/// A detail category: a box for C in MPa. `symbol` tells the stress: x along the beam, y across the flange, z vertical,
-/// t shear.
-struct FatigueCategory {
-    const char* name;
-    QString symbol;
-    std::int16_t& field;
-};
 
 /// A small picture that opens the standard's categories of a detail.
 struct FatigueInfo {
@@ -25,12 +19,10 @@ struct FatigueInfo {
     FatigueDetail detail;
 };
 
+/// What a form adds to a detail of the catalogue.
 struct FatigueDetailRow {
-    const char* name;  ///< of the check box
-    QString caption;
-    bool& checked;
-    std::vector<FatigueCategory> categories;
     std::vector<FatigueInfo> pictures;
+    QString caption = {};  ///< if another than the catalogue's
 };
 
 struct FatigueWeld {
@@ -65,7 +57,9 @@ struct FatigueDefaults {
 
 /// Everything in which the forms of the overhead crane and of the monorail differ.
 struct FatigueForm {
-    std::vector<FatigueDetailRow> details;
+    std::span<const Detail> catalogue;      ///< of fatigue/details.h: flags, categories and their symbols
+    const char* stem;                       ///< "Fat": names of the boxes are made of it, "txtFat3C2"
+    std::vector<FatigueDetailRow> details;  ///< in the catalogue's order
     FatigueSplices splices;
     std::vector<FatigueWeld> welds;
     FatigueSupport support;
@@ -88,7 +82,7 @@ protected:
 
 private:
     Group details();
-    void addDetail(QGridLayout* grid, const FatigueDetailRow& detail);
+    void addDetail(QGridLayout* grid, const Detail& detail, const FatigueDetailRow& row);
     Group splices();
     void markSpliceSpan(int j);
     Group support();

@@ -54,6 +54,18 @@ enum class Places {
     MonorailSplices,  ///< the same with the monorail's splices; see kMonorailSplices for where the stress is read
 };
 
+/// What a row of a detail stands for.
+enum class PlaceKind { Span, Support, Splice };
+[[nodiscard]] PlaceKind kindOf(Places places);
+/// "Span", "Support", "Splice".
+[[nodiscard]] const char* nameOf(PlaceKind kind);
+
+/// The stiffened support or the hanger of a detail: bearing length and thickness of its plate. None where not set.
+struct SupportPlate {
+    Single Project::*length = nullptr;
+    std::string Project::*thickness = nullptr;
+};
+
 /// Damage sum of two cranes that also act together: D values of crane 1, of crane 2 and of both.
 enum class Together {
     EachSet,           ///< D1, D2, D12: the term, taken of the sets Cr1, Cr2, Cr12
@@ -64,12 +76,18 @@ enum class Together {
 /// Which cranes a check sums up, and so which label, first text of a row, it carries.
 enum class Cranes { Alone, Independent, Together };
 
-/// One fatigue detail: where it is checked, and with what.
+/// One fatigue detail: how it is called, where it is checked, and with what. Forms, tables and report read it here.
 struct Detail {
-    const char* name = "";
+    const char* name = "";        ///< in a fault
+    const char* title = "";       ///< "1 Rail to topflange"
+    const char* inputTitle = "";  ///< where the input is shown, if otherwise
     bool Project::*checked = nullptr;
-    int result = 0;  ///< entry of FatResult
-    int rows = 0;    ///< entry of FatRows
+    int result = 0;  ///< its number, entry of FatResult
+    int rows = 0;    ///< entry of FatRows; where two share one, the later one's rows replace those of the earlier
+    std::array<const char*, 2> symbols =
+        {};               ///< of the terms' categories: x along the beam, y across, z vertical, t shear
+    Weld weldShown = {};  ///< with the input; a term may read another
+    SupportPlate plate = {};
     Places places = Places::SpanPoints;
     std::array<Term, 2> terms = {};
     std::array<const char*, 3> label = {};  ///< by Cranes
@@ -91,5 +109,13 @@ extern const SpliceFields kMonorailSplices;
 /// The details of an overhead crane's girder and of a monorail, in the order in which they are checked.
 extern const std::array<Detail, 6> kOverheadDetails;
 extern const std::array<Detail, 6> kMonorailDetails;
+[[nodiscard]] const std::array<Detail, 6>& detailsOf(const Project& project);
+
+/// Where the input of a detail is shown it is called so.
+[[nodiscard]] const char* inputTitleOf(const Detail& detail);
+
+/// Whether the rows of a detail that was checked have been replaced by those of another: only its governing row is
+/// left.
+[[nodiscard]] bool rowsAreReplaced(const Detail& detail, const Project& project);
 
 }  // namespace borvik

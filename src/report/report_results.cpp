@@ -2,7 +2,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "fatigue/fatigue_details.h"
+#include "fatigue/details.h"
 #include "report/report_chapters.h"
 
 namespace borvik {
@@ -185,48 +185,28 @@ void deflectionRows(CheckList& list, const Project& project, const CheckResults&
             list.row(staticRow("Span: " + std::to_string(span), *result->check, result->spans(span), false));
 }
 
-const char* placeName(FatigueDetailTitle::Place place) {
-    switch (place) {
-        case FatigueDetailTitle::Place::Span:
-            return "Span: ";
-        case FatigueDetailTitle::Place::Support:
-            return "Support: ";
-        case FatigueDetailTitle::Place::Splice:
-            return "Splice: ";
-    }
-    return "";
-}
-
 void governingFatigueRows(CheckList& list, const Project& project, const FatigueResults& fatigue) {
-    for (const FatigueDetailTitle& detail : fatigueDetails(project)) {
-        const auto& governing = fatigue.FatResult(detail.number);
-        if (!(project.*detail.flag) || !governing) continue;
-        list.group(detail.name);
+    for (const Detail& detail : detailsOf(project)) {
+        const auto& governing = fatigue.FatResult(detail.result);
+        if (!(project.*detail.checked) || !governing) continue;
+        list.group(detail.title);
         list.row(checkRow("", *governing));
     }
 }
 
-/// The rows of a detail; those of detail 4 of an overhead crane live in the list of detail 6, which replaces them when
-/// it is checked too. Only the governing one is left then.
-const Array<RowSet>* rowsOf(const FatigueDetailTitle& detail, const Project& project, const FatigueResults& fatigue) {
-    const bool lodger = detail.flag == &Project::Fat4;
-    if (lodger && project.Fat6) return nullptr;
-    const auto& rows = fatigue.FatRows(lodger ? 6 : detail.number);
-    return rows ? &*rows : nullptr;
-}
-
 void allFatigueRows(CheckList& list, const Project& project, const FatigueResults& fatigue) {
-    for (const FatigueDetailTitle& detail : fatigueDetails(project)) {
-        const auto& governing = fatigue.FatResult(detail.number);
-        if (!(project.*detail.flag) || !governing) continue;
-        list.group(detail.name);
-        const Array<RowSet>* rows = rowsOf(detail, project, fatigue);
-        if (rows == nullptr) {
+    for (const Detail& detail : detailsOf(project)) {
+        const auto& governing = fatigue.FatResult(detail.result);
+        if (!(project.*detail.checked) || !governing) continue;
+        list.group(detail.title);
+        const auto& rows = fatigue.FatRows(detail.rows);
+        if (!rows || rowsAreReplaced(detail, project)) {
             list.row(checkRow("", *governing));
             continue;
         }
         for (int i = rows->first(); i <= rows->last(); ++i)
-            if (!(*rows)(i)(3).empty()) list.row(checkRow(placeName(detail.place) + std::to_string(i), (*rows)(i)));
+            if (!(*rows)(i)(3).empty())
+                list.row(checkRow(nameOf(kindOf(detail.places)) + (": " + std::to_string(i)), (*rows)(i)));
     }
 }
 
@@ -238,10 +218,9 @@ void resultsHeading(ReportPage& page) {
 }
 
 bool anyFatigue(const Report& report) {
-    return std::any_of(fatigueDetails(report.project).begin(), fatigueDetails(report.project).end(),
-                       [&](const FatigueDetailTitle& detail) {
-                           return report.project.*detail.flag && report.results.Fatigue.FatResult(detail.number);
-                       });
+    return std::any_of(detailsOf(report.project).begin(), detailsOf(report.project).end(), [&](const Detail& detail) {
+        return report.project.*detail.checked && report.results.Fatigue.FatResult(detail.result);
+    });
 }
 
 }  // namespace

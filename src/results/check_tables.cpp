@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <array>
+#include <span>
 
-#include "fatigue/fatigue_details.h"
+#include "fatigue/details.h"
 #include "results/table_cells.h"
 #include "results/tables.h"
 
@@ -36,39 +36,23 @@ const std::vector<TableColumn>& checkColumns() {
     return columns;
 }
 
-const char* groupHeading(FatigueDetailTitle::Place place) {
-    switch (place) {
-        case FatigueDetailTitle::Place::Span:
-            return "Span: ";
-        case FatigueDetailTitle::Place::Support:
-            return "Support:";
-        case FatigueDetailTitle::Place::Splice:
-            return "Splice:";
-    }
-    return "";
+/// "Span: ", "Support:", "Splice:", one blank and all, as they stand in the first column.
+std::string groupHeading(const Detail& detail) {
+    const PlaceKind kind = kindOf(detail.places);
+    return nameOf(kind) + std::string(kind == PlaceKind::Span ? ": " : ":");
 }
 
-/// The rows of one detail of an overhead crane live in its own entry but for detail 4, which shares that of detail 6.
-const Array<RowSet>* rowsOf(const FatigueDetailTitle& detail, const Project& project, const FatigueResults& fatigue) {
-    int entry = detail.number;
-    if (detail.flag == &Project::Fat4) {
-        if (project.Fat6) return nullptr;
-        entry = 6;
-    }
-    return fatigue.FatRows(entry) ? &*fatigue.FatRows(entry) : nullptr;
-}
-
-ResultTable fatigueTable(const Project& project, const Results& results, std::span<const FatigueDetailTitle> details) {
+ResultTable fatigueTable(const Project& project, const Results& results, std::span<const Detail> details) {
     ResultTable table;
     table.columns = checkColumns();
     table.note = "A ratio over 1.000 is not acceptable";
-    for (const FatigueDetailTitle& detail : details) {
-        const auto& governing = results.Fatigue.FatResult(detail.number);
-        if (!(project.*detail.flag) || !governing) continue;
+    for (const Detail& detail : details) {
+        const auto& governing = results.Fatigue.FatResult(detail.result);
+        if (!(project.*detail.checked) || !governing) continue;
         table.rows.push_back(
-            {textCell(groupHeading(detail.place), Emphasis::Heading), textCell(detail.name, Emphasis::Heading)});
-        const Array<RowSet>* rows = rowsOf(detail, project, results.Fatigue);
-        if (rows == nullptr) {  // only the governing row of detail 4 is left where detail 6 took its place
+            {textCell(groupHeading(detail), Emphasis::Heading), textCell(detail.title, Emphasis::Heading)});
+        const auto& rows = results.Fatigue.FatRows(detail.rows);
+        if (!rows || rowsAreReplaced(detail, project)) {
             table.rows.push_back(checkRow(textCell(""), *governing));
             continue;
         }
@@ -123,8 +107,8 @@ void addDeflections(ResultTable& table, const Project& project, const CheckResul
 
 void addFatigue(ResultTable& table, const Project& project, const FatigueResults& fatigue, const char* heading) {
     addHeading(table, heading);
-    for (const FatigueDetailTitle& detail : fatigueDetails(project))
-        if (const auto& governing = fatigue.FatResult(detail.number); project.*detail.flag && governing)
+    for (const Detail& detail : detailsOf(project))
+        if (const auto& governing = fatigue.FatResult(detail.result); project.*detail.checked && governing)
             addLine(table, summaryLine(*governing));
 }
 
@@ -158,11 +142,11 @@ ResultTable TableCodeStatic(const Project& project, const Results& results) {
 }
 
 ResultTable TableCodeFatigue(const Project& project, const Results& results) {
-    return fatigueTable(project, results, kOverheadDetailTitles);
+    return fatigueTable(project, results, kOverheadDetails);
 }
 
 ResultTable TableCodeFatigueR(const Project& project, const Results& results) {
-    return fatigueTable(project, results, kMonorailDetailTitles);
+    return fatigueTable(project, results, kMonorailDetails);
 }
 
 ResultTable ShowSummaryULS(const Project& project, const Results& results) {
