@@ -6,7 +6,7 @@ void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, 
     for (int i = 1; i <= project.NofSpans; ++i) {
         Single& q = loads.SpanLoad(i);
         q = 0;
-        if (project.CraneType == 1) {
+        if (project.CraneType == CraneKind::Overhead) {
             q = project.Gangway * factor;
             if (project.RailOn) q += (rail.RailWeight * factor / 1000) * 9.81;
         }

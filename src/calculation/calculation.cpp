@@ -108,7 +108,7 @@ void runFatigue(Run& run) {
     Project& project = run.project;
     const FatigueRun fatigue{
         project, railOf(project, run.tables), run.loads, run.method, run.messages, run.progress, run.results.Steps};
-    const bool overhead = project.NofCranes == 2 || project.CraneType == 1;
+    const bool overhead = project.NofCranes == 2 || project.CraneType == CraneKind::Overhead;
     run.results.Fatigue = overhead ? RunFatigueOverhead(fatigue) : RunFatigueMonorail(fatigue);
     if (const auto both = run.results.Fatigue.ClassOfBoth) project.FatigueSpare = *both;
 }

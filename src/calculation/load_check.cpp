@@ -141,7 +141,7 @@ void SettleLoads(Project& project, LoadForm form) {
 }
 
 std::string LoadRemark(const Project& project) {
-    const LoadForm form = project.CraneType == 1 ? LoadForm::Overhead : LoadForm::Monorail;
+    const LoadForm form = project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail;
     std::string refusal = LoadRefusal(project, form).message;
     if (!refusal.empty()) {
         refusal = refusal.substr(refusal.find_first_not_of(' '));

@@ -24,7 +24,8 @@ WornRail wearRail(const RailRecord& rail, double wearFraction) {
     return worn;
 }
 
-double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, int railFix, const SectionRecord& section) {
+double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, RailFixing railFix,
+                             const SectionRecord& section) {
     const double tf1 = section.tf1;
     const double beff = std::fmin(rail.RailBr + rail.RailHr + tf1 - worn.Wear, section.b1);
 
@@ -39,9 +40,9 @@ double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, int r
         return factor * std::pow(secondMoment / section.tw, 1.0 / 3.0);
     };
     switch (railFix) {
-        case 1:
+        case RailFixing::Rigid:
             return length(3.25, Irf);
-        case 2:
+        case RailFixing::NotRigid:
             return length(3.25, worn.Ired + Iff);
         default:
             return length(4.25, worn.Ired + Iff);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/single.h"
+#include "project/choices.h"
 #include "tables/reference_tables.h"
 
 namespace borvik {
@@ -27,9 +28,9 @@ struct WornRail {
 /// acts with the rail is as wide as beff = bfr + hr + tf (hr worn), at most the flange itself.
 /// @param rail     the rail as new: foot width and height
 /// @param worn     the same rail from wearRail
-/// @param railFix  1 rigidly fixed, 2 not rigidly fixed, any other value: on a resilient pad
+/// @param railFix  how the rail lies on the flange; any value without a name: on a resilient pad
 /// @param section  b1, tf1, tw
-[[nodiscard]] double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, int railFix,
+[[nodiscard]] double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, RailFixing railFix,
                                            const SectionRecord& section);
 
 }  // namespace borvik

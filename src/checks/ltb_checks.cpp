@@ -85,7 +85,7 @@ Single LtbReduction(const Project& project, int span, bool positive, const CFact
     const double root = std::sqrt(Lt / std::pow(kPi, 2) / s.Iz + s.Iw / s.Iz + std::pow(t, 2));
     const Single Mcr = (std::pow(kPi, 2) * factors.C1 * kE * s.Iz / std::pow(L, 2)) * (root - t);
     const Single Kc = 1 / std::sqrt(factors.C1);
-    if (project.LtbCurve == 2) return ReductionGeneral(project, s, positive, Mcr);
+    if (project.LtbCurve == LtbCase::General) return ReductionGeneral(project, s, positive, Mcr);
     return ReductionRolledWelded(project, s, positive, Mcr, Kc);
 }
 
@@ -111,7 +111,7 @@ double LtbRatio(const LtbResistance& resistance, Single My, Single Mz, Single Ch
 
 void DefaultCFactors(Project& project) {
     const bool oneSpan = project.NofSpans == 1;
-    const bool overhead = project.CraneType == 1;
+    const bool overhead = project.CraneType == CraneKind::Overhead;
     const CFactors factors = oneSpan ? (overhead ? CFactors{1.12, 0.45, 0.525} : CFactors{1.35, 0.59, 0.411})
                                      : (overhead ? CFactors{1.85, 1.01, 0.64} : CFactors{1.46, 0.93, 1.53});
     project.C1EndPos = factors.C1;

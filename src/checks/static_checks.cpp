@@ -17,11 +17,11 @@ namespace borvik {
 namespace {
 
 bool overhead(const Project& project) {
-    return project.CraneType == 1;
+    return project.CraneType == CraneKind::Overhead;
 }
 
 bool monorail(const Project& project) {
-    return project.CraneType != 1;
+    return project.CraneType != CraneKind::Overhead;
 }
 
 bool loadedSideways(const Project& project) {

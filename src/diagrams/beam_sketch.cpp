@@ -37,7 +37,7 @@ constexpr SketchKind kOverheadSketch{" Crane 1 ", " Crane 2 ", true, true};
 constexpr SketchKind kMonorailSketch{" Hoist ", " Hoist ", false, false};
 
 const SketchKind& kindOf(const Project& project) {
-    return project.CraneType == 2 ? kMonorailSketch : kOverheadSketch;
+    return project.CraneType == CraneKind::Monorail ? kMonorailSketch : kOverheadSketch;
 }
 
 std::vector<std::string> loadLines(const Project& project, int wheel, const SketchKind& kind) {

@@ -72,7 +72,7 @@ CraneGeometry craneGeometry(const Project& project) {
 }
 
 std::vector<SplicePlace> splicePlaces(const Project& project) {
-    const bool monorail = project.CraneType == 2;
+    const bool monorail = project.CraneType == CraneKind::Monorail;
     const auto& used = monorail ? project.ChkFatR5Sp : project.ChkFat5Sp;
     const auto& spans = monorail ? project.FatR5Span : project.Fat5Span;
     const auto& distances = monorail ? project.FatR5d1 : project.Fat5d1;

@@ -14,9 +14,6 @@ namespace borvik {
 
 namespace {
 
-constexpr const char* kFillet = "FW";
-constexpr const char* kFullPenetration = "FP";
-
 std::string indexed(const std::string& stem, int index) {
     return stem + "(" + std::to_string(index) + ")";
 }
@@ -77,7 +74,7 @@ void FatigueDialog::WriteSetup() {
 
 void FatigueDialog::showWelds() {
     for (std::size_t i = 0; i < welds_.size(); ++i) {
-        const bool fillet = form_->welds[i].kind == kFillet;
+        const bool fillet = form_->welds[i].kind == kFilletWeld;
         (fillet ? welds_[i].fillet : welds_[i].full)->setChecked(true);
         welds_[i].throat->setEnabled(fillet);
     }
@@ -200,8 +197,8 @@ Group FatigueDialog::weld(const FatigueWeld& record) {
             inputChanged();
         });
     };
-    auto* fillet = option(record.name + "FW", tr("Fillet Weld"), kFillet);
-    auto* full = option(record.name + "FP", tr("Full Penetration weld"), kFullPenetration);
+    auto* fillet = option(record.name + "FW", tr("Fillet Weld"), kFilletWeld);
+    auto* full = option(record.name + "FP", tr("Full Penetration weld"), kFullPenetrationWeld);
     full->setObjectName(QStringLiteral("Opt") + QString::fromStdString(record.name) + QStringLiteral("FP"));
     NumberBox* throat = binder_.add({.name = "txt" + record.name + "a",
                                      .field = record.throat,

@@ -24,8 +24,8 @@ LateralBucklingDialog::LateralBucklingDialog(Session& session, Messages& message
 }
 
 void LateralBucklingDialog::showInput() {
-    curves_[0]->setChecked(project_.LtbCurve == 2);
-    curves_[1]->setChecked(project_.LtbCurve == 3);
+    curves_[0]->setChecked(project_.LtbCurve == LtbCase::General);
+    curves_[1]->setChecked(project_.LtbCurve == LtbCase::RolledOrWelded);
     chkDefaultCfactor_->setChecked(project_.DefaultCfactor);
     useDefaultFactors(project_.DefaultCfactor);
 }
@@ -38,17 +38,19 @@ Group LateralBucklingDialog::method() {
     const Group group = makeGroup("frCurve", tr("Reduction factor"));
     const struct {
         const char* name;
-        std::int16_t curve;
+        LtbCase curve;
         QString text, tip;
-    } options[] = {{"optCurve2", 2, tr("&General case, EN 1993-1-1, 6.3.2.2"), tr("Buckling curves of Table 6.4")},
-                   {"optCurve3", 3, tr("&Rolled sections or equivalent welded sections, EN 1993-1-1, 6.3.2.3"),
-                    tr("Buckling curves of Table 6.5, with λLT,0 and β of the setup")}};
+    } options[] = {
+        {"optCurve2", LtbCase::General, tr("&General case, EN 1993-1-1, 6.3.2.2"), tr("Buckling curves of Table 6.4")},
+        {"optCurve3", LtbCase::RolledOrWelded,
+         tr("&Rolled sections or equivalent welded sections, EN 1993-1-1, 6.3.2.3"),
+         tr("Buckling curves of Table 6.5, with λLT,0 and β of the setup")}};
     for (const auto& each : options) {
         auto* option = makeChoice<QRadioButton>(each.name, each.text, each.tip, [this, curve = each.curve] {
             project_.LtbCurve = curve;
             inputChanged();
         });
-        curves_[each.curve == 2 ? 0 : 1] = option;
+        curves_[each.curve == LtbCase::General ? 0 : 1] = option;
         addWide(group.grid, option);
     }
     return group;

@@ -71,7 +71,7 @@ void LoadDialog::Write() {
     txtMinAvst_->setEnabled(two);
     chkMinDistConst_->setEnabled(two);
     chkMinDistConst_->setChecked(two && double(project_.MinDistConst) == 1.0);
-    (project_.TwoCraneMode == 1 ? optIndepend_ : optSimultan_)->setChecked(true);
+    (project_.TwoCraneMode == TwoCranes::Independent ? optIndepend_ : optSimultan_)->setChecked(true);
     writeDamageSum();
     lstCombination_->write(project_, CombinationText::CraneLoadsOnly);
     picture_->update();
@@ -128,8 +128,10 @@ Group LoadDialog::numberOfCranes() {
     const Group acting = makeGroup("frIndepend", tr("Two cranes acting "));
     frIndepend_ = acting.box;
     const QString tip = tr("Fatigue damage of two cranes, EN 1993-6, 9.4.2");
-    optIndepend_ = makeChoice<QRadioButton>("optIndepend", tr("Independently"), tip, [this] { setTwoCraneMode(1); });
-    optSimultan_ = makeChoice<QRadioButton>("optSimultan", tr("Simultaneously"), tip, [this] { setTwoCraneMode(2); });
+    optIndepend_ = makeChoice<QRadioButton>("optIndepend", tr("Independently"), tip,
+                                            [this] { setTwoCraneMode(TwoCranes::Independent); });
+    optSimultan_ = makeChoice<QRadioButton>("optSimultan", tr("Simultaneously"), tip,
+                                            [this] { setTwoCraneMode(TwoCranes::Together); });
     LblUF_ = new QLabel;
     LblUF_->setObjectName(QStringLiteral("LblUF"));
     acting.grid->addWidget(optIndepend_, 0, 0);
@@ -172,15 +174,16 @@ void LoadDialog::setNumberOfCranes(int number) {
     inputChanged();
 }
 
-void LoadDialog::setTwoCraneMode(int mode) {
-    project_.TwoCraneMode = static_cast<std::int16_t>(mode);
+void LoadDialog::setTwoCraneMode(TwoCranes mode) {
+    project_.TwoCraneMode = mode;
     writeDamageSum();
     inputChanged();
 }
 
 void LoadDialog::writeDamageSum() {
-    LblUF_->setText(project_.TwoCraneMode == 1 ? QStringLiteral("IR = D(Cr1)^3 + D(Cr2)^3 ")
-                                               : QStringLiteral("IR = D(Cr1)^3 + D(Cr2)^3 + D(Cr1+Cr2)^3"));
+    LblUF_->setText(project_.TwoCraneMode == TwoCranes::Independent
+                        ? QStringLiteral("IR = D(Cr1)^3 + D(Cr2)^3 ")
+                        : QStringLiteral("IR = D(Cr1)^3 + D(Cr2)^3 + D(Cr1+Cr2)^3"));
 }
 
 }  // namespace borvik

@@ -36,7 +36,7 @@ private:
     Group loads();
     void takeEdit();
     void setNumberOfCranes(int number);
-    void setTwoCraneMode(int mode);
+    void setTwoCraneMode(TwoCranes mode);
     void writeDamageSum();
 
     QRadioButton *optEn_, *optTwo_, *optIndepend_, *optSimultan_;

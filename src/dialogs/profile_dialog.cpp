@@ -284,10 +284,10 @@ Group ProfileDialog::endPost() {
     const Group group = makeGroup("frEndPost", tr("End post"));
     const struct {
         const char* name;
-        std::int16_t mode;
+        EndPost mode;
         QString text, tip;
-    } options[] = {{"optStyv", 2, tr("Rigid"), tr("Rigid end post, EN 1993-1-5, 9.3.1")},
-                   {"optVek", 1, tr("Non-rigid"), tr("Non-rigid end post, EN 1993-1-5, 9.3.2")}};
+    } options[] = {{"optStyv", EndPost::Rigid, tr("Rigid"), tr("Rigid end post, EN 1993-1-5, 9.3.1")},
+                   {"optVek", EndPost::NonRigid, tr("Non-rigid"), tr("Non-rigid end post, EN 1993-1-5, 9.3.2")}};
     for (const auto& each : options) {
         auto* option = makeChoice<QRadioButton>(each.name, each.text, each.tip, [this, mode = each.mode] {
             project_.StiffenerMode = mode;
@@ -308,12 +308,12 @@ Group ProfileDialog::loadLevel() {
         auto* option = makeChoice<QRadioButton>(
             "OptLoadL" + std::to_string(level), texts[level - 1],
             tr("Height zg of the load above the shear centre in lateral torsional buckling"), [this, level] {
-                project_.LoadLevel = level;
+                project_.LoadLevel = LoadPoint{level};
                 UpdateResult();
                 inputChanged();
             });
-        option->setChecked(project_.LoadLevel == level);
-        loadLevels_.emplace_back(option, level);
+        option->setChecked(project_.LoadLevel == LoadPoint{level});
+        loadLevels_.emplace_back(option, LoadPoint{level});
         group.grid->addWidget(option, (level - 1) / 2, (level - 1) % 2);
     }
     return group;

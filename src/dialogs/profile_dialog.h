@@ -72,7 +72,8 @@ private:
     SectionCombo* cboEuprofile_;
     QListWidget* lstDatabase_;
     QTreeWidget* results_;
-    std::vector<std::pair<QRadioButton*, std::int16_t>> endPosts_, loadLevels_;  ///< each with its value in the record
+    std::vector<std::pair<QRadioButton*, EndPost>> endPosts_;  ///< each with its value in the record
+    std::vector<std::pair<QRadioButton*, LoadPoint>> loadLevels_;
     QLabel *lblName_, *lblWarning_;
     Picture* picture_;
     std::unique_ptr<InputDialog> reinforcement_;

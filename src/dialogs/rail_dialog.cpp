@@ -28,7 +28,7 @@ RailDialog::RailDialog(Session& session, Messages& messages, std::function<void(
 void RailDialog::showInput() {
     cboRail_->setCurrentIndex(FindRail(session_.tables, project_.RailName));
     chkRail_->setChecked(project_.RailOn);
-    for (std::int16_t fix = 1; fix <= 3; ++fix) fixes_[fix - 1]->setChecked(project_.RailFix == fix);
+    for (std::int16_t fix = 1; fix <= 3; ++fix) fixes_[fix - 1]->setChecked(project_.RailFix == RailFixing{fix});
     writeList();
 }
 
@@ -57,7 +57,7 @@ Group RailDialog::fastening() {
                              tr("&On a resilient bearing pad, at least 6 mm thick")};
     for (std::int16_t fix = 1; fix <= 3; ++fix) {
         auto* option = makeChoice<QRadioButton>("optRail" + std::to_string(fix), texts[fix - 1], clause, [this, fix] {
-            project_.RailFix = fix;
+            project_.RailFix = RailFixing{fix};
             picture_->update();
             inputChanged();
         });

@@ -40,8 +40,8 @@ std::vector<PropertyRow> SectionRows(const SectionRecord& s, const Project& proj
     rows.push_back({"  Section Class Pos/Neg Mom   ", slashed(s.ClassPos, s.ClassNeg), ""});
     add("  MyRd = (pos mom)", s.MyRdPos / project.GammaM0, plain, "kNm");
     add("  MyRd = (neg  Mom)", s.MyRdNeg / project.GammaM0, plain, "kNm");
-    add(project.CraneType == 1 ? "  MzRd = (Top flange)" : "  MzRd = (Bottom flange)", s.MzRd / project.GammaM0, plain,
-        "kNm");
+    add(project.CraneType == CraneKind::Overhead ? "  MzRd = (Top flange)" : "  MzRd = (Bottom flange)",
+        s.MzRd / project.GammaM0, plain, "kNm");
     add("  Vz,Rd =  ", s.VzRd, plain, "kN");
     return rows;
 }

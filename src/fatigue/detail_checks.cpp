@@ -179,7 +179,7 @@ LocalStress DetailCheck::localStress(const Place& place) const {
 
 /// Shear of the web in the two throats of a fillet weld; in the web itself with full penetration.
 double DetailCheck::inThroats(const Weld& weld, const Place& place, double tau) const {
-    if (project_.*weld.kind != "FW") return tau;
+    if (project_.*weld.kind != kFilletWeld) return tau;
     return project_.SpanSection(place.span).tw / (2.0 * project_.*weld.throat) * tau;
 }
 
@@ -187,7 +187,8 @@ double DetailCheck::inThroats(const Weld& weld, const Place& place, double tau) 
 double DetailCheck::hangerReaction(const Weld& weld, const Place& place) const {
     const SectionRecord& section = project_.SpanSection(place.span);
     const double bearing = 2.0 * section.tf1 + project_.RWS1d;
-    const double area = project_.*weld.kind == "FW" ? 2.0 * bearing * project_.*weld.throat : bearing * section.tw;
+    const double area =
+        project_.*weld.kind == kFilletWeld ? 2.0 * bearing * project_.*weld.throat : bearing * section.tw;
     const double LamSig = in_.factors.Cr1.LamSig;
     return std::abs(LamSig * in_.Cr1.RzMax(place.row) / area - LamSig * in_.Cr1.RzMin(place.row) / area);
 }
@@ -268,7 +269,7 @@ void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const Loc
     const double F1 = largestWheel(project_, 1);
     const double F2 = largestWheel(project_, 2);
     const double F = F1 > F2 ? Cr1.PhiFat * F1 : Cr2.PhiFat * F2;
-    const bool fillet = project_.W1 == "FW";
+    const bool fillet = project_.W1 == kFilletWeld;
 
     struct Crane {
         double LamSigN, LamTauN;
@@ -295,7 +296,7 @@ void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place) const 
     const double GammaFf = project_.GammaFf;
     const double tw = project_.SpanSection(place.span).tw;
     const double C = category(term.category) / project_.GammaMf;
-    const double load = project_.W2 == "FW" ? tw * GammaFf / (2.0 * project_.W1a) : GammaFf;
+    const double load = project_.W2 == kFilletWeld ? tw * GammaFf / (2.0 * project_.W1a) : GammaFf;
     for (const StressSet* set : {&in_.Cr1, &in_.Cr2, &in_.Cr12}) {
         const double r = stressAt(set->TauRange, place);
         damage.add(stored(load * r * tw / (2.0 * project_.W2a) / C, term.exponent));

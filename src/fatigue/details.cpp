@@ -201,7 +201,7 @@ const char* nameOf(PlaceKind kind) {
 }
 
 const std::array<Detail, 6>& detailsOf(const Project& project) {
-    return project.CraneType == 2 ? kMonorailDetails : kOverheadDetails;
+    return project.CraneType == CraneKind::Monorail ? kMonorailDetails : kOverheadDetails;
 }
 
 const char* inputTitleOf(const Detail& detail) {

@@ -84,7 +84,7 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
         loadCrane2(run, factors.Cr2.PhiFat);
         results.Cr2 = walk(run, StressHistoryCr2, factors.Cr2);
     }
-    if (crane2Alone && project.TwoCraneMode == 2) {
+    if (crane2Alone && project.TwoCraneMode == TwoCranes::Together) {
         results.ClassOfBoth = classOfBoth(project);
         factors.Cr12 = factorsOf(*results.ClassOfBoth, factors.Cr1.NofWheels + factors.Cr2.NofWheels, 0.0);
         loadBoth(run, factors);
@@ -93,8 +93,8 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
 
     // A sum over both cranes replaces every result of crane 1 alone. A train is one crane to the independent sum; the
     // sum of three takes it too, with nothing from crane 2 and from both.
-    if (crane2Alone && project.TwoCraneMode == 1) results.Summed = Cranes::Independent;
-    if (twoCranes && project.TwoCraneMode == 2) results.Summed = Cranes::Together;
+    if (crane2Alone && project.TwoCraneMode == TwoCranes::Independent) results.Summed = Cranes::Independent;
+    if (twoCranes && project.TwoCraneMode == TwoCranes::Together) results.Summed = Cranes::Together;
     const StressSet none(project.NofSpans);
     checkDetails(kOverheadDetails,
                  {project, run.rail, factors, *results.Cr1, results.Cr2 ? *results.Cr2 : none,

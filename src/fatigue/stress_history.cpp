@@ -38,8 +38,8 @@ void stressesOfSpan(StressSet& set, const Project& project, const FlsResults& fl
 double stiffenedWebArea(const Project& project, const SectionRecord& section, bool rolledWhole) {
     const double bearing = 2.0 * section.tf2 + project.Fat6d1;
     const double stiffener = section.b2 - kStiffenerCope - section.tw;
-    const double plates = project.StiffenerMode;
-    if (project.W3 != "FW") return bearing * section.tw + DecimalValue(project.WS1t) * stiffener * plates;
+    const double plates = static_cast<int>(project.StiffenerMode);  // one at a non-rigid end post, two at a rigid one
+    if (project.W3 != kFilletWeld) return bearing * section.tw + DecimalValue(project.WS1t) * stiffener * plates;
 
     const bool noWebWeld = rolledWhole && section.Fab == "R";
     const double atWeb = noWebWeld ? bearing * section.tw : 2.0 * bearing * project.W3a;
@@ -47,7 +47,7 @@ double stiffenedWebArea(const Project& project, const SectionRecord& section, bo
 }
 
 double hangerArea(const Project& project) {
-    if (project.RW1 != "FW") return DecimalValue(project.RWS1t) * project.RWS1d;
+    if (project.RW1 != kFilletWeld) return DecimalValue(project.RWS1t) * project.RWS1d;
     return 2.0 * project.RWS1d * project.RW1a;
 }
 

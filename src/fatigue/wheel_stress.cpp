@@ -18,7 +18,7 @@ double largestWheel(const Project& project, int crane) {
 WheelSpread wheelSpread(const Project& project, const RailRecord& rail, const SectionRecord& section) {
     const WornRail worn = wearRail(rail, kWearFatigue);
     return {effectiveLoadedLength(rail, worn, project.RailFix, section),
-            project.W1 == "FW" ? 2.0 * project.W1a : double(section.tw)};
+            project.W1 == kFilletWeld ? 2.0 * project.W1a : double(section.tw)};
 }
 
 WheelStress wheelStress(const Project& project, const RailRecord& rail, const FatigueFactors& factors,

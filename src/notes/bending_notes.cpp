@@ -56,7 +56,7 @@ std::optional<NoteFinding> formulaOfPositiveClass(const Session& session) {
 
 /// Design shear resistance of one flange across, elastic, kN: two thirds of its area.
 double flangeShearResistance(const Project& project, const SectionRecord& section) {
-    const double area = project.CraneType == 1 ? section.b1 * section.tf1 : section.b2 * section.tf2;
+    const double area = project.CraneType == CraneKind::Overhead ? section.b1 * section.tf1 : section.b2 * section.tf2;
     return 2.0 / 3 * area * project.fyk / std::numbers::sqrt3 / project.GammaM0 / 1000;
 }
 
@@ -84,7 +84,7 @@ std::string horizontalShear(const Session& session) {
 std::optional<NoteFinding> shearLeftOut(const Session& session) {
     const Project& project = session.project;
     std::string remark = horizontalShear(session);
-    if (project.CraneType != 1) return matters(!remark.empty(), remark);
+    if (project.CraneType != CraneKind::Overhead) return matters(!remark.empty(), remark);
 
     constexpr double kLocalShare = 0.2;  // of the local vertical stress
     const RailRecord& rail = session.rail();

@@ -98,9 +98,9 @@ double ratioUnder(const Session& session, const Project& other, int span) {
 /// those.
 std::optional<NoteFinding> curveOfSection(const Session& session) {
     const Project& project = session.project;
-    if (project.LtbCurve == 2) return std::nullopt;
+    if (project.LtbCurve == LtbCase::General) return std::nullopt;
     Project general = project;
-    general.LtbCurve = 2;
+    general.LtbCurve = LtbCase::General;
     Project rolled = project;
     rolled.LamdaLT0w = project.LamdaLT0;
     rolled.Betaw = project.Beta;

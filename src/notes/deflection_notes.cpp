@@ -23,7 +23,7 @@ std::optional<NoteFinding> loadedFlangeAlone(const Session& session) {
 std::optional<NoteFinding> absoluteLimit(const Session& session) {
     constexpr double kCap = 25;  // mm
     const Project& project = session.project;
-    if (project.CraneType != 1) return std::nullopt;
+    if (project.CraneType != CraneKind::Overhead) return std::nullopt;
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span)
         changes.push_back({inSpan("vertical deflection", span), session.results->Checks["DefZ"].spans(span).Ratio,

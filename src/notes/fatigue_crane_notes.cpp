@@ -37,7 +37,8 @@ Detail usual(Detail detail) {
 /// A detail of two cranes that act together, with each of the three summands formed as that of a single crane.
 std::optional<NoteFinding> byOneScheme(const Session& session, int number) {
     const Detail* detail = checkedDetail(session, number);
-    if (detail == nullptr || !twoFreeCranes(session) || session.project.TwoCraneMode != 2) return std::nullopt;
+    if (detail == nullptr || !twoFreeCranes(session) || session.project.TwoCraneMode != TwoCranes::Together)
+        return std::nullopt;
     return growthOf(session, *detail, sumOfThree(FatigueRecheck(session), usual(*detail)));
 }
 
@@ -54,7 +55,8 @@ double horizontalPart(const Project& project, int crane) {
 
 std::optional<NoteFinding> trainCheckedAsThree(const Session& session) {
     const Detail* detail = checkedDetail(session, 3);
-    if (detail == nullptr || !trainOfCranes(session) || session.project.TwoCraneMode != 2) return std::nullopt;
+    if (detail == nullptr || !trainOfCranes(session) || session.project.TwoCraneMode != TwoCranes::Together)
+        return std::nullopt;
     FatigueRecheck train(session);
     train.cranes = Cranes::Alone;
     train.project.V(1) = std::max(largestWheel(session.project, 1), largestWheel(session.project, 2));
@@ -85,7 +87,7 @@ std::optional<NoteFinding> gapsOfCrane2(const Session& session) {
     const Project& project = session.project;
     const auto& gaps = project.Avst;
     const bool alike = gaps(1) == gaps(4) && gaps(2) == gaps(5) && gaps(3) == gaps(6);
-    if (!twoFreeCranes(session) || project.TwoCraneMode != 2 || alike) return std::nullopt;
+    if (!twoFreeCranes(session) || project.TwoCraneMode != TwoCranes::Together || alike) return std::nullopt;
     FatigueRecheck other(session);
     other.Cr12 = walkedTogether(session, StressHistoryCr12, other.factors.Cr12);
     return growthOfAll(session, other);
@@ -95,7 +97,7 @@ std::optional<NoteFinding> gapsOfCrane2(const Session& session) {
 /// web stands on the support as it does for crane 1, without fillets.
 std::optional<NoteFinding> cranesThatMeet(const Session& session) {
     const Project& project = session.project;
-    if (!twoFreeCranes(session) || project.TwoCraneMode != 1) return std::nullopt;
+    if (!twoFreeCranes(session) || project.TwoCraneMode != TwoCranes::Independent) return std::nullopt;
     constexpr History kWhereTheyMeet{"Stress history of both cranes", SupportArea::StiffenedWebRolledWhole};
     FatigueRecheck other(session);
     CraneFactors& both = other.factors.Cr12;
@@ -130,7 +132,8 @@ std::optional<NoteFinding> mixedThroats(const Session& session) {
 
 std::optional<NoteFinding> heavierWheel(const Session& session) {
     const Detail* detail = checkedDetail(session, 3);
-    if (detail == nullptr || !twoFreeCranes(session) || session.project.TwoCraneMode != 2) return std::nullopt;
+    if (detail == nullptr || !twoFreeCranes(session) || session.project.TwoCraneMode != TwoCranes::Together)
+        return std::nullopt;
     FatigueRecheck other(session);
     const double F1 = other.factors.Cr1.PhiFat * largestWheel(other.project, 1);
     const double F2 = other.factors.Cr2.PhiFat * largestWheel(other.project, 2);
@@ -141,7 +144,7 @@ std::optional<NoteFinding> heavierWheel(const Session& session) {
 
 std::optional<NoteFinding> throatsOfRolledWeb(const Session& session) {
     const Detail* detail = checkedDetail(session, 6);
-    if (detail == nullptr || !twoFreeCranes(session) || session.project.W3 != "FW") return std::nullopt;
+    if (detail == nullptr || !twoFreeCranes(session) || session.project.W3 != kFilletWeld) return std::nullopt;
     FatigueRecheck other(session);
     for (int support = 1; support <= session.project.NofSpans + 1; ++support) {
         const double by = supportArea(SupportArea::StiffenedWeb, session.project, support) /

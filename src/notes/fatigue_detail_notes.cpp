@@ -13,8 +13,6 @@ namespace borvik {
 
 namespace {
 
-constexpr int kRigidlyFixed = 1;
-
 /// Multiplies a table of stress ranges by a number for each span.
 template <class OfSpan>
 void scaleSpans(Table<Single>& ranges, OfSpan factor) {
@@ -30,7 +28,7 @@ double webBendingPart(const Project& project, const RailRecord& rail, int span) 
     const SectionRecord& section = project.SpanSection(span);
     const double a = project.Span(span);
     const double e = rail.RailKr / 4.0;
-    const double bar = project.RailFix == kRigidlyFixed ? (1.0 - kWearFatigue) * rail.RailHr : 0.0;
+    const double bar = project.RailFix == RailFixing::Rigid ? (1.0 - kWearFatigue) * rail.RailHr : 0.0;
     const double It = (section.b1 * std::pow(section.tf1, 3) + rail.RailBr * std::pow(bar, 3)) / 3.0;
     const double x = pi * section.Hw / a;
     const double shape = std::pow(std::sinh(x), 2) / (std::sinh(2.0 * x) - 2.0 * x);
@@ -90,8 +88,8 @@ std::optional<NoteFinding> eccentricWheel(const Session& session) {
     const Detail* detail = checkedDetail(session, 3);
     const bool classAboveS3 = project.CraneClass1 > 3 || (project.NofCranes == 2 && project.CraneClass2 > 3);
     if (detail == nullptr || !overheadFatigue(session) || !classAboveS3) return std::nullopt;
-    if (project.W1 == "FW") return matters(true, "two fillets, which bend otherwise than the web");
-    if (project.RailFix == kRigidlyFixed && session.rail().Id == "A")
+    if (project.W1 == kFilletWeld) return matters(true, "two fillets, which bend otherwise than the web");
+    if (project.RailFix == RailFixing::Rigid && session.rail().Id == "A")
         return matters(true, "a crane rail rigidly fixed, whose own torsional stiffness helps");
     std::vector<DamagePoint> worst;
     for (int span = 1; span <= project.NofSpans; ++span) {

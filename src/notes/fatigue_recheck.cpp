@@ -72,7 +72,7 @@ std::vector<DamagePoint> FatigueRecheck::sums(const Detail& detail) const {
 }
 
 bool overheadFatigue(const Session& session) {
-    return session.project.NofCranes == 2 || session.project.CraneType == 1;
+    return session.project.NofCranes == 2 || session.project.CraneType == CraneKind::Overhead;
 }
 
 bool trainOfCranes(const Session& session) {

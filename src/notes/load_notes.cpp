@@ -109,7 +109,8 @@ std::optional<NoteFinding> relievingDeadLoad(const Session& session) {
 /// The gangway's load on every other span, and on two neighbours of three.
 std::optional<NoteFinding> gangwayOnWorstSpans(const Session& session) {
     const Project& project = session.project;
-    if (project.CraneType != 1 || project.NofSpans == 1 || !(project.Gangway > 0)) return std::nullopt;
+    if (project.CraneType != CraneKind::Overhead || project.NofSpans == 1 || !(project.Gangway > 0))
+        return std::nullopt;
     Project without = project;
     without.Gangway = 0;
     const std::vector<CheckedRatio> shown = allRatios(session);
@@ -131,7 +132,7 @@ std::optional<NoteFinding> gangwayOnWorstSpans(const Session& session) {
 /// H at the rail's top in place of the flange's middle: the lever to the other flange is longer.
 std::optional<NoteFinding> leverOfHorizontalLoad(const Session& session) {
     const Project& project = session.project;
-    if (project.CraneType != 1 || !project.HasLoadsY) return std::nullopt;
+    if (project.CraneType != CraneKind::Overhead || !project.HasLoadsY) return std::nullopt;
     const UlsResults& uls = session.results->Uls;
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {

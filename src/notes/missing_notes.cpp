@@ -32,7 +32,7 @@ std::optional<NoteFinding> beyond(const Session& session, const char* what, doub
 std::optional<NoteFinding> stressUnderWheel(const Session& session) {
     constexpr double kWorthANote = 0.8;
     const Project& project = session.project;
-    if (project.CraneType != 1) return std::nullopt;
+    if (project.CraneType != CraneKind::Overhead) return std::nullopt;
     const RailRecord& rail = session.rail();
     const WornRail worn = wearRail(rail, kWearStatic);
     double FzEd = 0;

@@ -37,10 +37,10 @@ namespace borvik {
     return matters(true);
 }
 [[nodiscard]] inline std::optional<NoteFinding> ofOverheadCranes(const Session& session) {
-    return matters(session.project.CraneType == 1);
+    return matters(session.project.CraneType == CraneKind::Overhead);
 }
 [[nodiscard]] inline std::optional<NoteFinding> ofMonorails(const Session& session) {
-    return matters(session.project.CraneType != 1);
+    return matters(session.project.CraneType != CraneKind::Overhead);
 }
 
 /// Smaller growth of a ratio doesn't show in three decimals.

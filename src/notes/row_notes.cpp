@@ -55,7 +55,7 @@ std::optional<NoteFinding> justAboveOne(const Session& session) {
 
 std::optional<NoteFinding> sharedRows(const Session& session) {
     const Project& project = session.project;
-    return matters(project.CraneType == 1 && project.Fat4 && project.Fat6);
+    return matters(project.CraneType == CraneKind::Overhead && project.Fat4 && project.Fat6);
 }
 
 constexpr NoteRule kRules[]{

@@ -135,7 +135,7 @@ std::optional<NoteFinding> taperedFlanges(const Session& session) {
     const Project& project = session.project;
     const bool tapered = std::any_of(project.SpanSection.begin(), project.SpanSection.begin() + project.NofSpans,
                                      [](const SectionRecord& section) { return section.Id == "IPN"; });
-    return matters(project.CraneType != 1 && tapered);
+    return matters(project.CraneType != CraneKind::Overhead && tapered);
 }
 
 constexpr NoteRule kRules[]{

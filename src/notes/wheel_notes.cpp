@@ -10,7 +10,7 @@ namespace borvik {
 namespace {
 
 bool overhead(const Session& session) {
-    return session.project.CraneType == 1;
+    return session.project.CraneType == CraneKind::Overhead;
 }
 
 /// The largest ratio of the spans, and where.

@@ -9,8 +9,6 @@ namespace borvik {
 
 namespace {
 
-enum Fastening { Rigid = 1, NotRigid = 2, Resilient = 3 };
-
 /// Half of a crane rail's outline, from the top of the head down, as shares of height, foot and head width.
 QPolygonF railOutline(double h, double foot, double head, bool flat) {
     if (flat) return QPolygonF(QRectF(-foot / 2, -h, foot, h));
@@ -55,7 +53,7 @@ PicturePainter railPicture(const Project& project, const ReferenceTables& tables
         const double scale = std::min((area.width() - 10 * line) / std::max(b * 1.7, 1.0),
                                       (area.height() - 8 * line) / std::max(h, 1.0));
         const double H = h * scale, B = b * scale, K = (k > 0 ? k : b) * scale;
-        const bool pad = project.RailFix == Resilient;
+        const bool pad = project.RailFix == RailFixing::ResilientPad;
         const double padHeight = pad ? 0.45 * line : 0.0;
         painter.save();
         // the middle of what is drawn comes to the middle of the area
@@ -73,7 +71,7 @@ PicturePainter railPicture(const Project& project, const ReferenceTables& tables
         painter.setBrush(ink.other);
         painter.drawPolygon(railOutline(H, B, K, flat).translated(0, -padHeight));
         for (const double side : {-1.0, 1.0}) {
-            if (project.RailFix == Rigid) {
+            if (project.RailFix == RailFixing::Rigid) {
                 painter.setPen(penOf(ink.weld));
                 painter.setBrush(ink.weld);
                 drawFillet(painter, {side * B / 2, 0}, side * 0.55 * line, -0.55 * line);

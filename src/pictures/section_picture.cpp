@@ -82,18 +82,18 @@ void drawPlates(QPainter& painter, const Frame& frame, const SectionRecord& s, c
     }
 }
 
-void drawLoadPoint(QPainter& painter, const Frame& frame, const SectionRecord& s, int level, const Ink& ink) {
+void drawLoadPoint(QPainter& painter, const Frame& frame, const SectionRecord& s, LoadPoint level, const Ink& ink) {
     const double line = painter.fontMetrics().lineSpacing();
     const double heights[] = {double(s.h), double(s.h), s.EzEl + s.Zs, double(s.tf2)};
-    QPointF tip = frame.at(0, heights[std::clamp(level, 1, 4) - 1]);
-    if (level == 1) {  // the load stands on a rail
+    QPointF tip = frame.at(0, heights[std::clamp(static_cast<int>(level), 1, 4) - 1]);
+    if (level == LoadPoint::TopOfRail) {  // the load stands on a rail
         const QRectF rail(tip.x() - 0.5 * line, tip.y() - line, line, line);
         painter.setPen(penOf(ink.line));
         painter.setBrush(ink.other);
         painter.drawRect(rail);
         tip.ry() -= line;
     }
-    if (level == 4) tip.rx() -= std::min(s.b1, s.b2) * 0.35 * frame.scale;
+    if (level == LoadPoint::BottomFlange) tip.rx() -= std::min(s.b1, s.b2) * 0.35 * frame.scale;
     painter.setPen(penOf(ink.load, 2));
     drawArrow(painter, tip - QPointF(0, 2.2 * line), tip);
 }
@@ -128,7 +128,7 @@ PicturePainter sectionPicture(const SectionRecord& section, const Project& proje
         const QPointF top = frame.at(0, h), foot = frame.at(0, 0);
         drawDimension(painter, top + QPointF(right, 0), foot + QPointF(right, 0), dimensionText("H = ", h, "0"));
         const double half1 = section.b1 / 2 * scale;
-        const double above = top.y() - (project.LoadLevel <= 2 ? 3.6 : 1.0) * line;
+        const double above = top.y() - (project.LoadLevel <= LoadPoint::TopFlange ? 3.6 : 1.0) * line;
         drawDimension(painter, {top.x() - half1, above}, {top.x() + half1, above},
                       dimensionText("B = ", section.b1, "0"));
         const double left = foot.x() - widest / 2 * scale - section.ReinfT * scale - 0.5 * line;

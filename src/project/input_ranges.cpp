@@ -81,7 +81,7 @@ void addCrane(InputList& list, const Project& p, int crane, bool counts) {
 }
 
 void addLoads(InputList& list, const Project& p) {
-    const bool overhead = p.CraneType == 1, two = overhead && p.NofCranes == 2;
+    const bool overhead = p.CraneType == CraneKind::Overhead, two = overhead && p.NofCranes == 2;
     list.form("Loads");
     list.add(p.Gangway, "qk of the gangway", atLeast(0), overhead);
     list.add(p.Position, "position of the first wheel", atLeast(0), p.Fixerad);
@@ -138,7 +138,7 @@ void addFatigue(InputList& list, std::initializer_list<Entry<std::int16_t>> cate
 }
 
 void addOverheadFatigue(InputList& list, const Project& p) {
-    const bool here = p.CraneType == 1;
+    const bool here = p.CraneType == CraneKind::Overhead;
     addFatigue(list,
                {{"Cx of detail 1", p.Fat1C1, here && p.Fat1},
                 {"Cx of detail 2", p.Fat2C1, here && p.Fat2},
@@ -147,16 +147,16 @@ void addOverheadFatigue(InputList& list, const Project& p) {
                 {"Ct of detail 4", p.Fat4C1, here && p.Fat4},
                 {"Cx of detail 5", p.Fat5C1, here && p.Fat5},
                 {"Cz of detail 6", p.Fat6C1, here && p.Fat6}},
-               {{"W1", p.W1a, here && p.W1 == "FW"},
-                {"W2", p.W2a, here && p.W2 == "FW"},
-                {"W3", p.W3a, here && p.W3 == "FW"}});
+               {{"W1", p.W1a, here && p.W1 == kFilletWeld},
+                {"W2", p.W2a, here && p.W2 == kFilletWeld},
+                {"W3", p.W3a, here && p.W3 == kFilletWeld}});
     addSplices(list, p, p.Fat5Span, p.Fat5d1, p.ChkFat5Sp, here && p.Fat5);
     list.add(p.Fat6d1, "e of the support", between(25, 1000), here && p.Fat6);
     list.add(p.WS1t, "t of the support", between(2, 100), here && p.Fat6);
 }
 
 void addMonorailFatigue(InputList& list, const Project& p) {
-    const bool here = p.CraneType != 1;
+    const bool here = p.CraneType != CraneKind::Overhead;
     const bool support = here && (p.FatR1 || p.FatR2 || p.FatR3);
     addFatigue(list,
                {{"Cx of detail 1", p.FatR1C1, here && p.FatR1},
@@ -167,10 +167,10 @@ void addMonorailFatigue(InputList& list, const Project& p) {
                 {"Cx of detail 5", p.FatR5C1, here && p.FatR5},
                 {"Cy of detail 6", p.FatR6C1, here && p.FatR6},
                 {"Ct of detail 6", p.FatR6C2, here && p.FatR6}},
-               {{"W1", p.RW1a, here && p.RW1 == "FW"},
-                {"W2", p.RW2a, here && p.RW2 == "FW"},
-                {"W3", p.RW3a, here && p.RW3 == "FW"},
-                {"W4", p.RW4a, here && p.RW4 == "FW"}});
+               {{"W1", p.RW1a, here && p.RW1 == kFilletWeld},
+                {"W2", p.RW2a, here && p.RW2 == kFilletWeld},
+                {"W3", p.RW3a, here && p.RW3 == kFilletWeld},
+                {"W4", p.RW4a, here && p.RW4 == kFilletWeld}});
     addSplices(list, p, p.FatR5Span, p.FatR5d1, p.ChkFatR5Sp, here && p.FatR5);
     list.add(p.RWS1d, "e of the support", between(25, 1000), support);
     list.add(p.RWS1t, "t of the support", between(2, 100), support);

@@ -53,7 +53,7 @@ void setBeamAndLoads(Project& project) {
     project.Span(2) = 5000;
     project.Span(3) = 6000;
     project.NofCranes = 1;
-    project.TwoCraneMode = 1;
+    project.TwoCraneMode = TwoCranes::Independent;
     project.CraneClass1 = 3;
     project.CraneClass2 = 1;
     project.CraneClassR = 3;
@@ -64,11 +64,11 @@ void setBeamAndLoads(Project& project) {
     project.Avst(1) = 1900;
     project.SelfWeight = true;
     project.HasLoadsY = true;
-    project.CraneType = 1;
-    project.StiffenerMode = 1;
-    project.LoadLevel = 1;
-    project.RailFix = 2;
-    project.LtbCurve = 3;
+    project.CraneType = CraneKind::Overhead;
+    project.StiffenerMode = EndPost::NonRigid;
+    project.LoadLevel = LoadPoint::TopOfRail;
+    project.RailFix = RailFixing::NotRigid;
+    project.LtbCurve = LtbCase::RolledOrWelded;
     project.DefaultCfactor = true;
     project.Inn = 15;
 }
@@ -96,9 +96,9 @@ void setOverheadDetails(Project& project) {
     project.Fat6 = true;
     project.Fat6C1 = 80;
     project.Fat6d1 = 100;
-    project.W1 = "FP";
+    project.W1 = kFullPenetrationWeld;
     project.W1a = 5;
-    project.W2 = project.W3 = "FW";
+    project.W2 = project.W3 = kFilletWeld;
     project.W2a = project.W3a = 4;
     project.WS1t = "15";
 }
@@ -119,7 +119,7 @@ void setMonorailDetails(Project& project) {
     project.FatR6 = true;
     project.FatR6C1 = 160;
     project.FatR6C2 = 100;
-    project.RW1 = project.RW2 = project.RW3 = project.RW4 = "FP";
+    project.RW1 = project.RW2 = project.RW3 = project.RW4 = kFullPenetrationWeld;
     project.RW1a = project.RW2a = project.RW3a = project.RW4a = 5;
     project.RWS1t = "15";
     project.RWS1d = 150;

@@ -5,6 +5,7 @@
 
 #include "base/array.h"
 #include "base/single.h"
+#include "project/choices.h"
 #include "tables/reference_tables.h"
 
 namespace borvik {
@@ -30,9 +31,9 @@ struct Project {
     std::int16_t NofCranes = 0;  ///< 1 or 2
 
     // Loads
-    Single Position;                ///< of wheel 1: at the start of the walk, or fixed
-    bool Fixerad = false;           ///< the crane stands fixed at Position
-    std::int16_t TwoCraneMode = 0;  ///< 1 independent, 2 simultaneous
+    Single Position;       ///< of wheel 1: at the start of the walk, or fixed
+    bool Fixerad = false;  ///< the crane stands fixed at Position
+    TwoCranes TwoCraneMode{};
     FixedArray<std::uint8_t, 1, 4> Spare2;
     std::int16_t FatigueSpare = 0;  ///< crane class of both cranes together, settled by the calculation
     std::int16_t CraneClass1 = 0;   ///< 0..9 for S0..S9
@@ -48,16 +49,16 @@ struct Project {
     Array<SectionRecord> SpanSection{1, 0};   ///< from 1: the section of each span, a full copy
     bool SelfWeight = false;
     std::int16_t Spare3 = 0;
-    bool HasLoadsY = false;          ///< some horizontal wheel load is present
-    std::int16_t CraneType = 0;      ///< 1 overhead crane, 2 monorail
-    std::int16_t StiffenerMode = 0;  ///< 1, 2: web mode of the section form
-    std::int16_t LoadLevel = 0;      ///< point of load: 1 top of rail, 2 top flange, 3 shear centre, 4 bottom flange
+    bool HasLoadsY = false;  ///< some horizontal wheel load is present
+    CraneKind CraneType{};
+    EndPost StiffenerMode{};
+    LoadPoint LoadLevel{};
     std::string RailName;
-    std::int16_t RailFix = 0;  ///< 1 rigidly fixed, 2 not rigidly fixed, 3 on a resilient pad
+    RailFixing RailFix{};
     bool RailOn = false;
 
     // Lateral torsional buckling
-    std::int16_t LtbCurve = 0;  ///< 2 general case, 3 rolled or equivalent welded sections
+    LtbCase LtbCurve{};
     bool DefaultCfactor = false;
     Single C1EndPos, C2EndPos, C3EndPos, C1MidPos, C2MidPos, C3MidPos;
     Single C1EndNeg, C2EndNeg, C3EndNeg, C1MidNeg, C2MidNeg, C3MidNeg;
@@ -85,7 +86,7 @@ struct Project {
     bool Fat6 = false;  ///< support point
     std::int16_t Fat6C1 = 0, Fat6Spare1 = 0;
     Single Fat6d1, Fat6Spare2;
-    std::string W1;  ///< weld kind: "FW" fillet, "FP" full penetration
+    std::string W1;  ///< weld kind, kFilletWeld or kFullPenetrationWeld
     Single W1a;      ///< throat
     std::string W2;
     Single W2a;

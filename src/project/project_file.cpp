@@ -53,6 +53,9 @@ private:
     void put(std::uint8_t byte) { putWord(byte); }
     void put(std::int16_t number) { putWord(static_cast<std::uint16_t>(number)); }
     void put(std::int32_t number) { putWord(static_cast<std::uint32_t>(number)); }
+    template <class Choice>
+    requires std::is_enum_v<Choice>
+    void put(Choice choice) { put(static_cast<std::underlying_type_t<Choice>>(choice)); }
     void put(bool flag) { put(static_cast<std::int16_t>(flag ? -1 : 0)); }
     void put(const Single& number) { putWord(std::bit_cast<std::uint32_t>(number.stored())); }
     void put(const std::string& text) {
@@ -120,6 +123,11 @@ private:
     void get(std::uint8_t& byte) { byte = word<std::uint8_t>(); }
     void get(std::int16_t& number) { number = static_cast<std::int16_t>(word<std::uint16_t>()); }
     void get(std::int32_t& number) { number = static_cast<std::int32_t>(word<std::uint32_t>()); }
+    template <class Choice>
+    requires std::is_enum_v<Choice>
+    void get(Choice& choice) {
+        choice = static_cast<Choice>(word<std::make_unsigned_t<std::underlying_type_t<Choice>>>());
+    }
     void get(bool& flag) { flag = word<std::uint16_t>() != 0; }
     void get(Single& number) { number = Single::fromStored(std::bit_cast<float>(word<std::uint32_t>())); }
     void get(std::string& text) { text = fromWindows1252(take(word<std::uint16_t>())); }

@@ -53,7 +53,7 @@ void printInput(Report& report, ReportScope scope) {
     page.ruleAcross();
     PrintLtb(report);
     if (withFatigue) {
-        if (report.project.CraneType == 1)
+        if (report.project.CraneType == CraneKind::Overhead)
             PrintFatigueOverhead(report);
         else
             PrintFatigueMonorail(report);

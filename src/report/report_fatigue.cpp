@@ -21,7 +21,7 @@ std::string categoriesOf(const Detail& detail, const Project& project) {
 }
 
 void printSplices(ReportPage& page, const Project& project) {
-    const bool monorail = project.CraneType == 2;
+    const bool monorail = project.CraneType == CraneKind::Monorail;
     const auto& used = monorail ? project.ChkFatR5Sp : project.ChkFat5Sp;
     const auto& spans = monorail ? project.FatR5Span : project.Fat5Span;
     const auto& places = monorail ? project.FatR5d1 : project.Fat5d1;
@@ -45,12 +45,12 @@ void printDetail(ReportPage& page, const Project& project, const Detail& detail)
     }
     if (detail.weldShown.kind != nullptr)
         page.put(page.Col3.stop1,
-                 project.*detail.weldShown.kind == "FW"
+                 project.*detail.weldShown.kind == kFilletWeld
                      ? "Fillet Weld - a" + formatNumber(project.*detail.weldShown.throat, "0.0") + " mm"
                      : std::string("Full Pen Weld "));
     // Detail 6 of a monorail: the kind of weld W3 decides, whatever that of W4 is.
-    if (detail.weldShown.throat == &Project::RW4a && (project.RW3 == "FW") != (project.RW4 == "FW"))
-        page.put(page.Col4.stop1, project.RW3 == "FW"
+    if (detail.weldShown.throat == &Project::RW4a && (project.RW3 == kFilletWeld) != (project.RW4 == kFilletWeld))
+        page.put(page.Col4.stop1, project.RW3 == kFilletWeld
                                       ? "taken as fillet weld - a" + formatNumber(project.RW4a, "0.0") + " mm"
                                       : std::string("taken as full pen weld"));
     if (detail.plate.length != nullptr)

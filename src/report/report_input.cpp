@@ -145,24 +145,24 @@ void sectionTexts(ReportPage& page, const Project& project, const SectionRecord&
     }
 }
 
-const char* railFixing(int railFix) {
+const char* railFixing(RailFixing railFix) {
     switch (railFix) {
-        case 1:
+        case RailFixing::Rigid:
             return "Fixed";
-        case 2:
+        case RailFixing::NotRigid:
             return "Not Fixed";
         default:
             return "Elastometric bearing";
     }
 }
 
-const char* loadLevel(int level) {
+const char* loadLevel(LoadPoint level) {
     switch (level) {
-        case 1:
+        case LoadPoint::TopOfRail:
             return "Top of rail";
-        case 2:
+        case LoadPoint::TopFlange:
             return "Top of flange";
-        case 3:
+        case LoadPoint::ShearCentre:
             return "In shear center";
         default:
             return "On bottom flange";
@@ -199,14 +199,15 @@ void PrintGeneral(Report& report, bool withDeflections) {
 void PrintCraneAndLoad(Report& report) {
     ReportPage& page = report.page;
     const Project& project = report.project;
-    const bool monorail = project.CraneType == 2;
+    const bool monorail = project.CraneType == CraneKind::Monorail;
     const bool two = project.NofCranes == 2;
     heading(page, "Crane & Loadcombinations:");
     page.put(page.Col1.stop1, std::string("Cranetype: ") + (monorail ? "Monorail" : "Overhead Crane"));
     if (two) {
         page.put(page.Col2.stop1, "Craneclass Crane 1: " + className(project.CraneClass1));
         page.put(page.Col3.stop1, "Craneclass Crane 2: " + className(project.CraneClass2));
-        page.put(page.Col4.stop1, project.TwoCraneMode == 2 ? "Acting Simultaneously" : "Acting Independently");
+        page.put(page.Col4.stop1,
+                 project.TwoCraneMode == TwoCranes::Together ? "Acting Simultaneously" : "Acting Independently");
     } else {
         page.put(page.Col2.stop1, "Craneclass: " + className(monorail ? project.CraneClassR : project.CraneClass1));
     }
@@ -251,12 +252,12 @@ void PrintSection(Report& report) {
         page.advance(top + kSketchLines - page.PrintY);
     }
     page.need(2.0);
-    page.put(page.Col1.stop1, std::string("Deadload (qk) of profile ") +
-                                  (project.SelfWeight ? "included, " : "not Included, ") +
-                                  (project.StiffenerMode == 1 ? "non rigid end-post (one stiffener/support)"
-                                                              : "rigid end-post (two stiffeners/support)"));
+    page.put(page.Col1.stop1,
+             std::string("Deadload (qk) of profile ") + (project.SelfWeight ? "included, " : "not Included, ") +
+                 (project.StiffenerMode == EndPost::NonRigid ? "non rigid end-post (one stiffener/support)"
+                                                             : "rigid end-post (two stiffeners/support)"));
     page.nextLine();
-    if (project.CraneType == 1) {
+    if (project.CraneType == CraneKind::Overhead) {
         page.put(page.Col1.stop1, "Rail: " + project.RailName);
         page.put(page.Col2.stop1, std::string("Rail deadload: ") + (project.RailOn ? "Included" : "Not included "));
         page.put(page.Col3.stop1, std::string("Rail mounted: ") + railFixing(project.RailFix));
@@ -290,11 +291,11 @@ void PrintLtb(Report& report) {
         page.nextLine();
     }
     page.put(page.Col1.stop1,
-             p.LtbCurve == 2
+             p.LtbCurve == LtbCase::General
                  ? "Lateral torsional buckling curves: General Case (conservative, ch 6.3.2.2/EN 1993-1-1)"
                  : "Lateral torsional buckling curves: Rolled or welded I-sections (ch 6.3.2.3/EN 1993-1-1)");
     page.nextLine();
-    if (p.LtbCurve != 2) {  // rolled sections take the numbers of welded ones too
+    if (p.LtbCurve != LtbCase::General) {  // rolled sections take the numbers of welded ones too
         page.put(page.Col1.stop1, "lamdaLT,0 = " + formatNumber(p.LamdaLT0w, "0.000"));
         page.put(page.Col2.stop1, "beta = " + formatNumber(p.Betaw, "0.000"));
         page.nextLine();

@@ -44,7 +44,7 @@ std::string projectLine(const Project& project) {
     if (!line.empty()) line += ": ";
     return withoutControls(line) + plural(project.NofSpans, "span") + ", " +
            generalText(Single(project.BeamLength / 1000.0)) + " m, " +
-           (project.CraneType == 2 ? "monorail hoist" : plural(project.NofCranes, "crane")) + "\n";
+           (project.CraneType == CraneKind::Monorail ? "monorail hoist" : plural(project.NofCranes, "crane")) + "\n";
 }
 
 std::string lineOf(const std::vector<TableCell>& row, const std::vector<std::size_t>& widths) {

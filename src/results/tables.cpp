@@ -80,7 +80,8 @@ ResultTable stressTable(const Project& project, const std::optional<StressSet>& 
 
 /// The fatigue rows of the crane type at hand.
 ResultTable codeFatigueByCraneType(const Project& project, const Results& results) {
-    return project.CraneType == 2 ? TableCodeFatigueR(project, results) : TableCodeFatigue(project, results);
+    return project.CraneType == CraneKind::Monorail ? TableCodeFatigueR(project, results)
+                                                    : TableCodeFatigue(project, results);
 }
 
 constexpr std::array<TableEntry, 13> kEntries{{

@@ -29,7 +29,7 @@ void setFlangeProperties(SectionRecord& s) {
 }
 
 void setLoadedFlange(const SectionSetting& setting, SectionRecord& s) {
-    s.IzLoadedFlange = setting.CraneType == 1 ? s.IzTop : s.IzBottom;
+    s.IzLoadedFlange = setting.CraneType == CraneKind::Overhead ? s.IzTop : s.IzBottom;
 }
 
 /// zj of one sign of the moment, beta being the compressed flange's part of the second moment about z.
@@ -54,13 +54,13 @@ void setShearCentre(const SectionSetting& setting, SectionRecord& s) {
     s.Iw = square(hs) * s.IzTop * s.IzBottom / (s.IzTop + s.IzBottom);
     s.Zs = hs * beta1 + s.tf2 / 2.0 - s.EzEl;
     switch (setting.LoadLevel) {
-        case 1:
+        case LoadPoint::TopOfRail:
             s.Zg = s.h - s.EzEl + setting.RailHr - s.Zs;
             break;
-        case 2:
+        case LoadPoint::TopFlange:
             s.Zg = s.h - s.EzEl - s.Zs;
             break;
-        case 3:
+        case LoadPoint::ShearCentre:
             s.Zg = 0.0;
             break;
         default:
@@ -86,13 +86,13 @@ void RolledProperties(const SectionSetting& setting, SectionRecord& s) {
     setWidths(s);
     s.EzPl = s.h / 2.0;
     switch (setting.LoadLevel) {
-        case 1:
+        case LoadPoint::TopOfRail:
             s.Zg = s.h / 2.0 + setting.RailHr;
             break;
-        case 2:
+        case LoadPoint::TopFlange:
             s.Zg = s.h / 2.0;
             break;
-        case 3:
+        case LoadPoint::ShearCentre:
             s.Zg = 0.0;
             break;
         default:

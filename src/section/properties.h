@@ -1,18 +1,19 @@
 #pragma once
 
+#include "project/choices.h"
 #include "tables/reference_tables.h"
 
 namespace borvik {
 
 /// What the properties and resistances of a section depend on besides the section itself.
 struct SectionSetting {
-    int CraneType = 1;      ///< 1 overhead crane (loads the top flange), otherwise monorail (loads the bottom flange)
-    int LoadLevel = 1;      ///< 1 top of rail, 2 top of flange, 3 shear centre, otherwise bottom flange
-    int StiffenerMode = 1;  ///< 1 non-rigid end post, otherwise rigid
-    Single RailHr;          ///< height of the rail, mm
-    Single Epsilon;         ///< sqrt(235 / fyk)
-    Single fyk;             ///< N/mm2
-    Single Eta;             ///< shear area factor, EN 1993-1-5, 5.1
+    CraneKind CraneType = CraneKind::Overhead;  ///< an overhead crane loads the top flange, any other the bottom flange
+    LoadPoint LoadLevel = LoadPoint::TopOfRail;  ///< any value without a name: bottom flange
+    EndPost StiffenerMode = EndPost::NonRigid;   ///< any other is rigid
+    Single RailHr;                               ///< height of the rail, mm
+    Single Epsilon;                              ///< sqrt(235 / fyk)
+    Single fyk;                                  ///< N/mm2
+    Single Eta;                                  ///< shear area factor, EN 1993-1-5, 5.1
     Single GammaM0, GammaM1;
 };
 

@@ -110,7 +110,7 @@ void setMomentResistances(const SectionSetting& setting, SectionRecord& s) {
 
     // The loaded flange alone takes the horizontal load. From class 3 its elastic modulus counts, a rectangle's plastic
     // one over 1.5. The class for positive moment decides for the bottom flange too: note B9.
-    const double W = setting.CraneType == 1 ? s.WplZTop : s.WplZBottom;
+    const double W = setting.CraneType == CraneKind::Overhead ? s.WplZTop : s.WplZBottom;
     const double plastic = W * setting.fyk / 1000000.0;
     s.MzRd = s.ClassPos > 2 ? plastic / 1.5 : plastic;
 }
@@ -147,9 +147,9 @@ void Classify(double e, SectionRecord& s) {
     s.ClassNeg = std::max(s.ClassWebNeg, s.ClassBottomFlange);
 }
 
-double shearBucklingFactor(double lambdaW, double Eta, int StiffenerMode) {
+double shearBucklingFactor(double lambdaW, double Eta, EndPost endPost) {
     if (lambdaW < 0.83 / Eta) return Eta;
-    const bool rigidEndPost = StiffenerMode != 1;
+    const bool rigidEndPost = endPost != EndPost::NonRigid;
     if (rigidEndPost && lambdaW >= 1.08) return 1.37 / (0.7 + lambdaW);
     return 0.83 / lambdaW;
 }

@@ -20,7 +20,6 @@ void EffectiveSection(double Epsilon, SectionRecord& section);
 
 /// Shear buckling factor chi_w of the web, EN 1993-1-5 Table 5.1.
 /// @param lambdaW        slenderness of the web, > 0
-/// @param StiffenerMode  1 non-rigid end post, otherwise rigid
-[[nodiscard]] double shearBucklingFactor(double lambdaW, double Eta, int StiffenerMode);
+[[nodiscard]] double shearBucklingFactor(double lambdaW, double Eta, EndPost endPost);
 
 }  // namespace borvik

@@ -92,7 +92,7 @@ QString lastWalk(const CalculationRecord& calculation) {
     const FatigueResults& fatigue = calculation.results.Fatigue;
     if (fatigue.Cr12) return QObject::tr("both cranes together");
     if (fatigue.Cr2) return QObject::tr("crane 2 alone, its wheels in the columns of crane 1");
-    if (calculation.project.CraneType == 2) return QObject::tr("the hoist");
+    if (calculation.project.CraneType == CraneKind::Monorail) return QObject::tr("the hoist");
     return calculation.project.NofCranes == 2 ? QObject::tr("both cranes as one train") : QObject::tr("the crane");
 }
 

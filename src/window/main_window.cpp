@@ -144,7 +144,7 @@ QWidget* MainWindow::inputColumn() {
     tree_ = new ResultTreeView("TreeView1");
     connect(tree_, &ResultTreeView::nodeChosen, this, &MainWindow::showNode);
     connect(tree_, &ResultTreeView::helpWanted, this, [this](const TreeNode& node) {
-        showHelpPage(helpPageOf(node, session_.project.CraneType != 1), services_.messages);
+        showHelpPage(helpPageOf(node, session_.project.CraneType != CraneKind::Overhead), services_.messages);
     });
 
     auto* buttons = new QGridLayout;

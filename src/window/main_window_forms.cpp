@@ -6,7 +6,7 @@
 namespace borvik {
 
 void MainWindow::openForm(std::string_view node, const char* FormRefusal::*refusal) {
-    const bool monorail = session_.project.CraneType != 1;
+    const bool monorail = session_.project.CraneType != CraneKind::Overhead;
     const FormKind* form = findForm(node, monorail);
     if (form == nullptr) return;
     if (monorail && form->cranes == FormKind::Overhead) {

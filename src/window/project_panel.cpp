@@ -131,8 +131,8 @@ void ProjectPanel::showProject() {
     const int row = FindMaterial(session_.tables, project.SteelGrade);
     if (row >= 0) cbofyk_->setCurrentIndex(row);
 
-    optOverH_->setChecked(project.CraneType == 1);
-    optRunW_->setChecked(project.CraneType != 1);
+    optOverH_->setChecked(project.CraneType == CraneKind::Overhead);
+    optRunW_->setChecked(project.CraneType != CraneKind::Overhead);
 
     chkStartStop_->setEnabled(!project.Fixerad);
     chkStartStop_->setChecked(project.StartStopOutside != 0);

@@ -399,7 +399,7 @@ TEST(DeadLoad, isTheSumOfGangwayRailAndBeam) {
     };
     for (const auto& c : cases) {
         Girder girder({4000, 6000});
-        girder.project.CraneType = static_cast<std::int16_t>(c.craneType);
+        girder.project.CraneType = CraneKind(c.craneType);
         girder.project.RailOn = c.rail;
         girder.project.SelfWeight = c.self;
         girder.project.Gangway = 2.5;

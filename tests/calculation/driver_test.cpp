@@ -307,8 +307,8 @@ TEST(Calculate, walksInOrderAndTellsItsProgress) {
             SCOPED_TRACE(c.what);
             TestSession session;
             session.project.NofCranes = static_cast<std::int16_t>(c.cranes);
-            session.project.TwoCraneMode = static_cast<std::int16_t>(c.mode);
-            session.project.CraneType = static_cast<std::int16_t>(c.craneType);
+            session.project.TwoCraneMode = TwoCranes(c.mode);
+            session.project.CraneType = CraneKind(c.craneType);
             session.project.MinDistConst = c.constantDistance ? 1 : 0;
             if (c.cranes == 2) session.project.V(5) = 25;
             session.project.Span = FixedArray<std::int32_t, 1, 30>::of(4000, 5000, 4100);

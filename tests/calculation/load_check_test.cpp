@@ -12,7 +12,7 @@ namespace {
 /// A beam of 15 m under a crane of two wheels, with a second crane of two wheels that counts only when asked for.
 Project soundProject() {
     Project p;
-    p.CraneType = 1;
+    p.CraneType = CraneKind::Overhead;
     p.Span(1) = 4000;
     p.Span(2) = 5000;
     p.Span(3) = 6000;

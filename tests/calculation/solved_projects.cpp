@@ -65,9 +65,9 @@ SectionRecord randomSection(const Session& session, Chooser& choose) {
 }
 
 void setCranes(Project& p, Chooser& choose) {
-    p.CraneType = choose.chance(0.75) ? 1 : 2;
-    p.NofCranes = p.CraneType == 1 && choose.chance(0.5) ? 2 : 1;
-    p.TwoCraneMode = choose.of<std::int16_t>({1, 2});
+    p.CraneType = choose.chance(0.75) ? CraneKind::Overhead : CraneKind::Monorail;
+    p.NofCranes = p.CraneType == CraneKind::Overhead && choose.chance(0.5) ? 2 : 1;
+    p.TwoCraneMode = TwoCranes{choose.of<std::int16_t>({1, 2})};
     p.MinDistConst = p.NofCranes == 2 && choose.chance(0.3) ? 1.0 : 0.0;
     p.MinAvst = p.NofCranes == 2 ? choose.whole(2, 10) * 100 : 0;
     p.Fixerad = choose.chance(0.05);
@@ -120,10 +120,10 @@ Project randomProject(const Session& session, std::mt19937& random) {
     p.SelfWeight = choose.chance(0.8);
     p.RailOn = choose.chance(0.5);
     p.RailName = session.tables.RailTable(choose.whole(1, session.tables.RailTable.last())).Name;
-    p.RailFix = choose.of<std::int16_t>({1, 2, 3});
-    p.LoadLevel = choose.of<std::int16_t>({1, 2, 3, 4});
-    p.LtbCurve = choose.of<std::int16_t>({2, 3});
-    p.StiffenerMode = choose.of<std::int16_t>({1, 2});
+    p.RailFix = RailFixing{choose.of<std::int16_t>({1, 2, 3})};
+    p.LoadLevel = LoadPoint{choose.of<std::int16_t>({1, 2, 3, 4})};
+    p.LtbCurve = LtbCase{choose.of<std::int16_t>({2, 3})};
+    p.StiffenerMode = EndPost{choose.of<std::int16_t>({1, 2})};
     p.fyk = choose.of({235.0, 275.0, 355.0, 420.0});
     for (bool* detail : {&p.Fat1, &p.Fat2, &p.Fat3, &p.Fat4, &p.Fat5, &p.Fat6, &p.FatR1, &p.FatR2, &p.FatR3, &p.FatR4,
                          &p.FatR5, &p.FatR6})

@@ -64,7 +64,8 @@ TEST(LoadedLength, followsRailFixAndFlangeWidth) {
         SectionRecord section = samples::section();
         section.b1 = c.b1;
         const RailRecord rail = samples::flatRail();
-        EXPECT_NEAR(effectiveLoadedLength(rail, wearRail(rail, kWearStatic), c.railFix, section), c.expected, 1e-6)
+        EXPECT_NEAR(effectiveLoadedLength(rail, wearRail(rail, kWearStatic), RailFixing(c.railFix), section),
+                    c.expected, 1e-6)
             << c.source;
     }
 }
@@ -112,7 +113,7 @@ struct Monorail {
         SectionRecord section = samples::section();
         section.b2 = 200;
         project = samples::project(1, section);
-        project.CraneType = 2;
+        project.CraneType = CraneKind::Monorail;
         project.V = FixedArray<Single, 1, 8>::of(50, 60, 0, 0, 500, 0, 0, 0);
         project.PsiV1 = 1.1;
         project.LfULS = 1.35;

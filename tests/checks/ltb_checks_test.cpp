@@ -93,7 +93,7 @@ TEST(DefaultCFactors, byNumberOfSpansAndCrane) {
                                                  &p.C3EndNeg, &p.C1MidNeg, &p.C2MidNeg, &p.C3MidNeg};
         for (Single* factor : factors) *factor = 7;
         p.NofSpans = static_cast<std::int16_t>(c.spans);
-        p.CraneType = static_cast<std::int16_t>(c.crane);
+        p.CraneType = CraneKind(c.crane);
         DefaultCFactors(p);
         for (std::size_t i = 0; i < factors.size(); ++i)
             EXPECT_EQ(factors[i]->stored(), static_cast<float>(c.expected[i])) << c.spans << " spans, factor " << i;

@@ -47,11 +47,11 @@ inline Project project(int spans, const SectionRecord& section) {
     p.BeamLength = 5000.0 * spans;
     p.fyk = 250;
     p.GammaM0 = p.GammaM1 = p.PsiV1 = p.LfULS = 1;
-    p.CraneType = 1;
+    p.CraneType = CraneKind::Overhead;
     p.V(1) = 100;
-    p.RailFix = 2;
+    p.RailFix = RailFixing::NotRigid;
     p.DefZ = p.DefY = 500;
-    p.LtbCurve = 2;
+    p.LtbCurve = LtbCase::General;
     p.C1EndPos = p.C1MidPos = p.C1EndNeg = p.C1MidNeg = 1;
     return p;
 }

@@ -19,7 +19,7 @@ TEST(CodeChecks, theCraneChoosesTheLocalChecks) {
     EXPECT_EQ(overhead.find("VonMises"), nullptr);
     EXPECT_EQ(overhead["DefZ"].spans.size(), 2);
 
-    girder.project.CraneType = 2;
+    girder.project.CraneType = CraneKind::Monorail;
     const CheckResults monorail = girder.check();
     EXPECT_EQ(monorail["Local"].spans(2)(1), "IR = Fz,Ed/Ff,Rd = ");
     EXPECT_EQ(monorail["VonMises"].spans(2)(1), "IR = SigvM/fyk = ");

@@ -86,10 +86,10 @@ TEST(ExampleSet, showsEveryKindOfProject) {
         const CalculatedExample example(file);
         const Project& p = example.session.project;
         const Results& results = *example.session.results;
-        if (p.NofCranes == 1 && p.CraneType == 1 && p.NofSpans == 1) kinds.insert("single span");
-        if (p.NofCranes == 2 && p.TwoCraneMode == 1) kinds.insert("independent cranes");
+        if (p.NofCranes == 1 && p.CraneType == CraneKind::Overhead && p.NofSpans == 1) kinds.insert("single span");
+        if (p.NofCranes == 2 && p.TwoCraneMode == TwoCranes::Independent) kinds.insert("independent cranes");
         if (p.NofCranes == 2 && p.MinDistConst == 1.0) kinds.insert("constant distance");
-        if (p.CraneType == 2) kinds.insert("monorail");
+        if (p.CraneType == CraneKind::Monorail) kinds.insert("monorail");
         if (p.SpanSection(1).Id == "Iu" && p.SpanSection(1).Reinforced) kinds.insert("reinforced plate girder");
         if (largestFatigueRatio(results.Fatigue) == verdictOf(results).largest) kinds.insert("governed by fatigue");
     }

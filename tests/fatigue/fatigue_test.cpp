@@ -22,9 +22,9 @@ protected:
         Project& p = girder.project;
         p.NofSpans = 1;
         p.Span(2) = 0;
-        p.CraneType = 1;
+        p.CraneType = CraneKind::Overhead;
         p.NofCranes = 1;
-        p.TwoCraneMode = 1;
+        p.TwoCraneMode = TwoCranes::Independent;
         p.BeamLength = 10000;
         p.MinAvst = 4000;
         p.CranesLength = 4000;
@@ -89,7 +89,7 @@ TEST_F(Fatigue, independentCranesAddTheirDamage) {
 
 TEST_F(Fatigue, cranesTogetherRollOnTheGapsOfCrane2) {
     girder.project.NofCranes = 2;
-    girder.project.TwoCraneMode = 2;
+    girder.project.TwoCraneMode = TwoCranes::Together;
     girder.project.Avst = decltype(girder.project.Avst)::of(0, 0, 0, 2000, 0, 0);
     girder.project.CranesLength = 6000;
     const FatigueResults results = run();
@@ -108,7 +108,7 @@ TEST_F(Fatigue, cranesTogetherRollOnTheGapsOfCrane2) {
 // 88 kN over 85 mm and 10 mm are 103.53 MPa; LamSigN of both is 0.198 x 2^(1/3): D = 1.1 x 25.83/(36/1.15).
 TEST_F(Fatigue, bothTogetherCountTheWheelsOfBoth) {
     girder.project.NofCranes = 2;
-    girder.project.TwoCraneMode = 2;
+    girder.project.TwoCraneMode = TwoCranes::Together;
     girder.project.Fat3 = true;
     EXPECT_THAT((*run().FatResult(3))(2), StartsWith("0.908^3 + "));
 }
@@ -116,7 +116,7 @@ TEST_F(Fatigue, bothTogetherCountTheWheelsOfBoth) {
 // No bearing length and no stiffener: 2 x 20 x 10 mm2 of web for crane 1, 2 x 2 x 20 x 3 mm2 of fillet for the others.
 TEST_F(Fatigue, onlyCrane1TakesTheWholeWebOfARolledSection) {
     girder.project.NofCranes = 2;
-    girder.project.TwoCraneMode = 2;
+    girder.project.TwoCraneMode = TwoCranes::Together;
     girder.project.W3 = "FW";
     girder.project.SpanSection(1).Fab = "R";
     const FatigueResults results = run();
@@ -136,7 +136,7 @@ TEST_F(Fatigue, aTrainIsOneCrane) {
     EXPECT_FALSE(results.Cr12);
     EXPECT_EQ((*results.FatResult(5))(1), "5: IR = [dSigE2/dSigc]^3 = ");
 
-    girder.project.TwoCraneMode = 2;
+    girder.project.TwoCraneMode = TwoCranes::Together;
     results = run();
     EXPECT_FALSE(results.Cr12);
     EXPECT_EQ((*results.FatResult(5))(2), "1.081^3 + 0.000^3 + 0.000^3 = ");  // 1.1 x 98.26
@@ -171,7 +171,7 @@ TEST_F(Fatigue, anUnloadedSecondCraneAddsNothing) {
 }
 
 TEST_F(Fatigue, aMonorailHasItsOwnClassAndDetails) {
-    girder.project.CraneType = 2;
+    girder.project.CraneType = CraneKind::Monorail;
     girder.project.RWS1t = "8";
     girder.project.RWS1d = 50;
     girder.project.FatR2 = true;

@@ -42,7 +42,7 @@ struct Girder {
 
         // A plate without height: leff = 4.25 (If/tw)^(1/3), and in span 1 beff = 100 + 20 mm, If = 20^3 120/12 =
         // 80000 mm4, leff = 4.25 x 20 = 85 mm.
-        p.RailFix = 3;
+        p.RailFix = RailFixing::ResilientPad;
         rail.Id = "P";
         rail.RailBr = 100;
         rail.RailAx = 1000;

@@ -81,7 +81,7 @@ TEST_P(SupportStress, spreadsTheReactionOverWebAndStiffener) {
     girder.project.W3a = 4;
     girder.project.Fat6d1 = 60;
     girder.project.WS1t = "5,0";
-    girder.project.StiffenerMode = 2;
+    girder.project.StiffenerMode = EndPost::Rigid;
     girder.project.SpanSection(1).Fab = girder.project.SpanSection(2).Fab = c.Fab;
     const StressSet set = stressHistory(c.history, girder.project, walked(), girder.factors.Cr1);
     EXPECT_NEAR(set.SigSupRange(1), c.range1, kSmall);

@@ -48,7 +48,7 @@ const NoteCase kCases[]{
     {"C3", [](Session& session) { oneWheel(session, 1, 6000); },
      [](Session& session) {
          oneWheel(session, 1, 6000);
-         session.project.CraneType = 2;
+         session.project.CraneType = CraneKind::Monorail;
      },
      "shear, span 1", 0.1310, 0.3082},
     // Vz,Rd = 1.2 x 480 x 10 x 205.0 = 1180.6 kN; half of the wheel is 0.75 of it, rho = 0.25. My = 1770.9 x 1.5/4 =
@@ -93,7 +93,7 @@ TEST(BendingNotes, RemarksOfTheProject) {
     EXPECT_EQ(remarkOf("C3",
                        [](Session& session) {
                            oneWheel(session, 1, 6000);
-                           session.project.CraneType = 2;
+                           session.project.CraneType = CraneKind::Monorail;
                            session.project.H(1) = 80;
                        }),
               "the horizontal shear takes 0.139 of the flange in span 1");

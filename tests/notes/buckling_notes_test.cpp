@@ -16,7 +16,7 @@ namespace {
 void twoSpans(Session& session) {
     oneWheel(session, 2, 12000);
     standsAt(session, 6000);
-    session.project.LoadLevel = 3;
+    session.project.LoadLevel = LoadPoint::ShearCentre;
 }
 
 /// Wheel 1 carries V 100, wheel 2, 2 m behind, H 50 kN, at the shear centre.
@@ -24,14 +24,14 @@ void separateWheels(Session& session) {
     oneWheel(session, 1, 6000);
     session.project.H(2) = 50;
     session.project.Avst(1) = 2000;
-    session.project.LoadLevel = 3;
+    session.project.LoadLevel = LoadPoint::ShearCentre;
 }
 
 /// 100 kN in the middle of 12 m of a welded section of flanges 300 x 20 and a web 480 x 10.
 void longPlateGirder(Session& session) {
     oneWheel(session, 1, 12000);
     standsAt(session, 6000);
-    session.project.LoadLevel = 3;
+    session.project.LoadLevel = LoadPoint::ShearCentre;
     weldedSection(session, "Iu", 520, 300, 300, 10, 20);
 }
 
@@ -44,8 +44,8 @@ void oppositeEndMoments(Session& session) {
     project.V(1) = 60;
     project.V(2) = 220;
     project.Avst(1) = 36000;
-    project.LoadLevel = 3;
-    project.LtbCurve = 2;
+    project.LoadLevel = LoadPoint::ShearCentre;
+    project.LtbCurve = LtbCase::General;
     project.DefaultCfactor = false;
     project.C1EndPos = project.C1MidPos = project.C1EndNeg = 10;
 }
@@ -87,7 +87,7 @@ const NoteCase kCases[]{
     {"F3", longPlateGirder,
      [](Session& session) {
          longPlateGirder(session);
-         session.project.LtbCurve = 2;
+         session.project.LtbCurve = LtbCase::General;
      },
      "lateral torsional buckling, span 1, general case", 0.5760, 0.7136},
     {"F4", {}, [](Session& session) { session.project.H = {}; }},
@@ -99,7 +99,7 @@ const NoteCase kCases[]{
          session.project.H = {};
      },
      "lateral torsional buckling, span 1, x = 3000 mm", 0.7221, 1.1350},
-    {"F7", [](Session& session) { session.project.CraneType = 2; }, {}},
+    {"F7", [](Session& session) { session.project.CraneType = CraneKind::Monorail; }, {}},
 };
 
 TEST(BucklingNotes, SpeakWhereTheyMatter) {
@@ -111,7 +111,8 @@ TEST(RecordedPositions, AreFoundAgain) {
     for (const bool outside : {false, true}) {
         const Session session = calculated([&](Session& changed) {
             Project& project = changed.project;
-            project.NofCranes = project.TwoCraneMode = 2;
+            project.NofCranes = 2;
+            project.TwoCraneMode = TwoCranes::Together;
             project.V(5) = project.V(6) = 50;
             project.Avst(4) = 2000;
             project.MinAvst = 500;

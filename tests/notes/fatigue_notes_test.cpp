@@ -45,7 +45,7 @@ std::function<void(Session&)> oneCrane(const Change& change) {
 /// With a monorail hoist.
 std::function<void(Session&)> monorail(const Change& change) {
     return oneCrane([change](Project& p) {
-        p.CraneType = 2;
+        p.CraneType = CraneKind::Monorail;
         change(p);
     });
 }
@@ -54,7 +54,7 @@ std::function<void(Session&)> monorail(const Change& change) {
 std::function<void(Session&)> twoCranes(int mode, const Change& change) {
     return oneCrane([mode, change](Project& p) {
         p.NofCranes = 2;
-        p.TwoCraneMode = static_cast<std::int16_t>(mode);
+        p.TwoCraneMode = TwoCranes(mode);
         p.MinAvst = 4000;
         change(p);
     });

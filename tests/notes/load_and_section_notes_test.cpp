@@ -29,12 +29,12 @@ void welded(Session& session, double tf) {
 }
 
 void monorailOf(Session& session, const char* section) {
-    session.project.CraneType = 2;
+    session.project.CraneType = CraneKind::Monorail;
     for (int span = 1; span <= 3; ++span) session.project.SpanSection(span).TableName = section;
 }
 
 const NoteCase kCases[]{
-    {"A1", {}, [](Session& session) { session.project.CraneType = 2; }},
+    {"A1", {}, [](Session& session) { session.project.CraneType = CraneKind::Monorail; }},
     // P = 135 in the middle of the first of two spans: -3/32 P at the far end; dead load 0.866 kN/m: 3/8 q L = 1.95, or
     // 2.63 with 1.35.
     {"A4",
@@ -58,7 +58,7 @@ const NoteCase kCases[]{
          session.project.H(1) = 20;
      },
      oneWheelOnSixMetres, "bending, span 1", 0.7379, 0.7919},
-    {"A6a", {}, [](Session& session) { session.project.CraneType = 2; }},
+    {"A6a", {}, [](Session& session) { session.project.CraneType = CraneKind::Monorail; }},
     {"A8",
      [](Session& session) {
          oneWheelOnSixMetres(session);
@@ -69,7 +69,7 @@ const NoteCase kCases[]{
          session.project.HasLoadsY = false;  // as the form of the loads leaves it
      },
      {}},
-    {"A9", [](Session& session) { session.project.CraneType = 2; }, {}},
+    {"A9", [](Session& session) { session.project.CraneType = CraneKind::Monorail; }, {}},
     // Axis in the top flange at equal areas, 26.875 below the top: Wpl = 10750 x 13.44 + 5250 x 6.56 + 3500 x 188.1 +
     // 2000 x 368.1 = 1573.6e3, My,Rd = 558.6 kNm; 375 kNm.
     {"B5",

@@ -16,7 +16,7 @@ namespace {
 void lightHoist(Session& session) {
     oneWheel(session, 1, 20000);
     session.project.V(1) = 0.001;
-    session.project.CraneType = 2;
+    session.project.CraneType = CraneKind::Monorail;
 }
 
 TEST(Notes, KeysAreUniqueAndFound) {

@@ -25,8 +25,8 @@ const NoteCase kCases[]{
     // 100 kN in the middle of 18 m: 100000 x 18000^3/(48 E 182.6e6) = 316.9 mm, of 30 and of 25.
     {"E2", [](Session& session) { spanOf(session, 18000); }, [](Session& session) { spanOf(session, 6000); },
      "vertical deflection, span 1", 10.562, 12.674},
-    {"E3a", {}, [](Session& session) { session.project.CraneType = 2; }},
-    {"E3b", [](Session& session) { session.project.CraneType = 2; }, {}},
+    {"E3a", {}, [](Session& session) { session.project.CraneType = CraneKind::Monorail; }},
+    {"E3b", [](Session& session) { session.project.CraneType = CraneKind::Monorail; }, {}},
     // 11.735 mm under the wheel and 5 x 2 x 6000^4/(384 E 182.6e6) = 0.880 under the gangway, of 10; 1.1 x 11.735 +
     // 0.880.
     {"E4",
@@ -57,7 +57,7 @@ const NoteCase kCases[]{
          weldedSection(session, "Is", 2000, 200, 200, 4, 20);
      },
      {}},
-    {"I6", {}, [](Session& session) { session.project.CraneType = 2; }},
+    {"I6", {}, [](Session& session) { session.project.CraneType = CraneKind::Monorail; }},
     {"J1", [](Session& session) { session.project.GammaM0 = 0.1; }, {}},
 };
 

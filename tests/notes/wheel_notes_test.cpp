@@ -21,10 +21,10 @@ const NoteCase kCases[]{
 /// One span of HEA 300 under a hoist of one wheel pair of 40 kN, 25 mm from the flange's tip.
 void hoist(Session& session) {
     oneWheel(session, 1, 6000);
-    session.project.CraneType = 2;
+    session.project.CraneType = CraneKind::Monorail;
     session.project.V(1) = 40;
     session.project.Inn = 25;
-    session.project.LoadLevel = 4;
+    session.project.LoadLevel = LoadPoint::BottomFlange;
 }
 
 /// 500 kN, or what is given, in the middle of 6 m.
@@ -59,11 +59,12 @@ const NoteCase kWheelCases[]{
      0.2592,
      0.002},
     {"D5", [](Session& session) { session.project.RailOn = true; },
-     [](Session& session) { session.project.CraneType = 2; }},
+     [](Session& session) { session.project.CraneType = CraneKind::Monorail; }},
     // m = (300 - 8.5)/2 - 0.8 x 27 - 25 = 99.15, m + n = 124.15, leff = 248.3; 14^2 x 248.3 x 355/(4 x 99.15) = 43.56
     // kN for 20. Inside, one wheel: leff = 2 sqrt(2) 124.15 = 351.2; stress 60e6/182.6e6 x 145 = 47.6: 61.60 (1 -
     // 0.134^2) = 60.49.
-    {"D6", hoist, [](Session& session) { session.project.CraneType = 1; }, "flange bending, span 1", 0.3306, 0.4591},
+    {"D6", hoist, [](Session& session) { session.project.CraneType = CraneKind::Overhead; }, "flange bending, span 1",
+     0.3306, 0.4591},
     // Mz = 15 kNm on the flange: 15e6/31.5e6 x 125 = 59.5 more than 47.6: 61.60 (1 - 0.3018^2) = 55.99.
     {"D7",
      [](Session& session) {

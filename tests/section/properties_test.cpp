@@ -246,7 +246,7 @@ TEST(LoadLevel, setsTheHeightAboveTheShearCentre) {
     };
     for (const Case& c : cases) {
         SectionSetting setting = settingS235();
-        setting.LoadLevel = c.level;
+        setting.LoadLevel = LoadPoint(c.level);
         SectionRecord hea = rolled("HEA 300");
         LoadRolled(smallTables(), "HEA 300", hea);
         RolledProperties(setting, hea);
@@ -269,7 +269,7 @@ TEST(LoadLevel, setsTheHeightAboveTheShearCentre) {
 
 TEST(LoadedFlange, isTheBottomOneUnderAMonorail) {
     SectionSetting setting = settingS235();
-    setting.CraneType = 2;
+    setting.CraneType = CraneKind::Monorail;
     SectionRecord s = welded("Iu", 700, 300, 200, 15, 25, 25);
     WeldedProperties(setting, s);
     EXPECT_EQ(s.IzLoadedFlange, s.IzBottom);
@@ -279,8 +279,8 @@ TEST(UpdateSections, givesTheSameTwiceAndLeavesNothingOfFormerPlates) {
     const ReferenceTables tables = smallTables();
     Project project;
     project.NofSpans = 3;
-    project.CraneType = 1;
-    project.LoadLevel = 1;
+    project.CraneType = CraneKind::Overhead;
+    project.LoadLevel = LoadPoint::TopOfRail;
     project.fyk = 235.0;
     project.Eta = 1.2;
     project.GammaM0 = project.GammaM1 = 1.0;

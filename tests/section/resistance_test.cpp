@@ -156,9 +156,9 @@ TEST(ShearBuckling, followsTheEndPost) {
         {3.0, 0.2766666666666667, 0.3702702702702703},
     };
     for (const Case& c : cases) {
-        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, 1), c.nonRigid, 1e-12) << c.lambda;
-        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, 2), c.rigid, 1e-12) << c.lambda;
-        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, 0), c.rigid, 1e-12) << c.lambda;
+        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, EndPost::NonRigid), c.nonRigid, 1e-12) << c.lambda;
+        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, EndPost::Rigid), c.rigid, 1e-12) << c.lambda;
+        EXPECT_NEAR(shearBucklingFactor(c.lambda, 1.2, EndPost(0)), c.rigid, 1e-12) << c.lambda;
     }
 }
 
@@ -178,7 +178,7 @@ TEST(ShearResistance, changesOverAtTheSlenderWeb) {
     setting.Eta = 1.2;
     s.h = 1240.0;  // Hw/tw = 120, lambda 1.38889
     EXPECT_NEAR(completed(s, setting).VzRd, 12000.0 * (0.83 / (1200.0 / 864.0)) * tau / 1.1 / 1000.0, 1e-3);
-    setting.StiffenerMode = 2;
+    setting.StiffenerMode = EndPost::Rigid;
     EXPECT_NEAR(completed(s, setting).VzRd, 12000.0 * (1.37 / (0.7 + 1200.0 / 864.0)) * tau / 1.1 / 1000.0, 1e-3);
 }
 
@@ -186,7 +186,7 @@ TEST(ShearResistance, changesOverAtTheSlenderWeb) {
 TEST(MomentResistance, takesTheModulusOfTheClass) {
     SectionSetting setting = settingS235();
     setting.GammaM0 = 1.3;
-    setting.CraneType = 2;
+    setting.CraneType = CraneKind::Monorail;
 
     const SectionRecord stout = completed(welded("Iu", 700, 300, 200, 15, 25, 25), setting);
     ASSERT_EQ(stout.ClassPos, 1);

@@ -32,7 +32,7 @@ void setSplices(Project& p, int count) {
 
 void setTwoCranes(Project& p) {
     p.NofCranes = 2;
-    p.TwoCraneMode = 1;
+    p.TwoCraneMode = TwoCranes::Independent;
     p.MinAvst = 2000.0;
     p.V(5) = p.V(6) = 40.0;
     p.H(5) = p.H(6) = 4.0;
@@ -40,8 +40,8 @@ void setTwoCranes(Project& p) {
 }
 
 void setMonorail(Project& p) {
-    p.CraneType = 2;
-    p.LoadLevel = 4;
+    p.CraneType = CraneKind::Monorail;
+    p.LoadLevel = LoadPoint::BottomFlange;
     p.Inn = 20.0;
     p.FatR1 = p.FatR2 = p.FatR3 = p.FatR4 = p.FatR5 = p.FatR6 = true;
     p.FatR1C1 = 56;
@@ -104,12 +104,12 @@ Session calculated(Sample sample) {
             break;
         case Sample::Together:
             setTwoCranes(p);
-            p.TwoCraneMode = 2;
+            p.TwoCraneMode = TwoCranes::Together;
             p.MinDistConst = 1.0;
             p.SpanSection(2) = p.SectionList(2);
             p.SpanSection(2).tw = 6.0;
             p.SpanSection(2).DisplayName = "Iu 700x300x200x6x25x25";
-            p.LoadLevel = 2;
+            p.LoadLevel = LoadPoint::TopFlange;
             p.Fat6 = false;
             break;
     }

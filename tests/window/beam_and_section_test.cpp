@@ -413,12 +413,12 @@ TEST_F(SectionForm, EntriesMoveUpAndDownWithinTheList) {
 TEST_F(SectionForm, EndPostAndLoadLevelAreSet) {
     open(DialogKind::Profile);
     click("optStyv");
-    EXPECT_EQ(project.StiffenerMode, 2);
+    EXPECT_EQ(project.StiffenerMode, EndPost::Rigid);
     click("optVek");
-    EXPECT_EQ(project.StiffenerMode, 1);
+    EXPECT_EQ(project.StiffenerMode, EndPost::NonRigid);
     for (int level = 4; level >= 1; --level) {
         click("OptLoadL" + std::to_string(level));
-        EXPECT_EQ(project.LoadLevel, level);
+        EXPECT_EQ(project.LoadLevel, LoadPoint(level));
         EXPECT_EQ(double(current.Zg) < 0, level == 4);
     }
 }
@@ -427,7 +427,7 @@ TEST_F(SectionForm, TheLoadedFlangeIsNamed) {
     open(DialogKind::Profile);
     EXPECT_NE(property("  MzRd = (Top flange)"), "");
     form.reset();
-    project.CraneType = 2;
+    project.CraneType = CraneKind::Monorail;
     open(DialogKind::Profile);
     EXPECT_NE(property("  MzRd = (Bottom flange)"), "");
     EXPECT_EQ(property("  MzRd = (Top flange)"), "");

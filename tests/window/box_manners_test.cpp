@@ -274,7 +274,7 @@ TEST_F(BoxManners, EveryFormIsWalkedByKeysFromItsFirstBoxToClosing) {
     project.NofCranes = 2;
     project.MinAvst = 2000;
     project.V(5) = 20;
-    project.RailFix = 3;
+    project.RailFix = RailFixing::ResilientPad;
     const std::vector<std::string> first = {"iLfULS",    "txtBeamLength", "cboEuprofile", "ihr",       "cboRail",
                                             "optCurve3", "txtGangway",    "txtPsiV1",     "txtFat1C1", "txtFatR1C1"};
     for (std::size_t i = 0; i < formKinds().size(); ++i) {

@@ -36,7 +36,7 @@ protected:
 
 /// Whether the forms' last guards would let the project pass, with nothing left to be settled.
 bool accepted(const Project& project) {
-    const LoadForm form = project.CraneType == 1 ? LoadForm::Overhead : LoadForm::Monorail;
+    const LoadForm form = project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail;
     Project settled = project;
     SettleLoads(settled, form);
     MessageList messages;

@@ -183,8 +183,8 @@ TEST_F(MainWindowTest, aMonorailStartsWithoutLoads) {
     project().MinDistConst = 1;
     project().V(8) = 5;
     click("OptRunW");
-    EXPECT_EQ(project().CraneType, 2);
-    EXPECT_EQ(project().LoadLevel, 4);
+    EXPECT_EQ(project().CraneType, CraneKind::Monorail);
+    EXPECT_EQ(project().LoadLevel, LoadPoint::BottomFlange);
     EXPECT_EQ(project().NofCranes, 1);
     EXPECT_EQ(project().MinDistConst, 0.0);
     EXPECT_EQ(project().Avst, decltype(project().Avst){});
@@ -196,8 +196,8 @@ TEST_F(MainWindowTest, aMonorailStartsWithoutLoads) {
     click("OptRunW");
     EXPECT_EQ(project().V(1), 10.0) << "a click on the type in use changes nothing";
     click("OptOverH");
-    EXPECT_EQ(project().CraneType, 1);
-    EXPECT_EQ(project().LoadLevel, 1);
+    EXPECT_EQ(project().CraneType, CraneKind::Overhead);
+    EXPECT_EQ(project().LoadLevel, LoadPoint::TopOfRail);
     EXPECT_EQ(project().V(1), 10.0);
 }
 

@@ -26,7 +26,7 @@ protected:
 
 TEST_F(RailForm, FollowsTheProjectAndListsAFlatBar) {
     project.RailOn = true;
-    project.RailFix = 3;
+    project.RailFix = RailFixing::ResilientPad;
     open(DialogKind::Rail);
     EXPECT_EQ(control<QComboBox>("cboRail").currentText(), "Pl 50x30");
     EXPECT_TRUE(control<QCheckBox>("chkRail").isChecked());
@@ -60,7 +60,7 @@ TEST_F(RailForm, WeightAndFasteningAreSet) {
     EXPECT_TRUE(project.RailOn);
     for (const int fix : {1, 2, 3}) {
         click("optRail" + std::to_string(fix));
-        EXPECT_EQ(project.RailFix, fix);
+        EXPECT_EQ(project.RailFix, RailFixing(fix));
     }
     click("cmdOK");
     EXPECT_FALSE(form->isVisible());
@@ -90,9 +90,9 @@ TEST_F(BucklingForm, TheCurveIsChosen) {
     open(DialogKind::Lateral);
     EXPECT_TRUE(control<QRadioButton>("optCurve3").isChecked());
     click("optCurve2");
-    EXPECT_EQ(project.LtbCurve, 2);
+    EXPECT_EQ(project.LtbCurve, LtbCase::General);
     click("optCurve3");
-    EXPECT_EQ(project.LtbCurve, 3);
+    EXPECT_EQ(project.LtbCurve, LtbCase::RolledOrWelded);
     click("ok");
     EXPECT_FALSE(form->isVisible());
 }

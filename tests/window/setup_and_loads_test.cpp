@@ -75,13 +75,13 @@ TEST_F(LoadForms, TwoCranesActIndependentlyOrTogether) {
     EXPECT_TRUE(control<QRadioButton>("optIndepend").isChecked());
     EXPECT_EQ(control<QLabel>("LblUF").text(), "IR = D(Cr1)^3 + D(Cr2)^3 ");
     click("optSimultan");
-    EXPECT_EQ(project.TwoCraneMode, 2);
+    EXPECT_EQ(project.TwoCraneMode, TwoCranes::Together);
     EXPECT_EQ(control<QLabel>("LblUF").text(), "IR = D(Cr1)^3 + D(Cr2)^3 + D(Cr1+Cr2)^3");
     click("optEn");
     click("optTwo");
     EXPECT_TRUE(control<QRadioButton>("optSimultan").isChecked());
     click("optIndepend");
-    EXPECT_EQ(project.TwoCraneMode, 1);
+    EXPECT_EQ(project.TwoCraneMode, TwoCranes::Independent);
 }
 
 TEST_F(LoadForms, AFixedCraneHasAPlaceAndAMovingOneHasNone) {

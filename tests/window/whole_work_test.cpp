@@ -133,7 +133,7 @@ TEST_F(WholeWork, IsDoneSavedAndFoundAgain) {
     EXPECT_EQ(made.SpanSection(1).DisplayName, "HEB 400");
     EXPECT_EQ(double(made.SpanSection(2).tf1), 22.5);
     EXPECT_EQ(double(made.H(2)), -4.0);
-    EXPECT_EQ(made.TwoCraneMode, 2);
+    EXPECT_EQ(made.TwoCraneMode, TwoCranes::Together);
     EXPECT_EQ(made.RailName, "A 55");
     EXPECT_GT(summary.size(), 5u);
 

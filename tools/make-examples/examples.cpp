@@ -6,7 +6,6 @@ namespace borvik {
 
 namespace {
 
-enum Fastening { kRigidly = 1, kNotRigidly = 2, kOnPad = 3 };
 enum CraneClass : std::int16_t { kS2 = 2, kS3 = 3, kS4 = 4, kS7 = 7 };
 
 /// The wheels of one crane: loads in kN, distances in mm from wheel to wheel.
@@ -64,7 +63,7 @@ void setSpans(Project& project, const std::vector<int>& lengths, const SectionRe
     project.NofSpans = static_cast<std::int16_t>(lengths.size());
 }
 
-void setRail(Project& project, const std::string& name, Fastening fastening) {
+void setRail(Project& project, const std::string& name, RailFixing fastening) {
     project.RailOn = true;
     project.RailName = name;
     project.RailFix = fastening;
@@ -134,7 +133,7 @@ void setWeldedDetails(Project& project, double bottomThroat, double stiffenerThr
 Project workshopCrane(const ReferenceTables& tables, Project project) {
     setTitle(project, "Service workshop, bay B", "Runway beam B1, 10 t crane");
     setSpans(project, {7500}, rolled(tables, "HEB 400", project.SpanSection(1)));
-    setRail(project, "A 55", kRigidly);
+    setRail(project, "A 55", RailFixing::Rigid);
     setCrane1(project, {{78, 78}, {9.5, 9.5}, {3200}});
     setSplices(project, {});
     return project;
@@ -143,7 +142,7 @@ Project workshopCrane(const ReferenceTables& tables, Project project) {
 Project assemblyHall(const ReferenceTables& tables, Project project) {
     setTitle(project, "Assembly hall, line 4", "Runway beam 4-6, cranes 12.5 t and 5 t");
     setSpans(project, {10000, 10000, 10000}, rolled(tables, "HEB 500", project.SpanSection(1)));
-    setRail(project, "A 65", kNotRigidly);
+    setRail(project, "A 65", RailFixing::NotRigid);
     project.Gangway = 0.5;
     setCrane1(project, {{105, 96}, {12, 12}, {3600}});
     setCrane2(project, {{52, 48}, {6, 6}, {2500}, 1.1, 1.5, kS2}, 2000);
@@ -154,9 +153,9 @@ Project assemblyHall(const ReferenceTables& tables, Project project) {
 Project tandemLift(const ReferenceTables& tables, Project project) {
     setTitle(project, "Turbine hall, tandem lift", "Runway beam T2, 2 x 20 t with lifting beam");
     setSpans(project, {8000, 8000, 8000, 8000}, rolled(tables, "HEB 500", project.SpanSection(1)));
-    setRail(project, "A 75", kOnPad);
+    setRail(project, "A 75", RailFixing::ResilientPad);
     project.Gangway = 1.0;
-    project.TwoCraneMode = 2;
+    project.TwoCraneMode = TwoCranes::Together;
     project.MinDistConst = 1;
     setCrane1(project, {{130, 130}, {14, 14}, {3800}, 1.1, 1.5, kS2});
     setCrane2(project, {{130, 130}, {14, 14}, {3800}, 1.1, 1.5, kS2}, 4000);
@@ -166,8 +165,8 @@ Project tandemLift(const ReferenceTables& tables, Project project) {
 
 Project monorail(const ReferenceTables& tables, Project project) {
     setTitle(project, "Pump station, hoist", "Monorail M1, 3.2 t electric hoist");
-    project.CraneType = 2;
-    project.LoadLevel = 4;
+    project.CraneType = CraneKind::Monorail;
+    project.LoadLevel = LoadPoint::BottomFlange;
     project.Inn = 30;
     setSpans(project, {5000, 6000}, rolled(tables, "HEA 240", project.SpanSection(1)));
     setCrane1(project, {{19, 19}, {1.9, 1.9}, {450}, 1.15, 1.5});
@@ -181,7 +180,7 @@ Project plateGirder(const ReferenceTables&, Project project) {
     setTitle(project, "Steel service centre, bay 2", "Plate girder P1, 32 t crane with four wheels");
     const SectionRecord girder = reinforced(welded({1000, 400, 360, 14, 25, 25}, project.SectionList(2)), 150, 15);
     setSpans(project, {12000, 12000}, girder);
-    setRail(project, "A 100", kOnPad);
+    setRail(project, "A 100", RailFixing::ResilientPad);
     project.Gangway = 1.5;
     setCrane1(project, {{150, 150, 150, 150}, {18, 0, 0, 18}, {1100, 3600, 1100}, 1.15, 1.5, kS4});
     setWeldedDetails(project, 6, 8, 25);
@@ -192,7 +191,7 @@ Project plateGirder(const ReferenceTables&, Project project) {
 Project scrapYard(const ReferenceTables&, Project project) {
     setTitle(project, "Scrap yard, magnet crane", "Plate girder S3, 16 t process crane");
     setSpans(project, {9000, 9000, 9000}, welded({800, 400, 350, 14, 25, 22}, project.SectionList(2)));
-    setRail(project, "A 75", kOnPad);
+    setRail(project, "A 75", RailFixing::ResilientPad);
     project.Gangway = 1.0;
     setCrane1(project, {{140, 140}, {16, 16}, {4200}, 1.2, 1.6, kS7});
     setWeldedDetails(project, 5, 6, 20);

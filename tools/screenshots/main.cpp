@@ -43,8 +43,8 @@ void choose(QWidget& window, const QString& node) {
 /// All input forms, named after their windows. Those of a monorail show a project of their own.
 void takeForms(Camera& camera, Session& session, Messages& messages) {
     Session monorail(session.tables);
-    monorail.project.CraneType = 2;
-    monorail.project.LoadLevel = 4;
+    monorail.project.CraneType = CraneKind::Monorail;
+    monorail.project.LoadLevel = LoadPoint::BottomFlange;
     for (const FormKind& kind : formKinds()) {
         Session& shown = kind.cranes == FormKind::Monorail ? monorail : session;
         const bool plates = kind.kind == DialogKind::ProfReinf;

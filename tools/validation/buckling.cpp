@@ -12,15 +12,15 @@ struct BuckledBeam {
     Project project;
     UlsResults uls;
 
-    BuckledBeam(const ReferenceTables& tables, int curve, double C1, double C2, int loadLevel) {
+    BuckledBeam(const ReferenceTables& tables, LtbCase curve, double C1, double C2, LoadPoint loadLevel) {
         project = DefaultProject(tables);
         project.NofSpans = 1;
         project.Span = {};
         project.Span(1) = 6000;
         project.RailOn = false;
         project.SpanSection(1) = tables.SectionTable(FindSection(tables, "IPE 300"));
-        project.LoadLevel = static_cast<std::int16_t>(loadLevel);
-        project.LtbCurve = static_cast<std::int16_t>(curve);
+        project.LoadLevel = loadLevel;
+        project.LtbCurve = curve;
         project.DefaultCfactor = false;
         project.C1EndPos = C1;
         project.C2EndPos = C2;
@@ -34,7 +34,7 @@ struct BuckledBeam {
     [[nodiscard]] double chi() { return 50 / (ratio() * project.SpanSection(1).MyRdPos); }
 };
 
-SectionRecord plateGirder(int endPost) {
+SectionRecord plateGirder(EndPost endPost) {
     SectionSetting setting;
     setting.fyk = 355;
     setting.Epsilon = epsilonOf(355);
@@ -79,7 +79,7 @@ Critical moment by the three-factor formula (the pre-standard's annex F; doubly 
 - curve a (table 6.4, rolled, h/b <= 2), alpha = 0.21: Phi = 0.5 (1 + 0.21 (1.56925 - 0.2) + 1.56925^2) = 1.87505
 - chi = 1/(1.87505 + sqrt(1.87505^2 - 1.56925^2)) = 0.344670
 - IR = 50/(0.344670 x 222.94) = 0.650697)");
-    BuckledBeam uniformGeneral(tables, 2, 1.0, 0.0, 3);
+    BuckledBeam uniformGeneral(tables, LtbCase::General, 1.0, 0.0, LoadPoint::ShearCentre);
     document.compare({{"chi LT", "eq. (6.56)", 0.3446696158, uniformGeneral.chi()},
                       {"IR", "eq. (6.54)", 0.6506973042, uniformGeneral.ratio()}});
 
@@ -90,7 +90,7 @@ Critical moment by the three-factor formula (the pre-standard's annex F; doubly 
 - Phi = 0.5 (1 + 0.34 (1.56925 - 0.4) + 0.75 x 2.46255) = 1.62223
 - chi = 1/(1.62223 + sqrt(1.62223^2 - 0.75 x 2.46255)) = 0.398713, below 1/lambda^2 = 0.406083
 - IR = 50/(0.398713 x 222.94) = 0.562500)");
-    BuckledBeam uniformRolled(tables, 3, 1.0, 0.0, 3);
+    BuckledBeam uniformRolled(tables, LtbCase::RolledOrWelded, 1.0, 0.0, LoadPoint::ShearCentre);
     document.compare({{"chi LT,mod", "eq. (6.57), (6.58)", 0.3987125087, uniformRolled.chi()},
                       {"IR", "eq. (6.54)", 0.5624995076, uniformRolled.ratio()}});
 
@@ -103,7 +103,8 @@ Critical moment by the three-factor formula (the pre-standard's annex F; doubly 
 - general case: Phi = 1.91992, chi = 0.334747, IR = 0.669985
 - rolled: Phi = 1.65831, chi = 0.388380; kc = 1/sqrt(1.35) = 0.860663, f = 1 - 0.5 x 0.139337 x (1 - 2 x 0.795839^2)
   = 1.01862, at most 1; IR = 0.577464)");
-    BuckledBeam topGeneral(tables, 2, 1.35, 0.59, 2), topRolled(tables, 3, 1.35, 0.59, 2);
+    BuckledBeam topGeneral(tables, LtbCase::General, 1.35, 0.59, LoadPoint::TopFlange),
+        topRolled(tables, LtbCase::RolledOrWelded, 1.35, 0.59, LoadPoint::TopFlange);
     document.compare({{"zg, mm", "h/2", 150, topGeneral.project.SpanSection(1).Zg},
                       {"IR, general case", "eq. (6.54), (6.56)", 0.6699847343, topGeneral.ratio()},
                       {"IR, rolled", "eq. (6.54), (6.57)", 0.5774639545, topRolled.ratio()}});
@@ -116,10 +117,11 @@ Critical moment by the three-factor formula (the pre-standard's annex F; doubly 
 - lambda w = hw/(86.4 tw epsilon) = 1200/(86.4 x 8 x 0.813617) = 2.13382, eq. (5.5)
 - non-rigid end post: chi w = 0.83/2.13382 = 0.388974; rigid: 1.37/(0.7 + 2.13382) = 0.483446, table 5.1
 - Vbw,Rd = chi w fyw hw tw/(sqrt(3) gamma M1) = chi w x 355 x 9600/1.90526 = chi w x 1788.74 kN, eq. (5.2))");
-    document.compare({{"chi w, non-rigid", "table 5.1", 0.3889737828, shearBucklingFactor(2.1338199046, 1.2, 1)},
-                      {"chi w, rigid", "table 5.1", 0.4834463890, shearBucklingFactor(2.1338199046, 1.2, 2)},
-                      {"Vz,Rd, non-rigid, kN", "0.388974 x 1788.74", 695.7714498, plateGirder(1).VzRd},
-                      {"Vz,Rd, rigid, kN", "0.483446 x 1788.74", 864.7580117, plateGirder(2).VzRd}});
+    document.compare(
+        {{"chi w, non-rigid", "table 5.1", 0.3889737828, shearBucklingFactor(2.1338199046, 1.2, EndPost::NonRigid)},
+         {"chi w, rigid", "table 5.1", 0.4834463890, shearBucklingFactor(2.1338199046, 1.2, EndPost::Rigid)},
+         {"Vz,Rd, non-rigid, kN", "0.388974 x 1788.74", 695.7714498, plateGirder(EndPost::NonRigid).VzRd},
+         {"Vz,Rd, rigid, kN", "0.483446 x 1788.74", 864.7580117, plateGirder(EndPost::Rigid).VzRd}});
 }
 
 }  // namespace borvik::validation

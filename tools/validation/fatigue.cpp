@@ -18,7 +18,7 @@ Project girder() {
     s.tw = 10;
     s.tf1 = s.tf2 = 20;
     s.Hw = 760;
-    p.RailFix = 2;
+    p.RailFix = RailFixing::NotRigid;
     p.V = FixedArray<Single, 1, 8>::of(150, 150, 150, 150);
     p.W1 = "FP";
     p.GammaFf = 1.0;

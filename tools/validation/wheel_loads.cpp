@@ -21,8 +21,8 @@ Project girder() {
     s.Hw = 760;
     project.fyk = 355;
     project.GammaM1 = 1.1;
-    project.CraneType = 1;
-    project.RailFix = 2;
+    project.CraneType = CraneKind::Overhead;
+    project.RailFix = RailFixing::NotRigid;
     project.V(1) = 150;
     return project;
 }
@@ -65,7 +65,7 @@ load factor 1.35, dynamic factor 1.1; My,Ed = 40 kNm.
 - Ff,Rd = leff tf^2 fy/(4 m gamma M0) (1 - ...) = 268.150 x 114.49 x 355/157.8 x 0.959127 = 66.2435 kN, eq. (6.1)
 - IR = 14.85/66.2435 = 0.224173)");
     Project project = DefaultProject(tables);
-    project.CraneType = 2;
+    project.CraneType = CraneKind::Monorail;
     project.NofSpans = 1;
     project.Span = {};
     project.Span(1) = 6000;
