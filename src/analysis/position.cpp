@@ -24,6 +24,7 @@ LoadedBeam::LoadedBeam(const Project& project, const RunLoads& loads, bool horiz
 }
 
 void solve(const LoadedBeam& loaded, int j, int k, SolvedPosition& position) {
+    position.at = {static_cast<std::int16_t>(j), static_cast<std::int16_t>(k)};
     loaded.placer.PlaceWheels(j, k, position.wheels);
     const Beam& beam = loaded.beam;
     if (beam.n < 2) return;

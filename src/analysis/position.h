@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/beam.h"
+#include "analysis/results.h"
 #include "analysis/span_points.h"
 #include "analysis/wheels.h"
 
@@ -31,6 +32,7 @@ struct LoadedBeam {
 
 /// One position of the cranes, solved: the wheels and the moments over the supports in both planes.
 struct SolvedPosition {
+    WalkPosition at;
     Wheels wheels{};
     PerSpan momentZ{}, momentY{};  ///< [0..n], Nmm
 };

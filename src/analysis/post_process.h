@@ -10,22 +10,28 @@
 namespace borvik {
 
 inline constexpr std::array<Envelope<UlsResults>, 8> kUlsEnvelopes = {{
-    {&UlsResults::MyMaxPoint, &UlsResults::MyMaxSpan, 1, true},
-    {&UlsResults::MyMinPoint, &UlsResults::MyMinSpan, 1, false},
-    {&UlsResults::MzMaxPoint, &UlsResults::MzMaxSpan, 3, true},
-    {&UlsResults::MzMinPoint, &UlsResults::MzMinSpan, 3, false},
-    {&UlsResults::VzMaxPoint, &UlsResults::VzMaxSpan, 2, true},
-    {&UlsResults::VzMinPoint, &UlsResults::VzMinSpan, 2, false},
-    {&UlsResults::VyMaxPoint, &UlsResults::VyMaxSpan, 4, true},
-    {&UlsResults::VyMinPoint, &UlsResults::VyMinSpan, 4, false},
+    {&UlsResults::MyMaxPoint, &UlsResults::MyMaxSpan, &UlsPositions::MyMax, 1, true},
+    {&UlsResults::MyMinPoint, &UlsResults::MyMinSpan, &UlsPositions::MyMin, 1, false},
+    {&UlsResults::MzMaxPoint, &UlsResults::MzMaxSpan, &UlsPositions::MzMax, 3, true},
+    {&UlsResults::MzMinPoint, &UlsResults::MzMinSpan, &UlsPositions::MzMin, 3, false},
+    {&UlsResults::VzMaxPoint, &UlsResults::VzMaxSpan, &UlsPositions::VzMax, 2, true},
+    {&UlsResults::VzMinPoint, &UlsResults::VzMinSpan, &UlsPositions::VzMin, 2, false},
+    {&UlsResults::VyMaxPoint, &UlsResults::VyMaxSpan, &UlsPositions::VyMax, 4, true},
+    {&UlsResults::VyMinPoint, &UlsResults::VyMinSpan, &UlsPositions::VyMin, 4, false},
 }};
 
 inline constexpr std::array<Envelope<FlsResults>, 4> kFlsEnvelopes = {{
-    {&FlsResults::FlsMyMaxPoint, &FlsResults::FlsMyMaxSpan, 1, true},
-    {&FlsResults::FlsMyMinPoint, &FlsResults::FlsMyMinSpan, 1, false},
-    {&FlsResults::FlsVzMaxPoint, &FlsResults::FlsVzMaxSpan, 2, true},
-    {&FlsResults::FlsVzMinPoint, &FlsResults::FlsVzMinSpan, 2, false},
+    {&FlsResults::FlsMyMaxPoint, &FlsResults::FlsMyMaxSpan, &FlsPositions::MyMax, 1, true},
+    {&FlsResults::FlsMyMinPoint, &FlsResults::FlsMyMinSpan, &FlsPositions::MyMin, 1, false},
+    {&FlsResults::FlsVzMaxPoint, &FlsResults::FlsVzMaxSpan, &FlsPositions::VzMax, 2, true},
+    {&FlsResults::FlsVzMinPoint, &FlsResults::FlsVzMinSpan, &FlsPositions::VzMin, 2, false},
 }};
+
+/// The extremes of the reactions of one plane, and where the cranes stood.
+struct ReactionRecords {
+    Array<Single>&largest, &smallest;
+    Array<WalkPosition>&largestAt, &smallestAt;
+};
 
 /// Forces of the spans of one position, and the reactions that follow from them.
 class SpanForces {
@@ -35,9 +41,11 @@ public:
     void compute(const SolvedPosition& position, int i);
     [[nodiscard]] const SpanStep& step(int i) const { return steps_[static_cast<std::size_t>(i)]; }
 
-    /// Compares the reaction of every support whose neighbouring spans are all in `mask` with its largest and smallest.
+    /// The reaction of a support, upward positive; at the last one with the sign of the shear.
     /// @param shear  slot of the shear: 2 vertical, 4 horizontal plane
-    void updateReactions(int shear, SpanMask mask, Array<Single>& largest, Array<Single>& smallest) const;
+    [[nodiscard]] Single reaction(int support, int shear) const;
+    /// Compares the reaction of every support whose neighbouring spans are all in `mask` with its largest and smallest.
+    void updateReactions(int shear, SpanMask mask, WalkPosition at, const ReactionRecords& records) const;
 
 private:
     const LoadedBeam& loaded_;
@@ -51,7 +59,7 @@ public:
     void record(const SolvedPosition& position, SpanMask mask) override;
 
 private:
-    void recordSupportMoment(int i, const Wheels& wheels);
+    void recordSupportMoment(int i, const SolvedPosition& position);
 
     const LoadedBeam& loaded_;
     UlsResults& results_;
@@ -79,7 +87,8 @@ public:
     void record(const SolvedPosition& position, SpanMask mask) override;
 
 private:
-    static void keep(int i, const PointSteps& U, const Wheels& wheels, Cube<Single>& point, Table<Single>& span);
+    static void keep(int i, const PointSteps& U, const SolvedPosition& position, Cube<Single>& point,
+                     Table<Single>& span, Table<WalkPosition>& at);
 
     const LoadedBeam& loaded_;
     SlsResults& results_;

@@ -3,8 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "analysis/results.h"
-#include "analysis/span_points.h"
+#include "analysis/position.h"
 
 namespace borvik {
 
@@ -13,6 +12,7 @@ template <class Results>
 struct Envelope {
     Cube<Single> Results::*point;
     Table<Single> Results::*span;
+    Table<WalkPosition> Results::Positions::*at;
     int key;       ///< slot of the quantity: 1 My, 2 Vz, 3 Mz, 4 Vy
     bool largest;  ///< largest or smallest
 };
@@ -33,11 +33,12 @@ public:
             const int slots = envelope.key <= 2 ? slotsZ : slotsY;
             results.*envelope.point = Cube<Single>(spans, kPoints, slots);
             results.*envelope.span = Table<Single>(spans, slots + 1);
+            results.At.*envelope.at = Table<WalkPosition>(spans, kWholeSpan);
         }
     }
 
     /// Compares span i at the present position with its records.
-    void record(int i, double L, const SpanStep& step, const Wheels& wheels) {
+    void record(int i, double L, const SpanStep& step, const SolvedPosition& position) {
         for (std::size_t e = 0; e < N; ++e) {
             const PointSteps& now = step.quantity[envelopes_[e].key];
             PointSteps& best = keys_[static_cast<std::size_t>(i)].of[e];
@@ -46,7 +47,7 @@ public:
             for (int k = 1; k <= kPoints; ++k)
                 if (largest ? now[k] > best[k] : now[k] < best[k]) {
                     best[k] = now[k];
-                    writePoint(envelopes_[e], i, k, step, wheels);
+                    writePoint(envelopes_[e], i, k, step, position);
                 }
             updateSpan(envelopes_[e], i, L);
         }
@@ -66,7 +67,10 @@ private:
         return beyond != 0;
     }
 
-    void writePoint(const Envelope<Results>& envelope, int i, int k, const SpanStep& step, const Wheels& wheels) {
+    void writePoint(const Envelope<Results>& envelope, int i, int k, const SpanStep& step,
+                    const SolvedPosition& position) {
+        const Wheels& wheels = position.wheels;
+        (results_.At.*envelope.at)(i, k) = position.at;
         Cube<Single>& records = results_.*envelope.point;
         for (int q = 1; q <= 4; ++q) records(i, k, q) = step.quantity[q][k];
         records(i, k, 5) = wheels[1].span;
@@ -80,11 +84,13 @@ private:
     void updateSpan(const Envelope<Results>& envelope, int i, double L) {
         const Cube<Single>& points = results_.*envelope.point;
         Table<Single>& span = results_.*envelope.span;
+        Table<WalkPosition>& at = results_.At.*envelope.at;
         const int key = envelope.key;
         for (int k = 1; k <= kPoints; ++k)
             if (envelope.largest ? points(i, k, key) > span(i, key) : points(i, k, key) < span(i, key)) {
                 for (int slot = 1; slot <= points.slots(); ++slot) span(i, slot) = points(i, k, slot);
                 span(i, points.slots() + 1) = ((k - 1) / 20.0) * L;
+                at(i, kWholeSpan) = at(i, k);
             }
     }
 

@@ -57,6 +57,7 @@ Results runWalk(const char* name, Walk walk, const Project& project, const RunLo
     watched(name, 0, [&] {
         const LoadedBeam loaded(project, loads, horizontalWanted);
         Post post(loaded, results);
+        results.Loads = loads;
         if (project.CranesLength > project.BeamLength) {
             messages.show(kDoesNotFit);
             return;

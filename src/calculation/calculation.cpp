@@ -1,6 +1,7 @@
 #include "calculation/calculation.h"
 
 #include <chrono>
+#include <utility>
 
 #include "analysis/loads.h"
 #include "base/number_text.h"
@@ -66,12 +67,14 @@ void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads
     loads.WheelGap = project.Avst;
 }
 
-void turnRound(Array<Single>& largest, Array<Single>& smallest) {
+void turnRound(Array<Single>& largest, Array<Single>& smallest, Array<WalkPosition>& largestAt,
+               Array<WalkPosition>& smallestAt) {
     const int support = largest.last();
     const double a = largest(support);
     const double b = smallest(support);
     largest(support) = -b;
     smallest(support) = -a;
+    std::swap(largestAt(support), smallestAt(support));
 }
 
 struct Run {
@@ -190,8 +193,8 @@ int RefusedSpan(const Project& project) {
 }
 
 void TurnReactionsUpward(UlsResults& uls) {
-    turnRound(uls.RzMax, uls.RzMin);
-    turnRound(uls.RyMax, uls.RyMin);
+    turnRound(uls.RzMax, uls.RzMin, uls.At.RzMax, uls.At.RzMin);
+    turnRound(uls.RyMax, uls.RyMin, uls.At.RyMax, uls.At.RyMin);
 }
 
 Outcome Calculate(const Project& entered, const ReferenceTables& tables, Messages& messages, Progress& progress,

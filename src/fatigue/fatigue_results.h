@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "analysis/results.h"
 #include "base/array.h"
 #include "base/single.h"
 #include "checks/check_rows.h"
@@ -22,6 +23,8 @@ struct StressSet {
     Table<Single> Sig1MaxPeak, Sig1MinPeak, Sig1RangePeak;
     Table<Single> Sig2MaxPeak, Sig2MinPeak, Sig2RangePeak;
     Table<Single> TauMaxPeak, TauMinPeak, TauRangePeak;
+    FlsPositions At;  ///< of the extremes behind the stresses; empty in a set of no walk
+    RunLoads Loads;   ///< under which the cranes walked
 
     StressSet() = default;
     /// All tables at zero. @param spans 1..30

@@ -119,6 +119,8 @@ StressSet stressHistory(const History& history, const Project& project, const Fl
                         const CraneFactors& factors) {
     const int n = project.NofSpans;
     StressSet set(n);
+    set.At = fls.At;
+    set.Loads = fls.Loads;
     for (int i = 1; i <= n; ++i) {
         watched(history.name, i, [&] {
             stressesOfSpan(set, project, fls, factors, i);

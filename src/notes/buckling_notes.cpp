@@ -38,7 +38,7 @@ std::optional<NoteFinding> factorsOfDiagram(const Session& session) {
     if (!project.DefaultCfactor) return std::nullopt;
     const UlsResults& uls = session.results->Uls;
     const CheckResults& checks = session.results->Checks;
-    const RecordedPositions positions(session);
+    RecordedPositions positions(session);
     struct Ratio {
         double number;
         std::string factors;  // ", C1 = 1.45, C2 = 0.73"; empty where the ratio is that of the check

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 
-#include "analysis/position.h"
-#include "analysis/post_process.h"
+#include "analysis/driven_cranes.h"
 #include "calculation/session.h"
 
 namespace borvik {
@@ -15,23 +13,21 @@ struct SpanAtPosition {
     SpanWheels wheels;  ///< vertical loads that stand in the span, N
 };
 
-/// Finds again the positions of the cranes that records of the ultimate limit state name, and solves them.
+/// Solves again the positions of the cranes that records of the ultimate limit state name.
 class RecordedPositions {
 public:
     explicit RecordedPositions(const Session& session);
 
     /// The span at the position of its largest My, MyMaxSpan, or of its most negative support moment, MySupportSpan.
-    /// nullopt where the record is empty, or where no position of the walk gives its moment to the bit.
-    [[nodiscard]] std::optional<SpanAtPosition> atLargest(int span) const;
-    [[nodiscard]] std::optional<SpanAtPosition> atSupportMoment(int span) const;
+    /// nullopt where no position gave the record.
+    [[nodiscard]] std::optional<SpanAtPosition> atLargest(int span);
+    [[nodiscard]] std::optional<SpanAtPosition> atSupportMoment(int span);
 
 private:
-    using Gives = std::function<bool(const PointSteps& My)>;
-    [[nodiscard]] std::optional<SpanAtPosition> find(const Table<Single>& records, int span, const Gives& gives) const;
+    [[nodiscard]] std::optional<SpanAtPosition> at(WalkPosition position, int span);
 
-    const Session& session_;
-    RunLoads loads_;
-    LoadedBeam loaded_;
+    const UlsPositions& positions_;
+    DrivenCranes cranes_;
 };
 
 }  // namespace borvik

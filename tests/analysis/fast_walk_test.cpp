@@ -34,6 +34,10 @@ std::size_t differing(const Cube<Single>& a, const Cube<Single>& b) {
 /// Number of stored values that differ in some bit.
 std::size_t differing(const UlsResults& a, const UlsResults& b) {
     std::size_t count = 0;
+    for (const auto& envelope : kUlsEnvelopes) count += a.At.*envelope.at != b.At.*envelope.at;
+    for (auto field : {&UlsPositions::RzMax, &UlsPositions::RzMin, &UlsPositions::RyMax, &UlsPositions::RyMin,
+                       &UlsPositions::MySupport})
+        count += a.At.*field != b.At.*field;
     for (auto field : {&UlsResults::RzMax, &UlsResults::RzMin, &UlsResults::RyMax, &UlsResults::RyMin})
         count += differing(a.*field, b.*field);
     for (auto field :
@@ -48,10 +52,13 @@ std::size_t differing(const UlsResults& a, const UlsResults& b) {
 }
 std::size_t differing(const SlsResults& a, const SlsResults& b) {
     return differing(a.UzMaxPoint, b.UzMaxPoint) + differing(a.UyMaxPoint, b.UyMaxPoint) +
-           differing(a.UzMaxSpan, b.UzMaxSpan) + differing(a.UyMaxSpan, b.UyMaxSpan);
+           differing(a.UzMaxSpan, b.UzMaxSpan) + differing(a.UyMaxSpan, b.UyMaxSpan) +
+           static_cast<std::size_t>((a.At.Uz != b.At.Uz) + (a.At.Uy != b.At.Uy));
 }
 std::size_t differing(const FlsResults& a, const FlsResults& b) {
     std::size_t count = differing(a.FlsRzMax, b.FlsRzMax) + differing(a.FlsRzMin, b.FlsRzMin);
+    for (const auto& envelope : kFlsEnvelopes) count += a.At.*envelope.at != b.At.*envelope.at;
+    count += static_cast<std::size_t>((a.At.RzMax != b.At.RzMax) + (a.At.RzMin != b.At.RzMin));
     for (auto field : {&FlsResults::FlsMyMaxPoint, &FlsResults::FlsMyMinPoint, &FlsResults::FlsVzMaxPoint,
                        &FlsResults::FlsVzMinPoint})
         count += differing(a.*field, b.*field);

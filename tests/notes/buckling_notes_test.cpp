@@ -4,7 +4,6 @@
 
 #include "notes/diagram_factors.h"
 #include "notes/noted_project.h"
-#include "notes/recorded_position.h"
 
 using namespace borvik;
 using namespace borvik::testing_support;
@@ -104,26 +103,6 @@ const NoteCase kCases[]{
 
 TEST(BucklingNotes, SpeakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
-}
-
-// Two cranes that move on their own, beyond the ends of the beam too.
-TEST(RecordedPositions, AreFoundAgain) {
-    for (const bool outside : {false, true}) {
-        const Session session = calculated([&](Session& changed) {
-            Project& project = changed.project;
-            project.NofCranes = 2;
-            project.TwoCraneMode = TwoCranes::Together;
-            project.V(5) = project.V(6) = 50;
-            project.Avst(4) = 2000;
-            project.MinAvst = 500;
-            project.StartStopOutside = outside ? 1 : 0;
-        });
-        const RecordedPositions positions(session);
-        for (int span = 1; span <= 3; ++span) {
-            EXPECT_TRUE(positions.atLargest(span)) << span << (outside ? ", outside" : "");
-            EXPECT_TRUE(positions.atSupportMoment(span)) << span << (outside ? ", outside" : "");
-        }
-    }
 }
 
 // Tables of C1, C2 and C3 for fork supports, as the first edition of the standard (ENV 1993-1-1, annex F) gave them.
