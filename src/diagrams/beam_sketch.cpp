@@ -319,7 +319,7 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, std:
 }  // namespace
 
 std::vector<std::string> drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0,
-                                        DiagramMode mode, BeamPart part) {
+                                        DiagramMode mode, const BeamPart& part) {
     Project project = input;
     project.NofSpans = static_cast<std::int16_t>(enteredSpans(input));
     DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode, part);

@@ -16,7 +16,7 @@ constexpr std::array<double, 3> kPaperPens{0.2, 0.35, 0.5};
 }  // namespace
 
 DiagramCanvas::DiagramCanvas(DrawingSurface& target, const DiagramKind& kind, const Project& of, double left,
-                             double top, DiagramMode how, BeamPart part)
+                             double top, DiagramMode how, const BeamPart& part)
     : surface(target),
       project(of),
       mode(how),

@@ -21,7 +21,7 @@ struct Stretch {
 class DiagramCanvas {
 public:
     DiagramCanvas(DrawingSurface& surface, const DiagramKind& kind, const Project& project, double X0, double Y0,
-                  DiagramMode mode, BeamPart part);
+                  DiagramMode mode, const BeamPart& part);
 
     /// Frame on paper, underlined title, remark and sign sketch behind it.
     void drawHead(const std::string& ofDiagram, bool withSigns);

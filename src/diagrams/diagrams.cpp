@@ -11,7 +11,7 @@
 namespace borvik {
 
 std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
-                                     double Y0, DiagramMode mode, BeamPart part) {
+                                     double Y0, DiagramMode mode, const BeamPart& part) {
     if (diagram == Diagram::Sketch) return drawBeamSketch(surface, data.project, X0, Y0, mode, part);
     return drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode, part);
 }
@@ -88,7 +88,8 @@ Place PictureFrame::pointOf(Place place, double width, double height) const {
     return {(place.x - left) / (right - left) * width, (place.y - top) / (bottom - top) * height};
 }
 
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data, BeamPart part) {
+void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
+                 const BeamPart& part) {
     const auto [left, top, right, bottom] = pictureFrame(diagrams);
     surface.scale(left, top, right, bottom);
     const std::array<Place, 4> paper{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};

@@ -17,7 +17,7 @@ namespace borvik {
 /// @param part  of the beam to draw
 /// @return labels that found no room, as they read in a list: "Span 2: My=-66.2  L=5000 mm"
 std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
-                                     double Y0, DiagramMode mode, BeamPart part = {});
+                                     double Y0, DiagramMode mode, const BeamPart& part = {});
 
 /// The parts in which a beam is drawn on paper: the whole beam, or one of more than eight spans in strips of eight
 /// spans at most, all to the same scale.
@@ -44,7 +44,7 @@ std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, c
 /// Draws a picture for screen or file: lays the logical frame over the whole surface, white paper, the diagrams one
 /// below the other.
 void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
-                 BeamPart part = {});
+                 const BeamPart& part = {});
 
 /// The height of a picture, in the units of a diagram that is 1000 wide.
 [[nodiscard]] double pictureHeight(std::span<const Diagram> diagrams);

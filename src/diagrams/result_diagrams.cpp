@@ -175,7 +175,7 @@ void addSupportLabels(DiagramCanvas& canvas, const SupportTexts& texts) {
 }  // namespace
 
 std::vector<std::string> drawResultDiagram(DrawingSurface& surface, const DiagramKind& kind, const DiagramData& data,
-                                           double X0, double Y0, DiagramMode mode, BeamPart part) {
+                                           double X0, double Y0, DiagramMode mode, const BeamPart& part) {
     DiagramCanvas canvas(surface, kind, data.project, X0, Y0, mode, part);
     const std::vector<Panel> panels = diagramPanels(kind, data);
     const SupportTexts texts = supportTexts(kind, data);

@@ -13,7 +13,7 @@ class SectionCombo;
 class SpanList;
 
 /// frmBeam: length and section of each of up to 30 spans.
-class BeamDialog : public InputDialog {
+class BeamDialog final : public InputDialog {
 public:
     BeamDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

@@ -5,7 +5,7 @@
 namespace borvik {
 
 /// frmFatigue2: the fatigue details of a monorail beam.
-class Fatigue2Dialog : public FatigueDialog {
+class Fatigue2Dialog final : public FatigueDialog {
 public:
     Fatigue2Dialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

@@ -8,7 +8,7 @@ class QRadioButton;
 namespace borvik {
 
 /// frmvipping: factors of the critical moment of lateral torsional buckling, and the method of the reduction.
-class LateralBucklingDialog : public InputDialog {
+class LateralBucklingDialog final : public InputDialog {
 public:
     LateralBucklingDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

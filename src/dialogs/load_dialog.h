@@ -16,7 +16,7 @@ class Picture;
 
 /// frmLoad: one or two overhead cranes, their wheels, dynamic factors and classes, the gangway and the placing of the
 /// load.
-class LoadDialog : public InputDialog {
+class LoadDialog final : public InputDialog {
 public:
     LoadDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

@@ -13,7 +13,7 @@ class Picture;
 [[nodiscard]] const char* plateRefusal(const SectionRecord& section);
 
 /// frmProfReinf: two plates at the top flange of the section being edited.
-class ProfReinfDialog : public InputDialog {
+class ProfReinfDialog final : public InputDialog {
 public:
     ProfReinfDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

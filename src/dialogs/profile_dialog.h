@@ -17,7 +17,7 @@ class SectionCombo;
 
 /// frmProfile: choose or define a section, keep the project's list of sections, set end post and point of load, and see
 /// properties and capacities at once.
-class ProfileDialog : public InputDialog {
+class ProfileDialog final : public InputDialog {
 public:
     ProfileDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
     /// A section left behind that is not in the list is named in the window's status line.

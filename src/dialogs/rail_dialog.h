@@ -10,7 +10,7 @@ namespace borvik {
 class Picture;
 
 /// frmRail: the crane rail, whether its weight counts, and how it is fastened to the flange.
-class RailDialog : public InputDialog {
+class RailDialog final : public InputDialog {
 public:
     RailDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

@@ -8,7 +8,7 @@ class CombinationList;
 
 /// frmSetup: load factors, partial factors, buckling parameters and deflection limits, and the load combinations that
 /// follow from them.
-class SetupDialog : public InputDialog {
+class SetupDialog final : public InputDialog {
 public:
     SetupDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);
 

@@ -16,7 +16,7 @@ Single numberIn(const Single& field) {
 Single numberIn(const std::string& field) {
     return DecimalValue(field);
 }
-Single numberIn(std::int16_t field) {
+Single numberIn(std::int32_t field) {
     return Single(field);
 }
 
@@ -27,21 +27,14 @@ std::string numbered(const char* stem, int number) {
 /// The list while it grows: entries of one form behind its name.
 class InputList {
 public:
-    explicit InputList(const Project& project) : project_(project) {}
-
     void form(const char* name) { form_ = name; }
     template <class Field>
     void add(const Field& field, const std::string& name, const Range& range, bool counts = true) {
         entries_.push_back({&field, std::string(form_) + ": " + name, numberIn(field), range, counts});
     }
-    void addSpan(int span) {
-        const std::int32_t& length = project_.Span(span);
-        entries_.push_back({&length, numbered("Beam: length of span ", span), length, spanLengthRange(), true});
-    }
     [[nodiscard]] std::vector<InputNumber> take() { return std::move(entries_); }
 
 private:
-    const Project& project_;
     const char* form_ = "";
     std::vector<InputNumber> entries_;
 };
@@ -237,10 +230,12 @@ int splicesInUse(const Project& project) {
 }
 
 std::vector<InputNumber> inputNumbers(const Project& project) {
-    InputList list(project);
+    InputList list;
     list.form("Material");
     list.add(project.fyk, "fyk", between(50, 2000));
-    for (int span = 1; span <= std::min<int>(project.NofSpans, kMaxSpans); ++span) list.addSpan(span);
+    list.form("Beam");
+    for (int span = 1; span <= std::min<int>(project.NofSpans, kMaxSpans); ++span)
+        list.add(project.Span(span), numbered("length of span ", span), spanLengthRange());
     addSetup(list, project);
     addLoads(list, project);
     addBuckling(list, project);
@@ -251,8 +246,8 @@ std::vector<InputNumber> inputNumbers(const Project& project) {
 }
 
 InputNumber inputNumber(const Project& project, const void* field) {
-    for (InputNumber& each : inputNumbers(project))
-        if (each.field == field) return std::move(each);
+    for (const InputNumber& each : inputNumbers(project))
+        if (each.field == field) return each;
     throw std::logic_error("no form enters this field");
 }
 

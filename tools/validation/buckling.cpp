@@ -12,8 +12,8 @@ struct BuckledBeam {
     Project project;
     UlsResults uls;
 
-    BuckledBeam(const ReferenceTables& tables, LtbCase curve, double C1, double C2, LoadPoint loadLevel) {
-        project = DefaultProject(tables);
+    BuckledBeam(const ReferenceTables& tables, LtbCase curve, double C1, double C2, LoadPoint loadLevel)
+        : project(DefaultProject(tables)) {
         project.NofSpans = 1;
         project.Span = {};
         project.Span(1) = 6000;
