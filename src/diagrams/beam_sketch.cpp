@@ -62,9 +62,22 @@ void drawSupports(DiagramCanvas& canvas, double base, bool below) {
     }
 }
 
-/// Number, " - " and name of each distinct section, in as many lines as there is room for at the foot of the drawing.
-/// @return the sections that found no room
-std::vector<std::string> drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& names) {
+/// Number, " - " and name of each distinct section of the spans shown.
+std::vector<std::string> legendOf(const DiagramCanvas& canvas, const DistinctSections& sections) {
+    std::vector<std::string> entries;
+    for (std::size_t i = 0; i < sections.names().size(); ++i) {
+        const int number = static_cast<int>(i) + 1;
+        bool shown = false;
+        for (int span = 1; span <= canvas.project.NofSpans; ++span)
+            shown = shown || (sections.numberOf(span) == number && canvas.showsSpan(span));
+        if (shown) entries.push_back(std::to_string(number) + " - " + sections.names()[i]);
+    }
+    return entries;
+}
+
+/// The legend, in as many lines as there is room for at the foot of the drawing.
+/// @return its top
+double drawLegend(DiagramCanvas& canvas, const std::vector<std::string>& entries) {
     DrawingSurface& surface = canvas.surface;
     const double bottom = canvas.Y0 + canvas.layout.area.bottom - 2.0;
     const double room = 0.4 * (canvas.layout.area.bottom - canvas.layout.bases[0]);
@@ -74,8 +87,7 @@ std::vector<std::string> drawLegend(DiagramCanvas& canvas, const std::vector<std
         const auto mostLines = static_cast<std::size_t>(std::max(1.0, room / surface.textHeight()));
         lines.assign(1, "");
         missed.clear();
-        for (std::size_t i = 0; i < names.size(); ++i) {
-            const std::string entry = std::to_string(i + 1) + " - " + names[i];
+        for (const std::string& entry : entries) {
             const bool full = !lines.back().empty() && surface.textWidth(lines.back() + entry) > kDiagramWidth;
             if (missed.empty() && (!full || lines.size() < mostLines)) {
                 if (full) lines.emplace_back();
@@ -94,7 +106,8 @@ std::vector<std::string> drawLegend(DiagramCanvas& canvas, const std::vector<std
         surface.text(corner, lines[i]);
         canvas.labels.keepClear({corner.x, corner.y, corner.x + surface.textWidth(lines[i]), bottom});
     }
-    return missed;
+    for (std::string& section : missed) canvas.labels.leaveOut(std::move(section));
+    return top;
 }
 
 void addSpanLabels(DiagramCanvas& canvas, const DistinctSections& sections, double base, bool below) {
@@ -233,8 +246,8 @@ bool loadsStandSideBySide(const DiagramCanvas& canvas, const std::vector<Label>&
 
 /// Loads of wheels that stand close together, as flags: a line straight up from each wheel, its load beside the line's
 /// end, the next one lower. So no line crosses a text, and each text belongs to one wheel.
-void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std::vector<Label>& loads,
-                   std::vector<std::string>& missed) {
+/// @param legend  top of the legend, which keeps its rows
+void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std::vector<Label>& loads, double legend) {
     DrawingSurface& surface = canvas.surface;
     const Em em = emOf(surface);
     const Box& frame = canvas.labels.frame();
@@ -254,13 +267,10 @@ void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std:
             const double apart = std::abs(loads[order[n]].anchor.x - loads[order[before]].anchor.x);
             if (apart < widest + em.x) levels[order[n]] = std::max(levels[order[n]], levels[order[before]] + 1);
         }
-    // Title and legend keep their rows.
     const auto topAt = [&](double first, int level) {
         return cranes.bridge + away * (first + level) * em.y - 0.5 * em.y;
     };
-    const auto fits = [&](double top) {
-        return top >= frame.top + 1.3 * em.y && top + em.y <= canvas.Y0 + canvas.layout.area.bottom - 3.0 * em.y;
-    };
+    const auto fits = [&](double top) { return top >= frame.top + 1.3 * em.y && top + em.y <= legend; };
     const int highest = *std::max_element(levels.begin(), levels.end());
     const double first = fits(topAt(kAboveName, highest)) ? kAboveName : kAtBridge;
     surface.setFont(canvas.labelFont);
@@ -271,7 +281,7 @@ void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std:
         const double width = surface.textWidth(texts[i]);
         const double left = toTheRight ? x + 0.4 * em.x : x - 0.4 * em.x - width;
         if (left < frame.left || !fits(top)) {
-            missed.push_back(loads[i].inList);
+            canvas.labels.leaveOut(loads[i].inList);
             continue;
         }
         canvas.drawLine({x, cranes.bridge}, {x, middle}, colours::grey, 1);
@@ -279,11 +289,11 @@ void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std:
                         colours::grey, 1);
         surface.setColour(colours::black);
         surface.text({left, top}, texts[i]);
-        canvas.labels.keepClear({left, top, left + width, top + em.y});
+        canvas.labels.keepClear({std::min(x, left), top, std::max(x, left + width), top + em.y});
     }
 }
 
-void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, std::vector<std::string>& missed) {
+void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, double legend) {
     const double side = kind.cranesAbove ? -1.0 : 1.0;
     const double radius = kWheelRadius * emOf(canvas.surface).y;
     CraneDrawing cranes{kind, {}, base + side * (radius + 1.0), base + side * (2.4 * radius + 1.0)};
@@ -292,7 +302,8 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, std:
         if (canvas.shows(x))
             cranes.wheels.push_back({wheel.wheel, x});
         else if (wheel.x > kBeamStart + kBeamLength && canvas.showsSpan(canvas.project.NofSpans))
-            missed.push_back(loadLabel(canvas, cranes, {wheel.wheel, x}).inList);  // the crane is longer than the beam
+            canvas.labels.leaveOut(
+                loadLabel(canvas, cranes, {wheel.wheel, x}).inList);  // the crane is longer than the beam
     }
     for (const int crane : {1, 2}) drawCrane(canvas, cranes, crane);
 
@@ -311,7 +322,7 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, std:
             canvas.labels.add(load);
         }
     } else {
-        drawLoadFlags(canvas, cranes, loads, missed);
+        drawLoadFlags(canvas, cranes, loads, legend);
     }
     addWheelDistances(canvas, cranes);
 }
@@ -329,17 +340,15 @@ std::vector<std::string> drawBeamSketch(DrawingSurface& surface, const Project& 
     canvas.drawHead(splices ? "          X = Beam splice" : "", false);
     const double above = canvas.layout.bases[0] - canvas.layout.area.top;
     const double base = Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
-    std::vector<std::string> missed = drawLegend(canvas, sections.names());
+    const double legend = drawLegend(canvas, legendOf(canvas, sections));
     surface.setFont(canvas.labelFont);
     canvas.drawLine({canvas.left(), base}, {canvas.right(), base}, colours::black, 3);
     canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
     drawSupports(canvas, base, kind.cranesAbove);
     drawSplices(canvas, base);
-    drawCranes(canvas, kind, base, missed);
+    drawCranes(canvas, kind, base, legend);
     addSpanLabels(canvas, sections, base, kind.cranesAbove);
-    const std::vector<std::string> others = canvas.drawLabels();
-    missed.insert(missed.end(), others.begin(), others.end());
-    return missed;
+    return canvas.drawLabels();
 }
 
 }  // namespace borvik

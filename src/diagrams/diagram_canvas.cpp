@@ -120,7 +120,7 @@ void DiagramCanvas::drawHead(const std::string& ofDiagram, bool withSigns) {
     const Box titleBox{corner.x, corner.y, corner.x + size.width, corner.y + size.height};
     surface.setFont(labelFont);
     if (withSigns) {
-        const double left = X0 + kDiagramWidth - signsWidth(surface, kind_);
+        const double left = X0 + kDiagramWidth - signsWidth(surface, kind_) - emOf(surface).x;
         if (left > titleBox.right && remarkFits(remark, titleBox, left)) {
             drawRemark(remark, titleBox, left);
             surface.setFont(labelFont);

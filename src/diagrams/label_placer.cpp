@@ -184,7 +184,7 @@ LabelPlacer::Attempt LabelPlacer::placeBest(DrawingSurface& surface, Font& font)
 }
 
 int LabelPlacer::leftOut(const Attempt& attempt) const {
-    int missed = 0;
+    int missed = static_cast<int>(elsewhere_.size());
     for (std::size_t i = 0; i < labels_.size(); ++i)
         if (!attempt.places[i] && !labels_[i].inList.empty()) ++missed;
     return missed;
@@ -207,7 +207,7 @@ std::vector<std::string> LabelPlacer::draw(DrawingSurface& surface, Font font) {
     Attempt attempt = placeBest(surface, font);
     if (leftOut(attempt) > 0) {
         const Font ofRemark = font;
-        const Extent room = surface.extent(moreValues(static_cast<int>(labels_.size())));
+        const Extent room = surface.extent(moreValues(static_cast<int>(elsewhere_.size() + labels_.size())));
         auto corner = cornerFor(room, attempt);
         if (!corner) {  // the remark comes first: without it the drawing would seem complete
             corner = Box{frame_.right - room.width, frame_.bottom - room.height, frame_.right, frame_.bottom};
@@ -223,7 +223,7 @@ std::vector<std::string> LabelPlacer::draw(DrawingSurface& surface, Font font) {
         surface.setFont(font);
     }
     drawLeaders(surface, attempt);
-    std::vector<std::string> missed;
+    std::vector<std::string> missed = elsewhere_;
     for (std::size_t i = 0; i < labels_.size(); ++i)
         if (attempt.places[i])
             drawLabel(surface, labels_[i], *attempt.places[i]);

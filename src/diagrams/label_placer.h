@@ -61,12 +61,14 @@ public:
     /// A line of the drawing, better not covered.
     void avoid(Place from, Place to) { lines_.push_back({from, to}); }
     void add(Label label) { labels_.push_back(std::move(label)); }
+    /// A value that the drawing itself found no room for: counted and listed with the labels left out.
+    void leaveOut(std::string inList) { elsewhere_.push_back(std::move(inList)); }
     [[nodiscard]] const Box& frame() const { return frame_; }
 
     /// Places and draws all labels. A label over a line gets a white ground, one that stands away from its anchor a
     /// thin line to it, in the pen at hand.
     /// @param font  its size is the largest to try
-    /// @return what was left out, as it reads in a list, in the order of the labels
+    /// @return what was left out, as it reads in a list, in the order of the calls of leaveOut and of the labels
     std::vector<std::string> draw(DrawingSurface& surface, Font font);
 
 private:
@@ -101,6 +103,7 @@ private:
     std::vector<Box> taken_;
     std::vector<Line> lines_;
     std::vector<Label> labels_;
+    std::vector<std::string> elsewhere_;  ///< from leaveOut
 };
 
 /// Text heights in the units of both directions: a measure that looks the same across and down.

@@ -11,6 +11,7 @@
 #include "pictures/fatigue_pictures.h"
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
+#include "sheet.h"
 #include "tutorial.h"
 #include "views/detailed_result_dialog.h"
 #include "window/about_dialog.h"
@@ -19,6 +20,7 @@
 /// Takes the pictures of the windows for the documents, from a project calculated in the real main window, and those of
 /// the tutorial, whose project is saved beside them as tutorial.brvk.
 /// Usage: borvik-screenshots FOLDER [PROJECT.brvk [WIDTH HEIGHT]] [--dark]
+///        borvik-screenshots --sheet OUT.png PROJECT.brvk [PAGE.png...]
 
 namespace {
 
@@ -81,6 +83,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QStringList arguments = QApplication::arguments().mid(1);
     if (arguments.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
+    if (arguments.removeAll("--sheet") > 0) return takeSheet(arguments);
     if (arguments.isEmpty()) {
         std::cerr << "usage: borvik-screenshots FOLDER [PROJECT.brvk [WIDTH HEIGHT]] [--dark]\n";
         return 2;
