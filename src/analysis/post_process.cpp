@@ -50,6 +50,7 @@ UlsPostProcess::UlsPostProcess(const LoadedBeam& loaded, UlsResults& results)
     UlsPositions& at = results.At;
     at.RzMax = at.RzMin = at.RyMax = at.RyMin = Array<WalkPosition>(1, n + 1);
     at.MySupport = Array<WalkPosition>(1, n);
+    at.MySupportPoint = Array<std::int16_t>(1, n);
 }
 
 void UlsPostProcess::record(const SolvedPosition& position, SpanMask mask) {
@@ -87,6 +88,7 @@ void UlsPostProcess::recordSupportMoment(int i, const SolvedPosition& position) 
     record(i, 7) = wheels[5].span;
     record(i, 8) = wheels[5].a;
     results_.At.MySupport(i) = position.at;
+    results_.At.MySupportPoint(i) = rightGoverns ? kPoints : 1;
 }
 
 FlsPostProcess::FlsPostProcess(const LoadedBeam& loaded, FlsResults& results)

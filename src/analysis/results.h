@@ -41,6 +41,7 @@ constexpr int kWholeSpan = kPoints + 1;
 struct UlsPositions {
     Table<WalkPosition> MyMax, MyMin, VzMax, VzMin, MzMax, MzMin, VyMax, VyMin;  ///< [span][1..21 and kWholeSpan]
     Array<WalkPosition> MySupport;                                               ///< [span]
+    Array<std::int16_t> MySupportPoint;                                          ///< [span] the end it is of: 1 or 21
     Array<WalkPosition> RzMax, RzMin, RyMax, RyMin;                              ///< [1..supports]
 };
 /// The same of the serviceability limit state: of the deflections of largest magnitude.

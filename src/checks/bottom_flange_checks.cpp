@@ -2,6 +2,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "checks/check_stands.h"
 #include "checks/check_texts.h"
 #include "checks/local_checks.h"
 
@@ -104,8 +105,9 @@ RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
     const double xw = *std::max_element(project.Avst.begin(), project.Avst.begin() + 3);
     // Stress at the underside from My alone: the flange's own share of Mz is left out.
     const double MyMax = basis.uls.MyMaxSpan(span, 1), MyMin = basis.uls.MyMinSpan(span, 1);
-    const double Sf =
-        std::fmax(std::abs(MyMax / section.Iy * section.EzEl), std::abs(MyMin / section.Iy * section.EzEl));
+    const double SfMax = std::abs(MyMax / section.Iy * section.EzEl);
+    const double SfMin = std::abs(MyMin / section.Iy * section.EzEl);
+    const double Sf = std::fmax(SfMax, SfMin);
     // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0: note D7.
     const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
                                          Sf / project.fyk / project.GammaM0);
@@ -115,6 +117,8 @@ RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
     rows(2) = oneDecimal(Fz / 2) + "/" + oneDecimal(FfRd) + " = ";
     setRatio(rows, Fz / 2 / FfRd);
     rows(4) = " <  1.00 (Ch 6.7/EN 1993-6)";
+    rows.Stands[0] = SfMax >= SfMin ? standOf(basis, Effect::My, basis.uls.MyMaxSpan, basis.uls.At.MyMax, span)
+                                    : standOf(basis, Effect::My, basis.uls.MyMinSpan, basis.uls.At.MyMin, span);
     return rows;
 }
 
@@ -127,6 +131,7 @@ RowSet vonMisesRow(const CheckBasis& basis, int span, int) {
     rows(2) = oneDecimal(SvM) + "/" + oneDecimal(project.fyk) + " = ";
     setRatio(rows, SvM / project.fyk);
     rows(4) = " <  1.00 (Ch 5.8/7.5/EN 1993-6)";
+    rows.Stands[0] = standOf(basis, Effect::My, basis.uls.MyMaxSpan, basis.uls.At.MyMax, span);
     return rows;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <string>
 
+#include "analysis/crane_stand.h"
 #include "base/array.h"
 
 namespace borvik {
@@ -16,6 +18,9 @@ struct RowSet {
     FixedArray<std::string, 1, 8> Text;
     double Ratio = 0.0;
     double LargestOfPoints = 0.0;
+    /// The position of the cranes that governs; of a stress range also that of its other extreme. Not known where no
+    /// position decides, as with the local effect of a wheel.
+    std::array<CraneStand, 2> Stands = {};
 
     /// The largest ratio that stands behind these rows, shown or not.
     [[nodiscard]] double largest() const { return std::fmax(LargestOfPoints, Ratio); }
@@ -24,12 +29,13 @@ struct RowSet {
     bool operator==(const RowSet&) const = default;
 };
 
-/// Copies rows first..last, and the number where row 3 is among them.
+/// Copies rows first..last, and the number and the governing position where row 3 is among them.
 inline void copyRows(RowSet& to, const RowSet& from, int first, int last) {
     for (int row = first; row <= last; ++row) to(row) = from(row);
     if (first > 3 || last < 3) return;
     to.Ratio = from.Ratio;
     to.LargestOfPoints = from.LargestOfPoints;
+    to.Stands = from.Stands;
 }
 
 /// Rows of a fatigue detail.

@@ -1,5 +1,7 @@
 #include "checks/deflection_checks.h"
 
+#include <cmath>
+
 #include "checks/check_texts.h"
 
 namespace borvik {
@@ -20,16 +22,29 @@ RowSet deflectionRows(const char* formula, double length, double limit, const Ta
     return rows;
 }
 
+/// The position of the largest deflection of a span.
+CraneStand standOf(Effect effect, const Cube<Single>& points, const Table<WalkPosition>& positions, int span) {
+    if (positions.rows() < span) return {};
+    int point = 1;
+    for (int k = 2; k <= kPoints; ++k)
+        if (std::abs(points(span, k, 1)) > std::abs(points(span, point, 1))) point = k;
+    return {WalkOf::Sls, effect, positions(span, kWholeSpan), span, point};
+}
+
 }  // namespace
 
 RowSet verticalDeflectionRow(const CheckBasis& basis, int span, int) {
     const Project& project = basis.project;
-    return deflectionRows("IR = dz/(L/", project.Span(span), project.DefZ, basis.sls.UzMaxSpan, span);
+    RowSet rows = deflectionRows("IR = dz/(L/", project.Span(span), project.DefZ, basis.sls.UzMaxSpan, span);
+    rows.Stands[0] = standOf(Effect::Uz, basis.sls.UzMaxPoint, basis.sls.At.Uz, span);
+    return rows;
 }
 
 RowSet horizontalDeflectionRow(const CheckBasis& basis, int span, int) {
     const Project& project = basis.project;
-    return deflectionRows("IR = dy/(L/", project.Span(span), project.DefY, basis.sls.UyMaxSpan, span);
+    RowSet rows = deflectionRows("IR = dy/(L/", project.Span(span), project.DefY, basis.sls.UyMaxSpan, span);
+    rows.Stands[0] = standOf(Effect::Uy, basis.sls.UyMaxPoint, basis.sls.At.Uy, span);
+    return rows;
 }
 
 }  // namespace borvik

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "checks/check_stands.h"
 #include "checks/check_texts.h"
 #include "checks/ltb_reduction.h"
 
@@ -128,7 +129,13 @@ void DefaultCFactors(Project& project) {
 }
 
 RowSet bucklingRow(const CheckBasis& basis, int span, int extreme) {
-    return extreme == 0 ? positiveRows(basis.project, span, basis.uls) : negativeRows(basis.project, span, basis.uls);
+    const UlsResults& uls = basis.uls;
+    RowSet rows = extreme == 0 ? positiveRows(basis.project, span, uls) : negativeRows(basis.project, span, uls);
+    if (extreme == 0)
+        rows.Stands[0] = standOf(basis, Effect::My, uls.MyMaxSpan, uls.At.MyMax, span);
+    else if (uls.At.MySupport.has(span))
+        rows.Stands[0] = {WalkOf::Uls, Effect::My, uls.At.MySupport(span), span, uls.At.MySupportPoint(span)};
+    return rows;
 }
 
 }  // namespace borvik

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/fault.h"
+#include "checks/check_stands.h"
 #include "checks/check_texts.h"
 
 namespace borvik {
@@ -118,15 +119,21 @@ Single ReducedMoment(const Project& project, const SectionRecord& section, doubl
 
 RowSet shearRow(const CheckBasis& basis, int span, int extreme) {
     const SectionRecord& section = basis.project.SpanSection(span);
+    const UlsResults& uls = basis.uls;
     // Row 4 has a blank before "mm" only for the smallest Vz, which tells the two apart.
-    if (extreme == 0) return shearRows(section, basis.uls.VzMaxSpan, span, "0");
-    return shearRows(section, basis.uls.VzMinSpan, span, "0 ");
+    RowSet rows =
+        extreme == 0 ? shearRows(section, uls.VzMaxSpan, span, "0") : shearRows(section, uls.VzMinSpan, span, "0 ");
+    rows.Stands[0] = extreme == 0 ? standOf(basis, Effect::Vz, uls.VzMaxSpan, uls.At.VzMax, span)
+                                  : standOf(basis, Effect::Vz, uls.VzMinSpan, uls.At.VzMin, span);
+    return rows;
 }
 
 RowSet bendingRow(const CheckBasis& basis, int span, int extreme) {
     const SectionRecord& section = basis.project.SpanSection(span);
-    if (extreme == 0) return bendingRows(basis.project, section, basis.uls.MyMaxSpan, span, kBendMaxTexts);
-    return bendingRows(basis.project, section, basis.uls.MyMinSpan, span, kBendMinTexts);
+    const Table<Single>& steps = extreme == 0 ? basis.uls.MyMaxSpan : basis.uls.MyMinSpan;
+    RowSet rows = bendingRows(basis.project, section, steps, span, extreme == 0 ? kBendMaxTexts : kBendMinTexts);
+    rows.Stands[0] = standOf(basis, Effect::My, steps, extreme == 0 ? basis.uls.At.MyMax : basis.uls.At.MyMin, span);
+    return rows;
 }
 
 }  // namespace borvik

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "analysis/results.h"
@@ -62,6 +63,38 @@ bool uses(const Detail& detail, Stress stress) {
                        [stress](const Term& term) { return term.exponent != 0 && term.stress == stress; });
 }
 
+/// Both ends of a stress range and where the cranes stand there. A stress that a wheel makes where it stands, wherever
+/// that is, has none.
+struct StressExtremes {
+    Effect effect = Effect::TopFlange;
+    int place = 0, point = 0;  ///< as in CraneStand
+    double largest = 0.0, smallest = 0.0;
+    WalkPosition largestAt, smallestAt;
+};
+
+std::optional<StressExtremes> extremesOf(Stress stress, const StressSet& set, const Place& place) {
+    const int i = place.span, k = place.point;
+    if (stress == Stress::Support || stress == Stress::HangerReaction)
+        return StressExtremes{Effect::Rz,
+                              place.row,
+                              0,
+                              set.RzMax(place.row),
+                              set.RzMin(place.row),
+                              set.At.RzMax(place.row),
+                              set.At.RzMin(place.row)};
+    if (i < 1 || i > set.At.MyMax.rows()) return std::nullopt;
+    if (stress == Stress::TopFlange)  // hogging pulls the top flange
+        return StressExtremes{Effect::TopFlange, i, k, set.Sig1Max(i, k), set.Sig1Min(i, k), set.At.MyMin(i, k),
+                              set.At.MyMax(i, k)};
+    if (stress == Stress::BottomFlange)
+        return StressExtremes{Effect::BottomFlange, i, k, set.Sig2Max(i, k), set.Sig2Min(i, k), set.At.MyMax(i, k),
+                              set.At.MyMin(i, k)};
+    if (stress == Stress::Web || stress == Stress::WebAndWheel)
+        return StressExtremes{Effect::Web,       i, k, set.TauMax(i, k), set.TauMin(i, k), set.At.VzMax(i, k),
+                              set.At.VzMin(i, k)};
+    return std::nullopt;
+}
+
 /// The check of one detail.
 class DetailCheck {
 public:
@@ -108,6 +141,8 @@ private:
     void addBottomFlangeWeld(Damage& damage, const Place& place) const;
     [[nodiscard]] Damage damageAt(const Place& place, const LocalStress& local) const;
     [[nodiscard]] std::string numbers(const Damage& damage) const;
+
+    [[nodiscard]] std::array<CraneStand, 2> standsFor(const Place& place) const;
 
     void check(int row, RowSet& texts) const;
 
@@ -343,6 +378,32 @@ std::string DetailCheck::numbers(const Damage& damage) const {
     return text + " = ";
 }
 
+/// The positions between which the stress of the detail ranges at a place, the one of the larger magnitude first. Of
+/// several walks it is the one with the largest range.
+std::array<CraneStand, 2> DetailCheck::standsFor(const Place& place) const {
+    const struct {
+        const StressSet& set;
+        WalkOf walk;
+    } walks[] = {{in_.Cr1, WalkOf::FatigueCrane1}, {in_.Cr2, WalkOf::FatigueCrane2}, {in_.Cr12, WalkOf::FatigueBoth}};
+    std::array<CraneStand, 2> stands;
+    double widest = 0.0;
+    for (const auto& [set, walk] : walks) {
+        if (set.At.MyMax.rows() == 0) continue;
+        for (const Term& term : detail_.terms) {
+            const auto extremes = term.exponent == 0 ? std::nullopt : extremesOf(term.stress, set, place);
+            if (!extremes || !(std::abs(extremes->largest - extremes->smallest) > widest)) continue;
+            widest = std::abs(extremes->largest - extremes->smallest);
+            const CraneStand stand{walk, extremes->effect, {}, extremes->place, extremes->point};
+            stands = {stand, stand};
+            const bool largestFirst = std::abs(extremes->largest) >= std::abs(extremes->smallest);
+            stands[largestFirst ? 0 : 1].at = extremes->largestAt;
+            stands[largestFirst ? 1 : 0].at = extremes->smallestAt;
+            break;
+        }
+    }
+    return stands;
+}
+
 void DetailCheck::check(int row, RowSet& texts) const {
     if (!checkedAt(row)) return;
 
@@ -365,6 +426,7 @@ void DetailCheck::check(int row, RowSet& texts) const {
     texts(1) = detail_.label[static_cast<std::size_t>(cranes_)];
     texts(2) = numbers(governing);
     texts(4) = placeText(governingPlace);
+    texts.Stands = standsFor(governingPlace);
 }
 
 std::vector<DamagePoint> DetailCheck::sums() const {

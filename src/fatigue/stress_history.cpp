@@ -13,24 +13,18 @@ namespace {
 constexpr double kStiffenerCope = 30.0;  // mm cut off the stiffener's corner
 
 void stressesOfSpan(StressSet& set, const Project& project, const FlsResults& fls, const CraneFactors& factors, int i) {
-    const SectionRecord& section = project.SpanSection(i);
-    const double zt = -(section.h - section.EzEl);
-    const double zb = section.EzEl;
-    const double Iy = section.Iy;
-    const double LamSig = factors.LamSig;
+    const PointStress stress(project.SpanSection(i), factors);
     for (int k = 1; k <= kPoints; ++k) {
         const double MyMax = fls.FlsMyMaxPoint(i, k, 1);
         const double MyMin = fls.FlsMyMinPoint(i, k, 1);
-        set.Sig1Max(i, k) = MyMin / Iy * zt * LamSig;  // hogging pulls the top flange
-        set.Sig1Min(i, k) = MyMax / Iy * zt * LamSig;
+        set.Sig1Max(i, k) = stress.topFlange(MyMin);  // hogging pulls the top flange
+        set.Sig1Min(i, k) = stress.topFlange(MyMax);
         set.Sig1Range(i, k) = std::abs(set.Sig1Max(i, k) - set.Sig1Min(i, k));
-        set.Sig2Max(i, k) = MyMax / Iy * zb * LamSig;
-        set.Sig2Min(i, k) = MyMin / Iy * zb * LamSig;
+        set.Sig2Max(i, k) = stress.bottomFlange(MyMax);
+        set.Sig2Min(i, k) = stress.bottomFlange(MyMin);
         set.Sig2Range(i, k) = std::abs(set.Sig2Max(i, k) - set.Sig2Min(i, k));
-
-        const double webArea = section.tw * section.Hw;
-        set.TauMax(i, k) = fls.FlsVzMaxPoint(i, k, 2) / webArea * factors.LamTau;
-        set.TauMin(i, k) = fls.FlsVzMinPoint(i, k, 2) / webArea * factors.LamTau;
+        set.TauMax(i, k) = stress.web(fls.FlsVzMaxPoint(i, k, 2));
+        set.TauMin(i, k) = stress.web(fls.FlsVzMinPoint(i, k, 2));
         set.TauRange(i, k) = std::abs(set.TauMax(i, k) - set.TauMin(i, k));
     }
 }
@@ -101,6 +95,26 @@ void peaksOfSpan(StressSet& set, const Project& project, int i) {
 }
 
 }  // namespace
+
+PointStress::PointStress(const SectionRecord& section, const CraneFactors& factors)
+    : zt_(-(section.h - section.EzEl)),
+      zb_(section.EzEl),
+      Iy_(section.Iy),
+      webArea_(section.tw * section.Hw),
+      LamSig_(factors.LamSig),
+      LamTau_(factors.LamTau) {}
+
+Single PointStress::topFlange(double My) const {
+    return My / Iy_ * zt_ * LamSig_;
+}
+
+Single PointStress::bottomFlange(double My) const {
+    return My / Iy_ * zb_ * LamSig_;
+}
+
+Single PointStress::web(double Vz) const {
+    return Vz / webArea_ * LamTau_;
+}
 
 int strongerSpanAtSupport(const Project& project, int support) {
     const int n = project.NofSpans;

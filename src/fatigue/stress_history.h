@@ -28,6 +28,21 @@ inline constexpr History StressHistoryCr2{"Stress history of crane 2", SupportAr
 inline constexpr History StressHistoryCr12{"Stress history of both cranes", SupportArea::StiffenedWeb};
 inline constexpr History StressHistoryMonorail{"Stress history of the monorail", SupportArea::HangerPlate};
 
+/// The stresses at a point of a span, MPa, from its forces at one position of the cranes; tension positive, damage
+/// equivalence factors LamSig and LamTau included.
+class PointStress {
+public:
+    PointStress(const SectionRecord& section, const CraneFactors& factors);
+    /// At the extreme fibres of the flanges. @param My Nmm, sagging positive
+    [[nodiscard]] Single topFlange(double My) const;
+    [[nodiscard]] Single bottomFlange(double My) const;
+    /// Mean shear stress of the web. @param Vz N
+    [[nodiscard]] Single web(double Vz) const;
+
+private:
+    double zt_, zb_, Iy_, webArea_, LamSig_, LamTau_;
+};
+
 /// Turns the extremes of one fatigue walk into stresses, MPa, times the damage equivalence factors LamSig (Sig, SigSup)
 /// and LamTau (Tau) of `factors`: at the points of the spans, at the supports, and the peak of each table in each span.
 /// Range = |max - min|. A peak starts at 0, so that the smallest of a table of positive values only is 0 at x = 0.

@@ -36,44 +36,60 @@ struct EnvelopeColumn {
     const Cube<Single>& points;
     int slot;  ///< of the quantity in the records
     double divisor;
+    Effect effect;
+    const Table<WalkPosition>& positions;
 };
 
+/// A cell with the position of the cranes that gives its number.
+TableCell at(TableCell cell, const CraneStand& stand) {
+    cell.stands[0] = stand;
+    return cell;
+}
+
 template <std::size_t Count>
-ResultTable envelopeTable(const Project& project, const char* placeHeader, const char* note,
+ResultTable envelopeTable(const Project& project, WalkOf walk, const char* placeHeader, const char* note,
                           const std::array<EnvelopeColumn, Count>& columns) {
     ResultTable table;
     table.note = note;
     table.columns.push_back({placeHeader, "", "Span / distance from its left support in mm"});
     for (const EnvelopeColumn& column : columns) table.columns.push_back(column.column);
-    addPointRows(table, project, [&columns](std::vector<TableCell>& row, int span, int k) {
+    addPointRows(table, project, [&columns, walk](std::vector<TableCell>& row, int span, int k) {
         for (const EnvelopeColumn& column : columns)
-            row.push_back(numberCell(column.points(span, k, column.slot) / column.divisor, "0.0"));
+            row.push_back(at(numberCell(column.points(span, k, column.slot) / column.divisor, "0.0"),
+                             {walk, column.effect, column.positions(span, k), span, k}));
     });
     return table;
 }
 
-ResultTable stressTable(const Project& project, const std::optional<StressSet>& set) {
+ResultTable stressTable(const Project& project, const std::optional<StressSet>& set, WalkOf walk) {
     struct Column {
         const char* header;
         const char* help;
         Table<Single> StressSet::*stress;
+        Effect effect;
+        Table<WalkPosition> FlsPositions::*positions;  ///< hogging pulls the top flange
     };
     static constexpr std::array<Column, 7> kColumns{{
-        {"Sig1-max", "Top flange, largest", &StressSet::Sig1Max},
-        {"Sig1-min", "Top flange, smallest", &StressSet::Sig1Min},
-        {"Range", "Top flange, range", &StressSet::Sig1Range},
-        {"Sig2-max", "Bottom flange, largest", &StressSet::Sig2Max},
-        {"Sig2-min", "Bottom flange, smallest", &StressSet::Sig2Min},
-        {"Tau-max", "Web, largest mean shear stress", &StressSet::TauMax},
-        {"Tau-min", "Web, smallest mean shear stress", &StressSet::TauMin},
+        {"Sig1-max", "Top flange, largest", &StressSet::Sig1Max, Effect::TopFlange, &FlsPositions::MyMin},
+        {"Sig1-min", "Top flange, smallest", &StressSet::Sig1Min, Effect::TopFlange, &FlsPositions::MyMax},
+        {"Range", "Top flange, range", &StressSet::Sig1Range, Effect::TopFlange, &FlsPositions::MyMax},
+        {"Sig2-max", "Bottom flange, largest", &StressSet::Sig2Max, Effect::BottomFlange, &FlsPositions::MyMax},
+        {"Sig2-min", "Bottom flange, smallest", &StressSet::Sig2Min, Effect::BottomFlange, &FlsPositions::MyMin},
+        {"Tau-max", "Web, largest mean shear stress", &StressSet::TauMax, Effect::Web, &FlsPositions::VzMax},
+        {"Tau-min", "Web, smallest mean shear stress", &StressSet::TauMin, Effect::Web, &FlsPositions::VzMin},
     }};
     ResultTable table;
     table.note = "MPa, tension positive, damage equivalence factor included";
     table.columns.push_back({"Beam/Pos(mm)", "", "Span / distance from its left support in mm"});
     for (const Column& column : kColumns) table.columns.push_back({column.header, "MPa", column.help});
-    addPointRows(table, project, [&set](std::vector<TableCell>& row, int span, int k) {
-        for (const Column& column : kColumns)
-            row.push_back(numberCell(set ? double(((*set).*column.stress)(span, k)) : 0.0, "0.0"));
+    addPointRows(table, project, [&set, walk](std::vector<TableCell>& row, int span, int k) {
+        for (const Column& column : kColumns) {
+            if (set)
+                row.push_back(at(numberCell(((*set).*column.stress)(span, k), "0.0"),
+                                 {walk, column.effect, (set->At.*column.positions)(span, k), span, k}));
+            else
+                row.push_back(numberCell(0.0, "0.0"));
+        }
     });
     return table;
 }
@@ -106,29 +122,31 @@ constexpr std::array<TableEntry, 13> kEntries{{
 
 ResultTable TableMyVz(const Project& project, const Results& results) {
     const UlsResults& uls = results.Uls;
-    return envelopeTable<4>(project, "Beam/Pos(mm) ",
-                            "My sagging positive; Vz positive as the upward reaction at a left support",
-                            {{{{"My-max", "kNm", "Largest moment"}, uls.MyMaxPoint, 1, kPerKiloMetre},
-                              {{"My-min", "kNm", "Smallest moment"}, uls.MyMinPoint, 1, kPerKiloMetre},
-                              {{"Vz-max", "kN", "Largest shear force"}, uls.VzMaxPoint, 2, kPerKilo},
-                              {{"Vz-min ", "kN", "Smallest shear force"}, uls.VzMinPoint, 2, kPerKilo}}});
+    return envelopeTable<4>(
+        project, WalkOf::Uls, "Beam/Pos(mm) ",
+        "My sagging positive; Vz positive as the upward reaction at a left support",
+        {{{{"My-max", "kNm", "Largest moment"}, uls.MyMaxPoint, 1, kPerKiloMetre, Effect::My, uls.At.MyMax},
+          {{"My-min", "kNm", "Smallest moment"}, uls.MyMinPoint, 1, kPerKiloMetre, Effect::My, uls.At.MyMin},
+          {{"Vz-max", "kN", "Largest shear force"}, uls.VzMaxPoint, 2, kPerKilo, Effect::Vz, uls.At.VzMax},
+          {{"Vz-min ", "kN", "Smallest shear force"}, uls.VzMinPoint, 2, kPerKilo, Effect::Vz, uls.At.VzMin}}});
 }
 
 ResultTable TableMzVy(const Project& project, const Results& results) {
     const UlsResults& uls = results.Uls;
-    return envelopeTable<4>(project, "Beam/Pos(mm)",
-                            "Signs as in the vertical plane, loads in the direction of H positive",
-                            {{{{"Mz-max", "kNm", "Largest moment"}, uls.MzMaxPoint, 3, kPerKiloMetre},
-                              {{"Mz-min", "kNm", "Smallest moment"}, uls.MzMinPoint, 3, kPerKiloMetre},
-                              {{"Vy-max", "kN", "Largest shear force"}, uls.VyMaxPoint, 4, kPerKilo},
-                              {{"Vy-min ", "kN", "Smallest shear force"}, uls.VyMinPoint, 4, kPerKilo}}});
+    return envelopeTable<4>(
+        project, WalkOf::Uls, "Beam/Pos(mm)", "Signs as in the vertical plane, loads in the direction of H positive",
+        {{{{"Mz-max", "kNm", "Largest moment"}, uls.MzMaxPoint, 3, kPerKiloMetre, Effect::Mz, uls.At.MzMax},
+          {{"Mz-min", "kNm", "Smallest moment"}, uls.MzMinPoint, 3, kPerKiloMetre, Effect::Mz, uls.At.MzMin},
+          {{"Vy-max", "kN", "Largest shear force"}, uls.VyMaxPoint, 4, kPerKilo, Effect::Vy, uls.At.VyMax},
+          {{"Vy-min ", "kN", "Smallest shear force"}, uls.VyMinPoint, 4, kPerKilo, Effect::Vy, uls.At.VyMin}}});
 }
 
 ResultTable TableDeflection(const Project& project, const Results& results) {
     const SlsResults& sls = results.Sls;
-    return envelopeTable<2>(project, "Beam/Pos(mm) ", "Deflection of largest magnitude, downward negative",
-                            {{{{"Uz-max ", "mm", "Vertical deflection"}, sls.UzMaxPoint, 1, 1.0},
-                              {{"Uy-max ", "mm", "Horizontal deflection"}, sls.UyMaxPoint, 1, 1.0}}});
+    return envelopeTable<2>(
+        project, WalkOf::Sls, "Beam/Pos(mm) ", "Deflection of largest magnitude, downward negative",
+        {{{{"Uz-max ", "mm", "Vertical deflection"}, sls.UzMaxPoint, 1, 1.0, Effect::Uz, sls.At.Uz},
+          {{"Uy-max ", "mm", "Horizontal deflection"}, sls.UyMaxPoint, 1, 1.0, Effect::Uy, sls.At.Uy}}});
 }
 
 ResultTable TableReactions(const Project& project, const Results& results) {
@@ -140,21 +158,30 @@ ResultTable TableReactions(const Project& project, const Results& results) {
                      {"Rz - min", "kN", "Smallest vertical reaction"},
                      {"Ry - max", "kN", "Largest horizontal reaction"},
                      {"Ry - min", "kN", "Smallest horizontal reaction"}};
+    const struct {
+        const Array<Single>& reactions;
+        Effect effect;
+        const Array<WalkPosition>& positions;
+    } columns[] = {{uls.RzMax, Effect::Rz, uls.At.RzMax},
+                   {uls.RzMin, Effect::Rz, uls.At.RzMin},
+                   {uls.RyMax, Effect::Ry, uls.At.RyMax},
+                   {uls.RyMin, Effect::Ry, uls.At.RyMin}};
     for (int support = 1; support <= project.NofSpans + 1; ++support) {
         std::vector<TableCell> row{numberCell(support, "0")};
-        for (const Array<Single>* reaction : {&uls.RzMax, &uls.RzMin, &uls.RyMax, &uls.RyMin})
-            row.push_back(numberCell((*reaction)(support) / kPerKilo, "0.0"));
+        for (const auto& [reactions, effect, positions] : columns)
+            row.push_back(at(numberCell(reactions(support) / kPerKilo, "0.0"),
+                             {WalkOf::Uls, effect, positions(support), support, 0}));
         table.rows.push_back(std::move(row));
     }
     return table;
 }
 
 ResultTable TableStress1(const Project& project, const Results& results) {
-    return stressTable(project, results.Fatigue.Cr1);
+    return stressTable(project, results.Fatigue.Cr1, WalkOf::FatigueCrane1);
 }
 
 ResultTable TableStress2(const Project& project, const Results& results) {
-    ResultTable table = stressTable(project, results.Fatigue.Cr2);
+    ResultTable table = stressTable(project, results.Fatigue.Cr2, WalkOf::FatigueCrane2);
     // Two cranes at a constant distance are walked as one train, and no stress of crane 2 by itself exists.
     if (!results.Fatigue.Cr2 && project.NofCranes == 2)
         table.rows.push_back(
@@ -208,6 +235,16 @@ int governingRow(const ResultTable& summary) {
         largest = ratio;
     }
     return governing;
+}
+
+std::array<CraneStand, 2> standsOf(const ResultTable& table, int row, int column) {
+    if (row < 0 || static_cast<std::size_t>(row) >= table.rows.size()) return {};
+    const std::vector<TableCell>& cells = table.rows[static_cast<std::size_t>(row)];
+    const auto own = static_cast<std::size_t>(std::max(0, column));
+    if (own < cells.size() && cells[own].stands[0].isKnown()) return cells[own].stands;
+    const auto first =
+        std::find_if(cells.begin(), cells.end(), [](const TableCell& cell) { return cell.stands[0].isKnown(); });
+    return first == cells.end() ? std::array<CraneStand, 2>{} : first->stands;
 }
 
 std::string tabSeparated(const ResultTable& table, bool withHeaders) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -26,6 +27,8 @@ struct TableCell {
     Emphasis emphasis = Emphasis::None;
     std::optional<double> number;
     std::string mask;
+    /// Where the cranes stand for that number; not known where no position decides it. See RowSet::Stands.
+    std::array<CraneStand, 2> stands = {};
 };
 
 struct TableColumn {
@@ -90,6 +93,9 @@ struct TableEntry {
 /// The row of a summary that governs: a ratio that is negative or no number before the largest one.
 /// @return its index; -1 where the table has no ratio in its second column
 [[nodiscard]] int governingRow(const ResultTable& summary);
+
+/// The positions of the cranes behind a cell or, where it has none, behind the first cell of its row that has one.
+[[nodiscard]] std::array<CraneStand, 2> standsOf(const ResultTable& table, int row, int column);
 
 /// Tab-separated text, one line a row, every line ended by "\n".
 [[nodiscard]] std::string tabSeparated(const ResultTable& table, bool withHeaders = true);

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 
 #include "base/number_text.h"
+#include "calculation/crane_drive.h"
 #include "project/project_file.h"
 #include "results/result_tree.h"
 #include "support/golden.h"
@@ -75,6 +77,47 @@ TEST(Tables, everyShownNumberStandsBehindItsText) {
                             << entry.path() << ": " << cell.text;
                     }
         }
+}
+
+double valueThere(CraneDrive& drive, const std::array<CraneStand, 2>& stands) {
+    EXPECT_TRUE(drive.goTo({stands[0]}));
+    const auto& [walk, effect, at, place, point] = drive.stand();
+    if (point == 0) return drive.reaction(place, effect == Effect::Ry);
+    return drive.values(effect, place)[static_cast<std::size_t>(point)];
+}
+
+/// The cranes, put where a cell says, give its number to the bit, and the number in the equation of a check.
+TEST(Tables, theCranesStandWhereTheNumbersComeFrom) {
+    for (const Sample sample : kSamples) {
+        const Session& session = sessionOf(sample);
+        CraneDrive drive(session.project, *session.results);
+        for (const char* name : {"MyVz", "MzVy", "Reactions", "Deflection", "Stress1", "Stress2"}) {
+            const ResultTable table = findTable(name)->fill(session.project, *session.results);
+            for (const auto& row : table.rows)
+                for (std::size_t column = 1; column < row.size(); ++column)
+                    if (row[column].stands[0].isKnown() && table.columns[column].header != "Range") {
+                        ASSERT_EQ(Single(valueThere(drive, row[column].stands)), Single(*row[column].number))
+                            << nameOf(sample) << name << row[0].text << table.columns[column].header;
+                    }
+        }
+        for (const auto& row : TableCodeStatic(session.project, *session.results).rows) {
+            if (row.size() < 4 || !row[3].stands[0].isKnown()) continue;
+            const std::string& formula = row[1].text;
+            if (formula.find("Fz,Ed") < 9 || formula.find("SigvM") < 9) continue;  // begin with a wheel, a stress
+            const std::string equation = row[2].text.substr(row[2].text[0] == '[');
+            const double value = std::abs(valueThere(drive, row[3].stands));
+            EXPECT_EQ(equation.rfind(formatNumber(value, "0.0") + "/", 0), 0U) << row[0].text << formula;
+        }
+        // The bending stress range of a detail is what lies between both positions.
+        for (const auto& row : findTable("CodeFatigue")->fill(session.project, *session.results).rows) {
+            if (row.size() < 4 || row[3].stands[0].effect != Effect::BottomFlange) continue;
+            const auto [one, other] = row[3].stands;
+            const double range =
+                std::abs(valueThere(drive, {one}) - (other.isKnown() ? valueThere(drive, {other}) : 0));
+            const bool printed = row[2].text.find("*" + formatNumber(range, "0.0") + "/") != std::string::npos;
+            EXPECT_TRUE(printed || session.results->Fatigue.Summed == Cranes::Together) << row[2].text << range;
+        }
+    }
 }
 
 TEST(Tables, areFoundByNameWhateverTheCapitals) {
