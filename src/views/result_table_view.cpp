@@ -135,7 +135,9 @@ int ResultTableView::contentWidth(int column) const {
         if (model_.isLine(row)) continue;
         const QModelIndex cell = model_.index(row, column);
         const int sign = cell.data(Qt::DecorationRole).isNull() ? 0 : kSign;
-        width = std::max(width, fontMetrics().horizontalAdvance(cell.data().toString()) + kMargins + sign);
+        const QVariant own = cell.data(Qt::FontRole);  // a ratio over 1 is bold
+        const QFontMetrics metrics = own.isNull() ? fontMetrics() : QFontMetrics(own.value<QFont>());
+        width = std::max(width, metrics.horizontalAdvance(cell.data().toString()) + kMargins + sign);
     }
     return width;
 }
