@@ -296,7 +296,9 @@ Group ProfileDialog::endPost() {
         });
         option->setChecked(project_.StiffenerMode == each.mode);
         endPosts_.emplace_back(option, each.mode);
-        group.grid->addWidget(option, 0, group.grid->count());
+        const int column = static_cast<int>(endPosts_.size()) - 1;
+        group.grid->addWidget(option, 0, column);
+        group.grid->addWidget(new Picture(endPostPicture(each.mode), 12, 4), 1, column);
     }
     return group;
 }

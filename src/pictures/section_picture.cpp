@@ -185,4 +185,29 @@ PicturePainter reinforcementPicture(const SectionRecord& section) {
     };
 }
 
+PicturePainter endPostPicture(EndPost endPost) {
+    return [endPost](QPainter& painter, const QRectF& area, const Ink& ink) {
+        const double line = painter.fontMetrics().lineSpacing();
+        const double flange = 0.3 * line, support = 0.7 * line;
+        const double height = area.height() - support - 0.2 * line, length = std::min(area.width(), 2.2 * height);
+        const QRectF beam(area.center().x() - length / 2, area.top(), length, height);
+        painter.setPen(penOf(ink.line));
+        painter.setBrush(ink.steel);
+        painter.drawRect(beam);
+        painter.drawRect(QRectF(beam.left(), beam.top(), length, flange));
+        painter.drawRect(QRectF(beam.left(), beam.bottom() - flange, length, flange));
+        const double overSupport = beam.left() + 0.3 * height;
+        painter.setBrush(ink.other);
+        const auto stiffener = [&](double x) {
+            painter.drawRect(QRectF(x - 0.12 * line, beam.top() + flange, 0.24 * line, height - 2 * flange));
+        };
+        stiffener(overSupport);
+        if (endPost == EndPost::Rigid) stiffener(beam.left() + 0.12 * line);
+        const QPointF foot(overSupport, beam.bottom());
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolygon(
+            QPolygonF{{foot, foot + QPointF(-0.6 * support, support), foot + QPointF(0.6 * support, support)}});
+    };
+}
+
 }  // namespace borvik
