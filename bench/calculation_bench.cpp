@@ -43,7 +43,7 @@ void growth(benchmark::State& state, WalkMethod method) {
 
 void notes(benchmark::State& state, Session session) {
     secondsOf(session, WalkMethod::Fast);
-    for (auto _ : state) benchmark::DoNotOptimize(ProjectNotes(session));
+    for (auto _ : state) benchmark::DoNotOptimize(projectNotes(session));
 }
 
 constexpr auto kMs = benchmark::kMillisecond;

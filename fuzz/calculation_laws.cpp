@@ -27,7 +27,7 @@ double positionsOf(Project project) {
     for (const Single gap : project.Avst) project.CranesLength += gap;
     if (!(project.CranesLength < project.BeamLength)) return 0;
     try {
-        return CountPositions(project, project.NofCranes);
+        return countPositions(project, project.NofCranes);
     } catch (const RuntimeFault&) {
         return 0;
     }
@@ -46,18 +46,18 @@ std::string outcome(Session& session, WalkMethod method) {
     if (finished != session.Calculated) throw BrokenLaw("a run that has ended has no results, or the other way round");
     if (!finished && messages.texts.empty()) throw BrokenLaw("a calculation is refused without a word");
     if (finished) makeNotes(session);
-    return ResultsJson(session, messages.texts, {}, "", true);
+    return resultsJson(session, messages.texts, {}, "", true);
 }
 
 /// Makes all tables and pictures of a run, and its summary.
 void present(const Session& session) {
-    (void)SummaryText(session);
+    (void)summaryText(session);
     for (const TableEntry& entry : tableEntries()) (void)tabSeparated(entry.fill(session.project, *session.results));
     const DiagramData data{session.project, &*session.results};
     for (const std::string& name : pictureNames()) {
         const auto diagrams = pictureDiagrams(name, session.project);
         RecordingSurface surface(1400, 900);
-        if (!diagrams.empty()) DrawPicture(surface, diagrams, data);
+        if (!diagrams.empty()) drawPicture(surface, diagrams, data);
     }
 }
 
@@ -66,7 +66,7 @@ void present(const Session& session) {
 void checkCalculation(const std::string& bytes) {
     Project project;
     try {
-        ReadProjectBytes(bytes, project);
+        readProjectBytes(bytes, project);
     } catch (const ProjectFileError&) {
         return;
     }

@@ -89,7 +89,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     Project project;
     std::string bytes;
     try {
-        ReadProjectBytes(std::string(data, data + size), project);
+        readProjectBytes(std::string(data, data + size), project);
         fuzzing::FieldChanger counter(-1, random);
         visitProject(counter, project);
         for (std::uint32_t changes = 1 + random() % 4; changes > 0; --changes) {
@@ -97,7 +97,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
             visitProject(changer, project);
         }
         bool lost = false;
-        bytes = ProjectBytes(project, lost);
+        bytes = projectBytes(project, lost);
     } catch (const ProjectFileError&) {
         return LLVMFuzzerMutate(data, size, largest);
     }

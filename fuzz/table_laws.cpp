@@ -52,7 +52,7 @@ void checkRows(const ReferenceTables& tables) {
             if (!std::isfinite(field.stored())) throw BrokenLaw("a rail with a number that is not finite");
     for (int i = tables.SectionTable.first(); i <= tables.SectionTable.last(); ++i) {
         const std::string& name = tables.SectionTable(i).TableName;
-        if (const int found = FindSection(tables, name); found > i || tables.SectionTable(found).TableName != name)
+        if (const int found = findSection(tables, name); found > i || tables.SectionTable(found).TableName != name)
             throw BrokenLaw("a section is not found by its name");
     }
 }
@@ -74,7 +74,7 @@ void checkTables(const std::string& bytes) {
     try {
         bool lost = false;
         Project again;
-        ReadProjectBytes(ProjectBytes(project, lost), again);
+        readProjectBytes(projectBytes(project, lost), again);
         if (lost || again.SteelGrade != project.SteelGrade || again.RailName != project.RailName)
             throw BrokenLaw("the default project of these tables can't be saved and loaded");
     } catch (const ProjectFileError& error) {

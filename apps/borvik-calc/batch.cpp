@@ -43,7 +43,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     int exitCode = outcome(session, options);
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.
-    const std::string onLoads = session.Calculated ? LoadRemark(session.project) : std::string();
+    const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();
     if (!onLoads.empty()) console.show(onLoads);
     try {
         for (const std::string& remark : outputs.write({session, messages, file})) console.show(remark);

@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
         const Options& options = std::get<Options>(parsed);
         if (!options.craneLoads.empty()) return writeCraneLoads(options.craneLoads, std::cout, std::cerr);
         return runBatch(options,
-                        LoadTables(options.tables.empty() ? FindDataFolder(ProgramFolder(argv[0])) : options.tables));
+                        LoadTables(options.tables.empty() ? findDataFolder(programFolder(argv[0])) : options.tables));
     } catch (const TableError& error) {
         std::cerr << "borvik-calc: " << error.what() << '\n';
         return kFileFault;

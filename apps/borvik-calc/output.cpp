@@ -68,7 +68,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
 }
 
 void Outputs::writeJson(const FinishedRun& run) {
-    const std::string text = ResultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes);
+    const std::string text = resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes);
     if (options_.json == "-") {
         print(text);
         return;
@@ -109,16 +109,16 @@ void Outputs::writeTable(const FinishedRun& run) {
 void Outputs::writeSpreadsheet(const FinishedRun& run) {
     const TableEntry& entry = *findTable(options_.table);
     const std::string failed =
-        SaveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title);
+        saveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title);
     if (!failed.empty()) throw OutputError("can't write " + options_.xlsx + ": " + failed);
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {
-    printText(run, SummaryText(run.session));
+    printText(run, summaryText(run.session));
 }
 
 void Outputs::writeNotes(const FinishedRun& run) {
-    printText(run, NotesText(run.session));
+    printText(run, notesText(run.session));
 }
 
 void Outputs::printText(const FinishedRun& run, const std::string& text) {

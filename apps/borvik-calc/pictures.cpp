@@ -35,7 +35,7 @@ void savePictureOf(const Session& session, const std::string& name, const std::s
     needApplication();
     const DiagramData data{session.project, session.results ? &*session.results : nullptr};
     const QString failed = savePicture(
-        file, [&](DrawingSurface& surface) { DrawPicture(surface, diagrams, data); },
+        file, [&](DrawingSurface& surface) { drawPicture(surface, diagrams, data); },
         QSize(kPixelsAcross, qRound(pictureHeight(diagrams) * kPixelsPerUnit)), QString::fromStdString(name));
     if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());
 }

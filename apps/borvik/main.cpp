@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
     QtSettings settings;
     HelpKey helpKey(messages);
     application.installEventFilter(&helpKey);
-    const std::string data = FindDataFolder(ProgramFolder(argv[0]));
+    const std::string data = findDataFolder(programFolder(argv[0]));
     QDir::setSearchPaths(kHelpPath, {QString::fromStdString(data + "/docs/help")});
     QDir::setSearchPaths(kExamplesPath, {QString::fromStdString(data + "/examples")});
     try {

@@ -2,7 +2,7 @@
 
 namespace borvik {
 
-void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
+void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
     for (int i = 1; i <= project.NofSpans; ++i) {
         Single& q = loads.SpanLoad(i);
         q = 0;
@@ -14,8 +14,8 @@ void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, 
     }
 }
 
-void SetUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
-    SetDeadLoad(project, rail, project.LfULS, loads);
+void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
+    setDeadLoad(project, rail, project.LfULS, loads);
     for (int w = 1; w <= 8; ++w) {
         loads.WheelV(w) = (w <= 4 ? project.PsiV1 : project.PsiV2) * project.LfULS * project.V(w);
         loads.WheelH(w) = (w <= 4 ? project.PsiH1 : project.PsiH2) * project.LfULS * project.H(w);

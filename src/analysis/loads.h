@@ -19,10 +19,10 @@ struct RunLoads {
 /// Dead load of each span, kN/m: gangway and rail for an overhead crane, the beam's own weight where wanted; each step
 /// rounded to a single. A monorail carries neither gangway nor rail.
 /// @param factor  load factor of the run (LfULS or LfSLS)
-void SetDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads);
+void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads);
 
 /// Loads of the ultimate limit state: dead load, and each wheel with the load factor and the dynamic factors of its
 /// crane, rounded once. NCranes is left alone.
-void SetUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads);
+void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads);
 
 }  // namespace borvik

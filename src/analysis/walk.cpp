@@ -100,7 +100,7 @@ double WalkSteps::percent(int j) const noexcept {
     return whole > 0 ? j / whole * 100 : 100;
 }
 
-double CountPositions(const Project& project, int cranes) {
+double countPositions(const Project& project, int cranes) {
     if (project.CranesLength > project.BeamLength) return 0;
     return WalkSteps(project, cranes).positions();
 }

@@ -33,6 +33,6 @@ enum class WalkMethod {
 
 /// Positions that a walk visits: pairs (j, k) of the position of crane 1 and the extra distance of crane 2. 0 where the
 /// cranes don't fit. For the guard against projects that no machine can walk.
-[[nodiscard]] double CountPositions(const Project& project, int cranes);
+[[nodiscard]] double countPositions(const Project& project, int cranes);
 
 }  // namespace borvik

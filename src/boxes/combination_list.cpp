@@ -16,7 +16,7 @@ CombinationList::CombinationList() {
 }
 
 void CombinationList::write(const Project& project, CombinationText kind) {
-    const LoadCombinations texts = CombinationTexts(project, kind);
+    const LoadCombinations texts = combinationTexts(project, kind);
     clear();
     for (const std::string& text : {texts.TextULS, texts.TextSLS, texts.TextFLS}) addItem(QString::fromStdString(text));
 }

@@ -59,7 +59,7 @@ void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& 
 
 /// SLS: no dynamic factors.
 void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
-    SetDeadLoad(project, rail, project.LfSLS, loads);
+    setDeadLoad(project, rail, project.LfSLS, loads);
     for (int w = 1; w <= 8; ++w) {
         loads.WheelV(w) = project.LfSLS * project.V(w);
         loads.WheelH(w) = project.LfSLS * project.H(w);
@@ -94,11 +94,11 @@ void RunStatic(Run& run) {
     UpdateSections(run.tables, project);
     run.loads.NCranes = project.NofCranes;
 
-    SetUlsLoads(project, rail, run.loads);
+    setUlsLoads(project, rail, run.loads);
     UlsResults& uls = run.results.Uls;
     uls = RunUls(project, run.loads, run.method, run.messages, run.progress);
     run.results.Steps = uls.Steps;
-    TurnReactionsUpward(uls);
+    turnReactionsUpward(uls);
 
     setSlsLoads(project, rail, run.loads);
     run.results.Sls = RunSls(project, run.loads, run.method, run.messages, run.progress);
@@ -136,7 +136,7 @@ bool cranesFit(const Project& project, Messages& messages) {
 }
 
 bool walkable(const Project& project, Messages& messages) {
-    const double positions = CountPositions(project, project.NofCranes);
+    const double positions = countPositions(project, project.NofCranes);
     if (positions <= kMostPositions) return true;
     messages.show("The cranes would take " + formatNumber(positions, "0") +
                   " positions on this beam; the calculation goes up to 1000000000. Shorten the beam.");
@@ -188,11 +188,11 @@ bool CheckInput(Project& project, Messages& messages) {
     return ok;
 }
 
-int RefusedSpan(const Project& project) {
+int refusedSpan(const Project& project) {
     return project.Span(1) == 0 ? 1 : refusal(project).span;
 }
 
-void TurnReactionsUpward(UlsResults& uls) {
+void turnReactionsUpward(UlsResults& uls) {
     turnRound(uls.RzMax, uls.RzMin, uls.At.RzMax, uls.At.RzMin);
     turnRound(uls.RyMax, uls.RyMin, uls.At.RyMax, uls.At.RyMin);
 }

@@ -9,11 +9,11 @@ namespace borvik {
 /// @return false when a message was shown
 [[nodiscard]] bool CheckInput(Project& project, Messages& messages);
 /// The span at which that check stops; 0 where it passes.
-[[nodiscard]] int RefusedSpan(const Project& project);
+[[nodiscard]] int refusedSpan(const Project& project);
 
 /// Gives the reactions at the far end, which the walk of the ultimate limit state keeps as shears, the sign of upward
 /// support forces.
-void TurnReactionsUpward(UlsResults& uls);
+void turnReactionsUpward(UlsResults& uls);
 
 /// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. What was entered is
 /// only read; of a refused or faulty run `settled` holds NofSpans, the splice flags and the lengths as far as it came,

@@ -117,7 +117,7 @@ bool anyOf(const Project& project, std::initializer_list<int> wheels) {
 
 }  // namespace
 
-LoadFault LoadRefusal(const Project& project, LoadForm form) {
+LoadFault loadRefusal(const Project& project, LoadForm form) {
     if (LoadFault fault = fitRefusal(project, form); !fault.message.empty()) return fault;
     if (project.Fixerad && double(project.Position) == 0) return {" Fixed position > 0 ", LoadItem::Position};
     if (form == LoadForm::Monorail) return firstFailing(kMonorail, project);
@@ -125,7 +125,7 @@ LoadFault LoadRefusal(const Project& project, LoadForm form) {
     return project.NofCranes == 2 ? crane2Refusal(project) : LoadFault();
 }
 
-void SettleLoads(Project& project, LoadForm form) {
+void settleLoads(Project& project, LoadForm form) {
     const bool overhead = form == LoadForm::Overhead;
     for (int gap = 1; gap <= (overhead ? 6 : 3); ++gap) {
         const int wheelBehind = gap <= 3 ? gap + 1 : gap + 2;
@@ -140,9 +140,9 @@ void SettleLoads(Project& project, LoadForm form) {
     project.HasLoadsY = overhead ? anyOf(project, {1, 2, 3, 4, 5, 7, 8}) : anyOf(project, {1, 2, 3, 4});
 }
 
-std::string LoadRemark(const Project& project) {
+std::string loadRemark(const Project& project) {
     const LoadForm form = project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail;
-    std::string refusal = LoadRefusal(project, form).message;
+    std::string refusal = loadRefusal(project, form).message;
     if (!refusal.empty()) {
         refusal = refusal.substr(refusal.find_first_not_of(' '));
         refusal.resize(refusal.find_last_not_of(' ') + 1);
@@ -152,7 +152,7 @@ std::string LoadRemark(const Project& project) {
     if (std::all_of(project.V.begin(), wheels, [](Single load) { return double(load) == 0; }))
         return "No wheel has a vertical load.";
     Project settled = project;
-    SettleLoads(settled, form);
+    settleLoads(settled, form);
     if (settled.HasLoadsY && !project.HasLoadsY)
         return "There are horizontal wheel loads, but the results leave deflections by them out: open and close the "
                "form "

@@ -22,15 +22,15 @@ struct LoadFault {
 
 /// The closing test of a load form: does the crane fit on the beam, and do wheel loads and distances belong together.
 /// @return the first test that fails
-[[nodiscard]] LoadFault LoadRefusal(const Project& project, LoadForm form);
+[[nodiscard]] LoadFault loadRefusal(const Project& project, LoadForm form);
 
 /// What closing a load form settles: horizontal loads of wheels that are not there and, with one crane, everything of
 /// the second are cleared; HasLoadsY says whether a horizontal load is left.
-void SettleLoads(Project& project, LoadForm form);
+void settleLoads(Project& project, LoadForm form);
 
 /// What the user of a calculation must know about its loads, because a file or a change of crane has brought what the
 /// load form would not have let pass: a refusal, horizontal loads that the results leave out, no load at all.
 /// @return a sentence or two; empty where the loads are sound
-[[nodiscard]] std::string LoadRemark(const Project& project);
+[[nodiscard]] std::string loadRemark(const Project& project);
 
 }  // namespace borvik

@@ -57,7 +57,7 @@ double FlangeLever::lengthInside(double xw) const {
     return xw >= separate ? separate : 2 * std::numbers::sqrt2 * mn + 0.5 * xw;
 }
 
-double FlangeResistance(const Project& project, const SectionRecord& section, double leff, double part) {
+double flangeResistance(const Project& project, const SectionRecord& section, double leff, double part) {
     const double m = FlangeLever(project, section).m;
     const double fyk = project.fyk, GammaM0 = project.GammaM0;
     const double Fbase = std::pow(section.tf2, 2) * leff * fyk / GammaM0 / (4 * m);
@@ -74,7 +74,7 @@ VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int s
             .perMz = g};
 }
 
-double VonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis) {
+double vonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis) {
     const double b2 = section.b2, tw = section.tw, tf2 = section.tf2;
     const LocalCoefficients c = localCoefficients(2 * project.Inn / (b2 - tw), basis.tableAtTip);
     const double together = 1.5 * b2 > basis.s ? 2 : 1;  // EN 1993-6 5.8: close wheels add up
@@ -109,7 +109,7 @@ RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
     const double SfMin = std::abs(MyMin / section.Iy * section.EzEl);
     const double Sf = std::fmax(SfMax, SfMin);
     // The stress is divided by fyk and by GammaM0, where eq. (6.1) has fy/GammaM0: note D7.
-    const double FfRd = FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
+    const double FfRd = flangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
                                          Sf / project.fyk / project.GammaM0);
 
     RowSet rows;
@@ -124,7 +124,7 @@ RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
 
 RowSet vonMisesRow(const CheckBasis& basis, int span, int) {
     const Project& project = basis.project;
-    const double SvM = VonMisesStress(project, project.SpanSection(span), vonMisesBasis(project, basis.uls, span));
+    const double SvM = vonMisesStress(project, project.SpanSection(span), vonMisesBasis(project, basis.uls, span));
 
     RowSet rows;
     rows(1) = "IR = SigvM/fyk = ";

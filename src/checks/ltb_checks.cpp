@@ -38,7 +38,7 @@ RowSet ltbRows(const Project& project, int span, bool positive, Single My, Singl
         rows(2) = first + " + " + oneDecimal(Mz) + "/" + oneDecimal(resistance.Mz) + " = ";
         rows(4) = limit + " (Ch 6.3.3)";
     }
-    setRatio(rows, LtbRatio(resistance, My, Mz, ChiLT));
+    setRatio(rows, ltbRatio(resistance, My, Mz, ChiLT));
     setWheelRows(rows, records, span);
     return rows;
 }
@@ -46,27 +46,27 @@ RowSet ltbRows(const Project& project, int span, bool positive, Single My, Singl
 RowSet positiveRows(const Project& project, int span, const UlsResults& uls) {
     const Single My = uls.MyMaxSpan(span, 1) / 1000000;
     const Single Mz = std::abs(uls.MyMaxSpan(span, 3)) / 1000000;
-    return ltbRows(project, span, true, My, Mz, PositiveReduction(project, span), uls.MyMaxSpan);
+    return ltbRows(project, span, true, My, Mz, positiveReduction(project, span), uls.MyMaxSpan);
 }
 
 RowSet negativeRows(const Project& project, int span, const UlsResults& uls) {
     const Table<Single>& support = uls.MySupportSpan;
     const Single My = std::abs(support(span, 1)) / 1000000;
     const Single Mz = std::abs(support(span, 4)) / 1000000;
-    return ltbRows(project, span, false, My, Mz, NegativeReduction(project, span, support), support);
+    return ltbRows(project, span, false, My, Mz, negativeReduction(project, span, support), support);
 }
 
 }  // namespace
 
-CFactors PositiveFactors(const Project& project, int span) {
+CFactors positiveFactors(const Project& project, int span) {
     if (isEndSpan(project, span)) return {project.C1EndPos, project.C2EndPos, project.C3EndPos};
     return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
 }
 
-std::optional<CFactors> NegativeFactors(const Project& project, int span, const Table<Single>& support) {
+std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support) {
     const double MySupport = support(span, 1), MyField = support(span, 2), MyOther = support(span, 3);
     // The moment changes sign within the span: diagram and load as for the positive case.
-    if (MyField > 0) return PositiveFactors(project, span);
+    if (MyField > 0) return positiveFactors(project, span);
     // A support moment that never was negative has no diagram to take C1 from; there is nothing that could buckle.
     const bool neverNegative = MySupport == 0;
     if (isEndSpan(project, span)) {
@@ -78,7 +78,7 @@ std::optional<CFactors> NegativeFactors(const Project& project, int span, const 
     return CFactors{1.77 - 1.04 * psi + 0.27 * std::pow(psi, 2), 0, project.C3MidNeg};
 }
 
-Single LtbReduction(const Project& project, int span, bool positive, const CFactors& factors) {
+Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors) {
     const SectionRecord& s = project.SpanSection(span);
     const double L = project.Span(span);
     const double t = factors.C2 * s.Zg - factors.C3 * (positive ? s.ZjPos : s.ZjNeg);
@@ -90,13 +90,13 @@ Single LtbReduction(const Project& project, int span, bool positive, const CFact
     return ReductionRolledWelded(project, s, positive, Mcr, Kc);
 }
 
-Single PositiveReduction(const Project& project, int span) {
-    return LtbReduction(project, span, true, PositiveFactors(project, span));
+Single positiveReduction(const Project& project, int span) {
+    return ltbReduction(project, span, true, positiveFactors(project, span));
 }
 
-Single NegativeReduction(const Project& project, int span, const Table<Single>& support) {
-    const std::optional<CFactors> factors = NegativeFactors(project, span, support);
-    return factors ? LtbReduction(project, span, false, *factors) : Single(1.0);
+Single negativeReduction(const Project& project, int span, const Table<Single>& support) {
+    const std::optional<CFactors> factors = negativeFactors(project, span, support);
+    return factors ? ltbReduction(project, span, false, *factors) : Single(1.0);
 }
 
 LtbResistance::LtbResistance(const Project& project, int span, bool positive) {
@@ -105,7 +105,7 @@ LtbResistance::LtbResistance(const Project& project, int span, bool positive) {
     Mz = section.MzRd / project.GammaM1;
 }
 
-double LtbRatio(const LtbResistance& resistance, Single My, Single Mz, Single ChiLT) {
+double ltbRatio(const LtbResistance& resistance, Single My, Single Mz, Single ChiLT) {
     const double ratio = My / (ChiLT * resistance.My);
     return Mz == 0 ? ratio : ratio + Mz / resistance.Mz;
 }

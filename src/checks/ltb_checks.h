@@ -13,20 +13,20 @@ struct CFactors {
 };
 
 /// The project's factors of a span for its largest positive moment: End in the first and the last span, Mid in others.
-[[nodiscard]] CFactors PositiveFactors(const Project& project, int span);
+[[nodiscard]] CFactors positiveFactors(const Project& project, int span);
 
 /// The factors for the most negative support moment: those of the positive moment where the moment in the span is
 /// positive; else without a load (C2 = 0), the project's C1 in an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
 /// @param support  MySupportSpan: 1 the support moment, 2 the moment in the span, 3 that at the other end
 /// @return         nullopt where no support moment is negative
-[[nodiscard]] std::optional<CFactors> NegativeFactors(const Project& project, int span, const Table<Single>& support);
+[[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support);
 
 /// chiLT by the curve of the project, with the whole span as unbraced length.
 /// @param positive  true: the top flange is in compression
-[[nodiscard]] Single LtbReduction(const Project& project, int span, bool positive, const CFactors& factors);
+[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors);
 /// The same with the factors above; 1 where there are none.
-[[nodiscard]] Single PositiveReduction(const Project& project, int span);
-[[nodiscard]] Single NegativeReduction(const Project& project, int span, const Table<Single>& support);
+[[nodiscard]] Single positiveReduction(const Project& project, int span);
+[[nodiscard]] Single negativeReduction(const Project& project, int span, const Table<Single>& support);
 
 /// Design resistances without buckling, kNm: about the strong axis, and of the loaded flange.
 struct LtbResistance {
@@ -36,7 +36,7 @@ struct LtbResistance {
 };
 
 /// My/(chiLT My,Rd) + Mz/Mz,Rd. @param My,Mz  design moments, kNm, positive
-[[nodiscard]] double LtbRatio(const LtbResistance& resistance, Single My, Single Mz, Single ChiLT);
+[[nodiscard]] double ltbRatio(const LtbResistance& resistance, Single My, Single Mz, Single ChiLT);
 
 /// Fills the factors C1, C2, C3 of the critical moment with the program's own, by NofSpans and CraneType. With one span
 /// only the three that a single span uses are set; C2EndNeg and C2MidNeg belong to no case and stay as they are.

@@ -31,7 +31,7 @@ PatchLoad patchLoad(const Project& project, const SectionRecord& section, double
 
 }  // namespace
 
-double PatchResistance(const Project& project, const SectionRecord& section, double leff, double a, bool stockyRule) {
+double patchResistance(const Project& project, const SectionRecord& section, double leff, double a, bool stockyRule) {
     const PatchLoad slender = patchLoad(project, section, leff, a, true);
     return stockyRule && slender.lamF <= 0.5 ? patchLoad(project, section, leff, a, false).FRd : slender.FRd;
 }
@@ -46,7 +46,7 @@ RowSet patchLoadRow(const CheckBasis& basis, int span, int) {
     // The wheels count as entered, unlike in the two checks of a monorail.
     const double Fz = *std::max_element(project.V.begin(), project.V.end());
     const double leff = effectiveLoadedLength(basis.rail, basis.worn, project.RailFix, section);
-    const double FzRd = PatchResistance(project, section, leff, project.Span(span));
+    const double FzRd = patchResistance(project, section, leff, project.Span(span));
 
     RowSet rows;
     rows(1) = "IR = Fz,Ed/Fz,Rd = ";

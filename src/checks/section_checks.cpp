@@ -82,7 +82,7 @@ RowSet bendingRows(const Project& project, const SectionRecord& section, const T
         rows(2) = "[" + My + "]^" + noDecimals(kAlpha) + " + " + Mz + " = ";
         reference = " mm; Ch 6.2.5/6.2.9)";
     }
-    setRatio(rows, BendingRatio(forces, resistance, section.ClassPos));
+    setRatio(rows, bendingRatio(forces, resistance, section.ClassPos));
     rows(4) = limitAt(span, steps(span, 9), "0") + reference;
     setWheelRows(rows, steps, span);
     return rows;
@@ -94,20 +94,20 @@ SectionForces::SectionForces(double MyNmm, double VzN, double MzNmm)
     : My(MyNmm / 1000000), Vz(std::abs(VzN) / 1000), Mz(std::abs(MzNmm) / 1000000) {}
 
 BendingResistance::BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces)
-    : My(ReducedMoment(project, section, forces.My, forces.Vz)), Mz(section.MzRd / project.GammaM0) {}
+    : My(reducedMoment(project, section, forces.My, forces.Vz)), Mz(section.MzRd / project.GammaM0) {}
 
-Single BendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass) {
+Single bendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass) {
     const double My = std::abs(forces.My) / resistance.My;
     if (forces.Mz == 0) return My;
     return (sectionClass > 2 ? My : std::pow(My, kAlpha)) + forces.Mz / resistance.Mz;
 }
 
-double ShearReduction(const SectionRecord& section, double VzEd) {
+double shearReduction(const SectionRecord& section, double VzEd) {
     return 0.5 * section.VzRd >= VzEd ? 0.0 : std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0);
 }
 
-Single ReducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {
-    const double rho = ShearReduction(section, VzEd);
+Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {
+    const double rho = shearReduction(section, VzEd);
     const bool positive = MyEd >= 0;
     const double base = (positive ? section.MyRdPos : section.MyRdNeg) / project.GammaM0;
     const int sectionClass = positive ? section.ClassPos : section.ClassNeg;

@@ -16,16 +16,16 @@ struct SectionForces {
 
 /// Reduction factor rho of the web's yield strength beside a shear, EN 1993-1-1 6.2.8(3): 0 up to half of VzRd, 1 at
 /// most. @param VzEd kN, positive
-[[nodiscard]] double ShearReduction(const SectionRecord& section, double VzEd);
+[[nodiscard]] double shearReduction(const SectionRecord& section, double VzEd);
 
 /// Design moment resistance about the strong axis, reduced for shear, kNm: EN 1993-1-1 6.2.8, the reduction taken on
 /// the web.
 /// @param MyEd  kNm, signed: from 0 up the positive resistance and class count, below 0 the negative ones
 /// @param VzEd  kN, positive; no reduction up to half of VzRd
 /// @return      not limited below: it may be negative for a section that is nearly all web
-[[nodiscard]] Single ReducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd);
+[[nodiscard]] Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd);
 
-/// Design moment resistances beside the forces of a point, kNm: ReducedMoment, and that of the loaded flange.
+/// Design moment resistances beside the forces of a point, kNm: reducedMoment, and that of the loaded flange.
 struct BendingResistance {
     double My = 0, Mz = 0;
 
@@ -35,7 +35,7 @@ struct BendingResistance {
 /// Bending about both axes: My alone without Mz; else the sum of both, EN 1993-1-1 (6.2), from class 3, and with My
 /// squared, 6.2.9.1(6), up to class 2.
 /// @param sectionClass  1 to 4; the check takes ClassPos whatever the sign of My
-[[nodiscard]] Single BendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass);
+[[nodiscard]] Single bendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass);
 
 /// Shear of a span, EN 1993-1-1 6.2.6, where its Vz is largest (extreme 0) or smallest (1). Rows 5 to 8: span and
 /// distance a of wheel 1, then of wheel 5.

@@ -29,7 +29,7 @@ std::vector<DiagramReading::Quantity> quantitiesAt(const std::vector<Panel>& pan
 
 }  // namespace
 
-std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
+std::optional<DiagramReading> readPicture(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
                                           double reach, BeamPart part) {
     if (diagrams.empty()) return std::nullopt;
     Diagram diagram = diagrams.back();

@@ -34,7 +34,7 @@ struct DiagramReading {
 /// @param reach  units across within which a support is taken for the place
 /// @param part   of the beam that the picture shows
 /// @return nothing left and right of the beam, or without results
-[[nodiscard]] std::optional<DiagramReading> ReadPicture(std::span<const Diagram> diagrams, const DiagramData& data,
+[[nodiscard]] std::optional<DiagramReading> readPicture(std::span<const Diagram> diagrams, const DiagramData& data,
                                                         Place place, double reach = 0.0, BeamPart part = {});
 
 /// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each

@@ -10,7 +10,7 @@
 
 namespace borvik {
 
-std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
+std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
                                      double Y0, DiagramMode mode, const BeamPart& part) {
     if (diagram == Diagram::Sketch) return drawBeamSketch(surface, data.project, X0, Y0, mode, part);
     return drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode, part);
@@ -88,7 +88,7 @@ Place PictureFrame::pointOf(Place place, double width, double height) const {
     return {(place.x - left) / (right - left) * width, (place.y - top) / (bottom - top) * height};
 }
 
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
+void drawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
                  const BeamPart& part) {
     const auto [left, top, right, bottom] = pictureFrame(diagrams);
     surface.scale(left, top, right, bottom);
@@ -96,7 +96,7 @@ void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, con
     surface.polygon(paper, colours::white);
     double depth = 0.0;
     for (const Diagram diagram : diagrams) {
-        DrawDiagram(surface, diagram, data, 0.0, depth - diagramArea(diagram, DiagramMode::Screen).top,
+        drawDiagram(surface, diagram, data, 0.0, depth - diagramArea(diagram, DiagramMode::Screen).top,
                     DiagramMode::Screen, part);
         depth += diagramHeight(diagram, DiagramMode::Screen);
     }

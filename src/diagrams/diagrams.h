@@ -12,11 +12,11 @@ namespace borvik {
 
 /// Draws one diagram. It is 1000 units wide, the beam from X0 + 50 to X0 + 950; the largest value takes 40 units. On
 /// paper a frame stands around it, from (X0 - 5, Y0 - 10) to X0 + 1010 and as deep as diagramArea says. The logical
-/// frame of the surface must have been set; DrawPicture does so. The drawing is meant for white paper, on the screen
+/// frame of the surface must have been set; drawPicture does so. The drawing is meant for white paper, on the screen
 /// too. A diagram without results is empty but for its title and the beam.
 /// @param part  of the beam to draw
 /// @return labels that found no room, as they read in a list: "Span 2: My=-66.2  L=5000 mm"
-std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
+std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
                                      double Y0, DiagramMode mode, const BeamPart& part = {});
 
 /// The parts in which a beam is drawn on paper: the whole beam, or one of more than eight spans in strips of eight
@@ -43,7 +43,7 @@ std::vector<std::string> DrawDiagram(DrawingSurface& surface, Diagram diagram, c
 
 /// Draws a picture for screen or file: lays the logical frame over the whole surface, white paper, the diagrams one
 /// below the other.
-void DrawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
+void drawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
                  const BeamPart& part = {});
 
 /// The height of a picture, in the units of a diagram that is 1000 wide.

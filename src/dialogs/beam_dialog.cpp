@@ -104,7 +104,7 @@ bool BeamDialog::mayClose() {
     if (!lstViewTill_->commitCell()) return false;
     project_.BeamChecked = CheckInput(project_, messages_);
     inputChanged();
-    if (const int span = RefusedSpan(project_); span > 0 && !project_.BeamChecked) lstViewTill_->mark(span);
+    if (const int span = refusedSpan(project_); span > 0 && !project_.BeamChecked) lstViewTill_->mark(span);
     return project_.BeamChecked;
 }
 

@@ -39,9 +39,9 @@ QString boxOf(const LoadFault& fault) {
 }  // namespace
 
 bool mayCloseLoads(QWidget& form, Project& project, Messages& messages, LoadForm kind) {
-    const LoadFault fault = LoadRefusal(project, kind);
+    const LoadFault fault = loadRefusal(project, kind);
     if (fault.message.empty()) {
-        SettleLoads(project, kind);
+        settleLoads(project, kind);
         return true;
     }
     messages.show(fault.message);

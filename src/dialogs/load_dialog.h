@@ -28,7 +28,7 @@ public:
 protected:
     bool mayClose() override { return CheckLoads(); }
     void showInput() override { Write(); }
-    void settle(Project& project) const override { SettleLoads(project, LoadForm::Overhead); }
+    void settle(Project& project) const override { settleLoads(project, LoadForm::Overhead); }
 
 private:
     Group gangway();

@@ -24,7 +24,7 @@ public:
 protected:
     bool mayClose() override { return CheckLoads(); }
     void showInput() override;
-    void settle(Project& project) const override { SettleLoads(project, LoadForm::Monorail); }
+    void settle(Project& project) const override { settleLoads(project, LoadForm::Monorail); }
 
 private:
     Group runway();

@@ -127,7 +127,7 @@ bool ProfReinfDialog::mayClose() {
     SectionRecord named = current_;
     try {
         // The name is made anew with the suffix, so that a second visit doesn't add a second suffix.
-        UpdateSection(session_.tables, project_, named);
+        updateSection(session_.tables, project_, named);
         current_ = named;
     } catch (const RuntimeFault&) {
         // no section of these dimensions: the section form says so

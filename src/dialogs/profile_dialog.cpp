@@ -119,7 +119,7 @@ void ProfileDialog::WriteProfInput() {
 void ProfileDialog::UpdateResult() {
     SectionRecord section = current_;
     try {
-        UpdateSection(session_.tables, project_, section);
+        updateSection(session_.tables, project_, section);
         current_ = section;
         WriteSectionResult();
     } catch (const RuntimeFault& fault) {
@@ -193,7 +193,7 @@ void ProfileDialog::done(int result) {
 }
 
 void ProfileDialog::WriteSectionResult() {
-    fillPropertyList(results_, SectionRows(current_, project_));
+    fillPropertyList(results_, sectionRows(current_, project_));
 }
 
 QWidget* ProfileDialog::tabs() {
@@ -349,7 +349,7 @@ void ProfileDialog::showSection(int tab) {
         const QSignalBlocker quiet(SSTab1_);
         SSTab1_->setCurrentIndex(tab);
     }
-    cboEuprofile_->setCurrentIndex(FindSection(session_.tables, current_.TableName));
+    cboEuprofile_->setCurrentIndex(findSection(session_.tables, current_.TableName));
     UpdateResult();
     WriteProfInput();
 }

@@ -26,7 +26,7 @@ RailDialog::RailDialog(Session& session, Messages& messages, std::function<void(
 }
 
 void RailDialog::showInput() {
-    cboRail_->setCurrentIndex(FindRail(session_.tables, project_.RailName));
+    cboRail_->setCurrentIndex(findRail(session_.tables, project_.RailName));
     chkRail_->setChecked(project_.RailOn);
     for (std::int16_t fix = 1; fix <= 3; ++fix) fixes_[fix - 1]->setChecked(project_.RailFix == RailFixing{fix});
     writeList();

@@ -12,7 +12,7 @@ std::string slashed(int first, int second) {
 
 }  // namespace
 
-std::vector<PropertyRow> SectionRows(const SectionRecord& s, const Project& project) {
+std::vector<PropertyRow> sectionRows(const SectionRecord& s, const Project& project) {
     std::vector<PropertyRow> rows;
     const auto add = [&rows](const char* label, double value, const char* mask, const char* unit) {
         rows.push_back({label, formatNumber(value, mask), unit});

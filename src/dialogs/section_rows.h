@@ -8,6 +8,6 @@
 namespace borvik {
 
 /// Properties and capacities of an updated section as the section form lists them. Resistances include γM0.
-[[nodiscard]] std::vector<PropertyRow> SectionRows(const SectionRecord& section, const Project& project);
+[[nodiscard]] std::vector<PropertyRow> sectionRows(const SectionRecord& section, const Project& project);
 
 }  // namespace borvik

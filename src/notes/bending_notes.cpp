@@ -15,7 +15,7 @@ namespace borvik {
 namespace {
 
 /// The ratio that the bending check finds in a span: the larger of its two positions.
-double bendingRatio(const CheckResults& checks, int span) {
+double shownBendingRatio(const CheckResults& checks, int span) {
     return std::max(checks["Bend"].extremes[0](span).Ratio, checks["Bend"].extremes[1](span).Ratio);
 }
 
@@ -28,10 +28,10 @@ std::optional<NoteFinding> interactionElsewhere(const Session& session) {
         const SectionRecord& section = project.SpanSection(span);
         const RecordedWorst worst = worstRecorded(uls, span, [&](double My, double Vz, double Mz) -> double {
             const SectionForces forces(My, Vz, Mz);
-            return BendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
+            return bendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
         });
         changes.push_back({inSpan("bending", span) + atPoint(project, span, worst.point),
-                           bendingRatio(session.results->Checks, span), worst.ratio});
+                           shownBendingRatio(session.results->Checks, span), worst.ratio});
     }
     return worstOf(changes);
 }
@@ -47,8 +47,8 @@ std::optional<NoteFinding> formulaOfPositiveClass(const Session& session) {
         if (!(section.ClassNeg > 2 && section.ClassPos <= 2)) continue;
         const SectionForces forces(records(span, 1), records(span, 2), records(span, 3));
         if (!(forces.My < 0)) continue;
-        const double linear = BendingRatio(forces, BendingResistance(project, section, forces), section.ClassNeg);
-        changes.push_back({inSpan("bending", span), bendingRatio(checks, span),
+        const double linear = bendingRatio(forces, BendingResistance(project, section, forces), section.ClassNeg);
+        changes.push_back({inSpan("bending", span), shownBendingRatio(checks, span),
                            std::max(linear, checks["Bend"].extremes[0](span).Ratio)});
     }
     return worstOf(changes);
@@ -90,7 +90,7 @@ std::optional<NoteFinding> shearLeftOut(const Session& session) {
     const RailRecord& rail = session.rail();
     const WornRail worn = wearRail(rail, kWearStatic);
     RunLoads loads;
-    SetUlsLoads(project, rail, loads);
+    setUlsLoads(project, rail, loads);
     const double FzEd = *std::max_element(loads.WheelV.begin(), loads.WheelV.end()) * 1000;
     const double tauRd = project.fyk / std::numbers::sqrt3 / project.GammaM0;
     std::vector<NoteChange> changes;
@@ -107,8 +107,8 @@ std::optional<NoteFinding> shearLeftOut(const Session& session) {
 /// as much thinner, about the axis that they have then.
 double exactWebLoss(const SectionRecord& section, double rho, bool elastic) {
     const auto modulus = [elastic](const SectionRecord& s) {
-        const auto plates = PlateStrips(s);
-        if (!elastic) return PlasticAxisBySearch(plates).Wply;
+        const auto plates = plateStrips(s);
+        if (!elastic) return plasticAxisBySearch(plates).Wply;
         const double ez = Centroid(s);
         return SecondMomentY(plates, ez) / std::max(ez, s.h - ez);
     };
@@ -125,17 +125,17 @@ std::optional<NoteFinding> shearWithUnequalFlanges(const Session& session) {
     for (int span = 1; span <= project.NofSpans; ++span) {
         const SectionRecord& section = project.SpanSection(span);
         if (section.Id != "Iu" || section.Reinforced) continue;
-        double largest = bendingRatio(session.results->Checks, span);
+        double largest = shownBendingRatio(session.results->Checks, span);
         const double shown = largest;
         for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan}) {
             const SectionForces forces((*records)(span, 1), (*records)(span, 2), (*records)(span, 3));
-            const double rho = ShearReduction(section, forces.Vz);
+            const double rho = shearReduction(section, forces.Vz);
             const int sectionClass = forces.My >= 0 ? section.ClassPos : section.ClassNeg;
             if (rho == 0 || sectionClass == 4) continue;
             BendingResistance resistance(project, section, forces);
-            resistance.My = ReducedMoment(project, section, forces.My, 0) -
+            resistance.My = reducedMoment(project, section, forces.My, 0) -
                             exactWebLoss(section, rho, sectionClass == 3) * project.fyk / project.GammaM0 / 1e6;
-            largest = std::max<double>(largest, BendingRatio(forces, resistance, section.ClassPos));
+            largest = std::max<double>(largest, bendingRatio(forces, resistance, section.ClassPos));
         }
         changes.push_back({inSpan("bending", span), shown, largest});
     }

@@ -19,13 +19,13 @@ double kNm(double Nmm) {
 /// The ratio of the largest moment of a span under another reduction factor.
 double positiveRatio(const Session& session, int span, Single ChiLT) {
     const Table<Single>& records = session.results->Uls.MyMaxSpan;
-    return LtbRatio(LtbResistance(session.project, span, true), kNm(records(span, 1)), kNm(records(span, 3)), ChiLT);
+    return ltbRatio(LtbResistance(session.project, span, true), kNm(records(span, 1)), kNm(records(span, 3)), ChiLT);
 }
 
 /// The same of its most negative support moment.
 double negativeRatio(const Session& session, int span, Single ChiLT) {
     const Table<Single>& records = session.results->Uls.MySupportSpan;
-    return LtbRatio(LtbResistance(session.project, span, false), kNm(records(span, 1)), kNm(records(span, 4)), ChiLT);
+    return ltbRatio(LtbResistance(session.project, span, false), kNm(records(span, 1)), kNm(records(span, 4)), ChiLT);
 }
 
 std::string factorsText(const CFactors& factors) {
@@ -48,8 +48,8 @@ std::optional<NoteFinding> factorsOfDiagram(const Session& session) {
         const auto byDiagram = [&](bool sagging, const std::optional<SpanAtPosition>& at, double MyEd,
                                    const RowSet& shown) -> Ratio {
             if (!at || MyEd == 0) return {shown.Ratio, ""};
-            const CFactors factors = DiagramFactors(at->My, MyEd, at->wheels, project.Span(span));
-            const Single chi = LtbReduction(project, span, sagging, factors);
+            const CFactors factors = diagramFactors(at->My, MyEd, at->wheels, project.Span(span));
+            const Single chi = ltbReduction(project, span, sagging, factors);
             return {sagging ? positiveRatio(session, span, chi) : negativeRatio(session, span, chi),
                     factorsText(factors)};
         };
@@ -72,10 +72,10 @@ std::optional<NoteFinding> cappedC1(const Session& session) {
     const CheckResults& checks = session.results->Checks;
     std::vector<NoteChange> changes;
     for (int span = 2; span < project.NofSpans; ++span) {
-        std::optional<CFactors> factors = NegativeFactors(project, span, support);
+        std::optional<CFactors> factors = negativeFactors(project, span, support);
         if (!factors || support(span, 2) > 0 || !(factors->C1 > kLargestC1)) continue;
         factors->C1 = kLargestC1;
-        const double capped = negativeRatio(session, span, LtbReduction(project, span, false, *factors));
+        const double capped = negativeRatio(session, span, ltbReduction(project, span, false, *factors));
         changes.push_back({inSpan("lateral torsional buckling", span), checks["Ltb"].spans(span).Ratio,
                            std::max(checks["Ltb"].extremes[0](span).Ratio, capped)});
     }
@@ -90,8 +90,8 @@ bool hasUnequalFlanges(const SectionRecord& section) {
 /// The largest ratio of a span under the settings of a copy of the project.
 double ratioUnder(const Session& session, const Project& other, int span) {
     const Table<Single>& support = session.results->Uls.MySupportSpan;
-    return std::max(positiveRatio(session, span, PositiveReduction(other, span)),
-                    negativeRatio(session, span, NegativeReduction(other, span, support)));
+    return std::max(positiveRatio(session, span, positiveReduction(other, span)),
+                    negativeRatio(session, span, negativeReduction(other, span, support)));
 }
 
 /// The curve that belongs to the section: the general case for unequal flanges, and the values of rolled sections for
@@ -128,10 +128,10 @@ std::optional<NoteFinding> pairElsewhere(const Session& session) {
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const LtbResistance sagging(project, span, true), hogging(project, span, false);
-        const Single chiPos = PositiveReduction(project, span);
-        const Single chiNeg = NegativeReduction(project, span, uls.MySupportSpan);
+        const Single chiPos = positiveReduction(project, span);
+        const Single chiNeg = negativeReduction(project, span, uls.MySupportSpan);
         const RecordedWorst worst = worstRecorded(uls, span, [&](double My, double, double Mz) {
-            return My >= 0 ? LtbRatio(sagging, kNm(My), kNm(Mz), chiPos) : LtbRatio(hogging, kNm(My), kNm(Mz), chiNeg);
+            return My >= 0 ? ltbRatio(sagging, kNm(My), kNm(Mz), chiPos) : ltbRatio(hogging, kNm(My), kNm(Mz), chiNeg);
         });
         changes.push_back({inSpan("lateral torsional buckling", span) + atPoint(project, span, worst.point),
                            session.results->Checks["Ltb"].spans(span).Ratio, worst.ratio});

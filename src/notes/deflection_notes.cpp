@@ -41,7 +41,7 @@ std::optional<NoteFinding> withDynamicFactor(const Session& session) {
     factored.LfULS = project.LfSLS;
     RunLoads loads;
     loads.NCranes = project.NofCranes;
-    SetUlsLoads(factored, session.rail(), loads);
+    setUlsLoads(factored, session.rail(), loads);
     SilentMessages silent;
     Progress progress;
     const SlsResults sls = RunSls(project, loads, WalkMethod::Fast, silent, progress);

@@ -5,7 +5,7 @@
 
 namespace borvik {
 
-CFactors DiagramFactors(const PointSteps& My, double MyEd, const SpanWheels& wheels, double L) {
+CFactors diagramFactors(const PointSteps& My, double MyEd, const SpanWheels& wheels, double L) {
     using std::numbers::pi;
     double squares = 0, firsts = 0;  // 2/L int m^2 sin^2 dx and 2/L int m cos^2 dx, by Simpson's rule
     for (int k = 1; k <= kPoints; ++k) {

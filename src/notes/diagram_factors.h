@@ -13,6 +13,6 @@ namespace borvik {
 /// @param My      [1..21], Nmm
 /// @param MyEd    the design moment that the factors belong to, Nmm with its sign, not 0
 /// @param wheels  loads at the level Zg, N; what the beam carries evenly counts in the diagram alone
-[[nodiscard]] CFactors DiagramFactors(const PointSteps& My, double MyEd, const SpanWheels& wheels, double L);
+[[nodiscard]] CFactors diagramFactors(const PointSteps& My, double MyEd, const SpanWheels& wheels, double L);
 
 }  // namespace borvik

@@ -78,11 +78,11 @@ std::optional<Session> underOtherLoads(const Session& session, Change change) {
     Session copy = session;
     RunLoads loads;
     loads.NCranes = copy.project.NofCranes;
-    SetUlsLoads(copy.project, copy.rail(), loads);
+    setUlsLoads(copy.project, copy.rail(), loads);
     change(loads);
     Results& results = *copy.results;
     results.Uls = RunUls(copy.project, loads, WalkMethod::Fast, silent, progress);
-    TurnReactionsUpward(results.Uls);
+    turnReactionsUpward(results.Uls);
     results.Checks = RunCodeChecks({copy.project, copy.rail(), results.Uls, results.Sls});
     return copy;
 }
@@ -92,7 +92,7 @@ std::optional<NoteFinding> relievingDeadLoad(const Session& session) {
     const Project& project = session.project;
     if (project.NofSpans == 1 || project.LfULS == 1) return std::nullopt;
     const auto other =
-        underOtherLoads(session, [&](RunLoads& loads) { SetDeadLoad(project, session.rail(), 1.0, loads); });
+        underOtherLoads(session, [&](RunLoads& loads) { setDeadLoad(project, session.rail(), 1.0, loads); });
     if (!other) return std::nullopt;
     NoteFinding finding = grown(allRatios(session), allRatios(*other)).value_or(NoteFinding{});
     const Array<Single>&shown = session.results->Uls.RzMin, &smallest = other->results->Uls.RzMin;
@@ -118,7 +118,7 @@ std::optional<NoteFinding> gangwayOnWorstSpans(const Session& session) {
     const auto loadedOn = [&](auto loaded) {
         const auto other = underOtherLoads(session, [&](RunLoads& loads) {
             const RunLoads onAll = loads;
-            SetDeadLoad(without, session.rail(), project.LfULS, loads);
+            setDeadLoad(without, session.rail(), project.LfULS, loads);
             for (int span = 1; span <= project.NofSpans; ++span)
                 if (loaded(span)) loads.SpanLoad(span) = onAll.SpanLoad(span);
         });
@@ -144,7 +144,7 @@ std::optional<NoteFinding> leverOfHorizontalLoad(const Session& session) {
             for (const double times : {1.0, factor}) {
                 const SectionForces forces((*records)(span, 1), (*records)(span, 2), (*records)(span, 3) * times);
                 const double ratio =
-                    BendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
+                    bendingRatio(forces, BendingResistance(project, section, forces), section.ClassPos);
                 double& largest = times == 1.0 ? shown : other;
                 largest = std::max(largest, ratio);
             }

@@ -76,7 +76,7 @@ struct SilentMessages : Messages {
 /// Whether the cranes have so few positions that a reader of notes doesn't wait for another walk.
 [[nodiscard]] inline bool quicklyWalked(const Session& session) {
     constexpr double kMostPositions = 2e7;  // two cranes on 30 spans of 30 m have half of it and take 0.1 s
-    return CountPositions(session.project, session.project.NofCranes) <= kMostPositions;
+    return countPositions(session.project, session.project.NofCranes) <= kMostPositions;
 }
 
 /// The same project calculated with something changed: a copy of the session after `change(Session&)` has run on it.

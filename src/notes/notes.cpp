@@ -104,7 +104,7 @@ const char* nameOf(NoteEffect effect) {
     return "";
 }
 
-Notes ProjectNotes(const Session& session, double least) {
+Notes projectNotes(const Session& session, double least) {
     Notes notes;
     if (!session.Calculated || !session.results) return notes;
     for (const NoteRule& rule : noteRules()) {
@@ -145,7 +145,7 @@ std::string noteText(const Note& note) {
 }
 
 void makeNotes(Session& session) {
-    if (!session.notes) session.notes = std::make_shared<const Notes>(ProjectNotes(session));
+    if (!session.notes) session.notes = std::make_shared<const Notes>(projectNotes(session));
 }
 
 }  // namespace borvik

@@ -81,7 +81,7 @@ inline constexpr double kLeastGrowth = 0.01;
 /// results stay as they are, to the bit. A rule that ends in an arithmetic fault under its other assumption stands
 /// without a number. Changes that don't show in the written digits, or
 /// that move a ratio by less than `least` without crossing 1, are left out, and so is a note that had no other.
-[[nodiscard]] Notes ProjectNotes(const Session& session, double least = kLeastGrowth);
+[[nodiscard]] Notes projectNotes(const Session& session, double least = kLeastGrowth);
 
 /// Makes the notes of a session and keeps them with its results; nothing where they are already there.
 /// @pre session.Calculated and its results

@@ -24,7 +24,7 @@ double thickestFlange(const SectionRecord& section) {
 std::optional<NoteFinding> thickFlanges(const Session& session) {
     constexpr double kThick = 40;  // mm
     const Project& project = session.project;
-    const int grade = FindMaterial(session.tables, project.SteelGrade);
+    const int grade = findMaterial(session.tables, project.SteelGrade);
     if (grade < 0) return std::nullopt;
     const SteelGradeRow& row = session.tables.MaterialTable(grade);
     if (project.fyk != row.fyk1 || !(row.fyk2 > 0 && row.fyk2 < row.fyk1)) return std::nullopt;
@@ -59,8 +59,8 @@ std::optional<NoteFinding> withResistance(const Session& session, Changed change
             const SectionForces forces = forcesAt(*records, span);
             const BendingResistance asChecked(project, section, forces);
             const BendingResistance otherwise = changed(section, forces, asChecked);
-            shown = std::max<double>(shown, BendingRatio(forces, asChecked, section.ClassPos));
-            other = std::max<double>(other, BendingRatio(forces, otherwise, section.ClassPos));
+            shown = std::max<double>(shown, bendingRatio(forces, asChecked, section.ClassPos));
+            other = std::max<double>(other, bendingRatio(forces, otherwise, section.ClassPos));
         }
         changes.push_back({inSpan("bending", span), shown, other});
     }
@@ -86,7 +86,7 @@ std::optional<NoteFinding> exactPlasticModulus(const Session& session, Concerned
                               const int sectionClass = forces.My >= 0 ? section.ClassPos : section.ClassNeg;
                               if (section.Fab != "W" || section.Reinforced || sectionClass > 2 || !concerned(section))
                                   return resistance;
-                              resistance.My *= PlasticAxisBySearch(PlateStrips(section)).Wply / section.Wply;
+                              resistance.My *= plasticAxisBySearch(plateStrips(section)).Wply / section.Wply;
                               return resistance;
                           });
 }

@@ -55,7 +55,7 @@ std::optional<NoteFinding> withPatchResistance(const Session& session, Resistanc
 
 std::optional<NoteFinding> stockyWeb(const Session& session) {
     return withPatchResistance(session, [&](int span, const SectionRecord& section) {
-        return PatchResistance(session.project, section, loadedLength(session, section), session.project.Span(span),
+        return patchResistance(session.project, section, loadedLength(session, section), session.project.Span(span),
                                true);
     });
 }
@@ -85,7 +85,7 @@ std::optional<NoteFinding> closeWheels(const Session& session) {
             if (!(gap > 0 && gap < leff) || project.V(wheel) == 0 || project.V(wheel + 1) == 0) return;
             const double both = project.V(wheel) + project.V(wheel + 1);
             changes.push_back({inSpan("patch load", span), session.results->Checks["Local"].spans(span).Ratio,
-                               both / PatchResistance(project, section, leff + gap, project.Span(span))});
+                               both / patchResistance(project, section, leff + gap, project.Span(span))});
         };
         for (int gap = 1; gap <= 3; ++gap) pair(gap, project.Avst(gap));
         for (int gap = 4; gap <= 6; ++gap) pair(gap + 1, project.Avst(gap));
@@ -120,7 +120,7 @@ std::optional<NoteFinding> atFreeEnd(const Session& session) {
     if (project.Fixerad) return std::nullopt;  // a hoist that stands still stands where the user put it
     return withFlangeResistance(session, [&](int span, const SectionRecord& section) {
         const bool end = span == 1 || span == project.NofSpans;
-        return end ? FlangeResistance(project, section, FlangeLever(project, section).lengthAtEnd(), 0) : 0.0;
+        return end ? flangeResistance(project, section, FlangeLever(project, section).lengthAtEnd(), 0) : 0.0;
     });
 }
 
@@ -138,7 +138,7 @@ std::optional<NoteFinding> flangeStressOfBeam(const Session& session) {
             const double fromMz = std::abs((*records)(span, 3) / section.IzBottom) * (section.b2 / 2 - project.Inn);
             stress = std::max(stress, fromMy + fromMz);
         }
-        return FlangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
+        return flangeResistance(project, section, FlangeLever(project, section).lengthInside(xw),
                                 stress * project.GammaM0 / project.fyk);
     });
 }
@@ -154,7 +154,7 @@ std::optional<NoteFinding> vonMisesOtherwise(const Session& session, Change chan
         VonMisesBasis basis = vonMisesBasis(project, session.results->Uls, span);
         change(basis, span);
         changes.push_back({inSpan("von Mises stress", span), session.results->Checks["VonMises"].spans(span).Ratio,
-                           VonMisesStress(project, project.SpanSection(span), basis) / project.fyk});
+                           vonMisesStress(project, project.SpanSection(span), basis) / project.fyk});
     }
     return worstOf(changes);
 }

@@ -12,7 +12,7 @@ std::string factor(double number) {
 
 }  // namespace
 
-LoadCombinations CombinationTexts(const Project& project, CombinationText kind) {
+LoadCombinations combinationTexts(const Project& project, CombinationText kind) {
     const std::string permanent = kind == CombinationText::WithPermanentLoad ? "qk + " : "";
     const std::string uls = "ULS: " + factor(project.LfULS) + "*(" + permanent + factor(project.PsiV1);
     const std::string fls = "FLS: " + factor(project.GammaFf) + "*";

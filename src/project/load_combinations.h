@@ -18,6 +18,6 @@ struct LoadCombinations {
 enum class CombinationText { WithPermanentLoad, CraneLoadsOnly };
 
 /// The combinations that follow from the load factors and from the dynamic factors of one crane or two.
-[[nodiscard]] LoadCombinations CombinationTexts(const Project& project, CombinationText kind);
+[[nodiscard]] LoadCombinations combinationTexts(const Project& project, CombinationText kind);
 
 }  // namespace borvik

@@ -146,7 +146,7 @@ Single epsilonOf(double fyk) {
 
 const RailRecord& railOf(const Project& project, const ReferenceTables& tables) {
     static const RailRecord none;
-    const int row = FindRail(tables, project.RailName);
+    const int row = findRail(tables, project.RailName);
     if (row >= 0) return tables.RailTable(row);
     return tables.RailTable.has(kDefaultRail) ? tables.RailTable(kDefaultRail) : none;
 }

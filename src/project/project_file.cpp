@@ -178,13 +178,13 @@ std::string refusal(const char* what, const std::string& path, const std::system
 
 }  // namespace
 
-std::string ProjectBytes(const Project& project, bool& lost) {
+std::string projectBytes(const Project& project, bool& lost) {
     Writer writer(lost);
     visitProject(writer, project);
     return writer.take();
 }
 
-void ReadProjectBytes(const std::string& bytes, Project& project) {
+void readProjectBytes(const std::string& bytes, Project& project) {
     Eraser eraser;
     visitProject(eraser, project);
     Reader reader(bytes);
@@ -195,7 +195,7 @@ void ReadProjectBytes(const std::string& bytes, Project& project) {
 
 bool SaveProject(const std::string& path, const Project& project) {
     bool lost = false;
-    const std::string bytes = ProjectBytes(project, lost);
+    const std::string bytes = projectBytes(project, lost);
     try {
         overwriteFile(path, bytes);
     } catch (const std::system_error& error) {
@@ -219,7 +219,7 @@ void LoadProject(const std::string& path, Project& project) {
             throw ProjectFileError(ProjectFileError::Kind::NotFound, " Can't find file ");
         throw ProjectFileError(ProjectFileError::Kind::Other, refusal("read", path, error));
     }
-    ReadProjectBytes(bytes, project);
+    readProjectBytes(bytes, project);
 }
 
 }  // namespace borvik

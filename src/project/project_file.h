@@ -20,13 +20,13 @@ private:
 
 /// The record as the bytes of a project file: little-endian, no padding, no header; texts in Windows-1252.
 /// @param lost  set to true where a character of some text has no place in the code page and was written as "?"
-[[nodiscard]] std::string ProjectBytes(const Project& project, bool& lost);
+[[nodiscard]] std::string projectBytes(const Project& project, bool& lost);
 
 /// Reads a record from the bytes of a project file; bytes behind the record are not looked at. Lengths and counts in
 /// the bytes are never trusted. Then names that an earlier layout of the file did not have are mended: a section
 /// without a DisplayName takes its TableName. On a fault the record holds what was read so far.
 /// @throws ProjectFileError  EndOfFile when the bytes end too early, Other when they can't be a project
-void ReadProjectBytes(const std::string& bytes, Project& project);
+void readProjectBytes(const std::string& bytes, Project& project);
 
 /// Writes the project. A longer file of that name keeps its tail behind the record, which no loader reads. The file is
 /// written beside the old one, flushed and renamed: at any moment there is the old file or the new one, whole.

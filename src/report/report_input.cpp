@@ -212,7 +212,7 @@ void PrintCraneAndLoad(Report& report) {
         page.put(page.Col2.stop1, "Craneclass: " + className(monorail ? project.CraneClassR : project.CraneClass1));
     }
     page.nextLine();
-    const LoadCombinations texts = CombinationTexts(project, CombinationText::WithPermanentLoad);
+    const LoadCombinations texts = combinationTexts(project, CombinationText::WithPermanentLoad);
     for (const std::string& text : {texts.TextULS, texts.TextSLS, texts.TextFLS}) {
         page.put(page.Col1.stop1, text);
         page.nextLine();

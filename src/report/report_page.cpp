@@ -212,7 +212,7 @@ void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUn
         surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
                         kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);
         for (std::string& value :
-             DrawDiagram(surface(), diagram, data, 0.0, PrintY / linesPerUnit, DiagramMode::Paper, part))
+             drawDiagram(surface(), diagram, data, 0.0, PrintY / linesPerUnit, DiagramMode::Paper, part))
             if (std::find(missed.begin(), missed.end(), value) == missed.end()) missed.push_back(std::move(value));
         gridScale();
         advance(LinesPerPage * step);

@@ -231,7 +231,7 @@ Json sections(const Project& project) {
 
 }  // namespace
 
-std::string ResultsJson(const Session& session, const std::vector<std::string>& messages,
+std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                         const std::optional<std::string>& file, const std::string& program, bool withNotes) {
     Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
                            session.Calculated, "Messages", messages);

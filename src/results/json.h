@@ -18,7 +18,7 @@ namespace borvik {
 /// @param file      path of the project as the user gave it; nothing for the default project
 /// @param program   name and version, such as "Borvik 1.2.3"
 /// @param withNotes  with the notes that the session keeps; else their key is null
-[[nodiscard]] std::string ResultsJson(const Session& session, const std::vector<std::string>& messages,
+[[nodiscard]] std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                                       const std::optional<std::string>& file, const std::string& program,
                                       bool withNotes = false);
 

@@ -132,7 +132,7 @@ ResultTable TableNotes(const Notes& notes) {
     return table;
 }
 
-NoteTarget TargetOf(const Note& note, const Project& project, const Results& results) {
+NoteTarget targetOf(const Note& note, const Project& project, const Results& results) {
     const std::string what = note.finding.changes.empty() ? "" : note.finding.changes.front().what;
     if (const int support = numberBehind(what, "reaction, support ")) return {"Reactions", support - 1};
     const int span = numberBehind(what, ", span ");

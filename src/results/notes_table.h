@@ -17,6 +17,6 @@ struct NoteTarget {
 
 /// Where a note leads: to the row of the span, support or splice that its first number names, among all rows of the
 /// checks; without a place to the governing row of its check in the table ShowSummaryAll.
-[[nodiscard]] NoteTarget TargetOf(const Note& note, const Project& project, const Results& results);
+[[nodiscard]] NoteTarget targetOf(const Note& note, const Project& project, const Results& results);
 
 }  // namespace borvik

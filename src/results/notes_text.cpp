@@ -46,7 +46,7 @@ std::string paragraph(const Note& note) {
 
 }  // namespace
 
-std::string NotesText(const Session& session) {
+std::string notesText(const Session& session) {
     if (!session.Calculated || !session.notes) return "No notes without results\n";
     const Notes& notes = *session.notes;
     std::string text = "Notes for the checking engineer: " + std::to_string(notes.notes.size()) + "\n";

@@ -147,7 +147,7 @@ std::string fill(Workbook& workbook, const ResultTable& table, const std::string
 
 }  // namespace
 
-std::string SaveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
+std::string saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
     try {
         const PrivateFolder folder;
         // The library tells of a file that can't be made on standard error only.

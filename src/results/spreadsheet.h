@@ -13,6 +13,6 @@ namespace borvik {
 /// @param file   path
 /// @param title  name of the sheet; what a sheet may not be called is left out
 /// @return an empty text, or what went wrong
-[[nodiscard]] std::string SaveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title);
+[[nodiscard]] std::string saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title);
 
 }  // namespace borvik

@@ -62,7 +62,7 @@ std::string lineOf(const std::vector<TableCell>& row, const std::vector<std::siz
 
 }  // namespace
 
-std::string PlainText(const ResultTable& table) {
+std::string tableText(const ResultTable& table) {
     std::vector<TableCell> headers;
     for (const TableColumn& column : table.columns) headers.push_back({column.header, Emphasis::None, {}, {}});
     std::vector<std::vector<TableCell>> lines{headers};
@@ -78,10 +78,10 @@ std::string PlainText(const ResultTable& table) {
     return text;
 }
 
-std::string SummaryText(const Session& session) {
+std::string summaryText(const Session& session) {
     if (!session.Calculated || !session.results) return projectLine(session.project) + "Not calculated.\n";
     const RatioVerdict verdict = verdictOf(*session.results);
-    return projectLine(session.project) + PlainText(ShowSummaryAll(session.project, *session.results)) +
+    return projectLine(session.project) + tableText(ShowSummaryAll(session.project, *session.results)) +
            "Largest ratio " + formatNumber(verdict.largest, "0.000") +
            (verdict.largest > 1.0 ? ", over 1: marked !!" : "") + verdict.remark() + "\n";
 }

@@ -29,7 +29,7 @@ double cube(double x) {
     return std::pow(x, 3.0);
 }
 
-std::array<Strip, 3> PlateStrips(const SectionRecord& s) {
+std::array<Strip, 3> plateStrips(const SectionRecord& s) {
     return {Strip{s.b1, s.tf1, s.h - s.tf1}, Strip{s.tw, s.h - s.tf1 - s.tf2, s.tf2}, Strip{s.b2, s.tf2, 0.0}};
 }
 
@@ -89,10 +89,10 @@ PlasticProperties PlasticAxis(const SectionRecord& s) {
         // Wply comes out a little larger than at the axis of equal areas. Note B3.
         z = hw + 2.0 * s.tf2 - (A2 + Aw + A1 - S) / s.b1;
     }
-    return {z, PlasticModulus(PlateStrips(s), z)};
+    return {z, plasticModulus(plateStrips(s), z)};
 }
 
-PlasticProperties PlasticAxisBySearch(std::span<const Strip> strips) {
+PlasticProperties plasticAxisBySearch(std::span<const Strip> strips) {
     double area = 0.0;
     for (const Strip& strip : strips) area += strip.area();
     Single z = 2.0;
@@ -103,10 +103,10 @@ PlasticProperties PlasticAxisBySearch(std::span<const Strip> strips) {
         z = next;
         below = areaBelow(strips, z);
     }
-    return {z, PlasticModulus(strips, z)};
+    return {z, plasticModulus(strips, z)};
 }
 
-double PlasticModulus(std::span<const Strip> strips, double axis) {
+double plasticModulus(std::span<const Strip> strips, double axis) {
     double W = 0.0;
     for (const Strip& strip : strips) {
         const bool cut = strip.lower < axis && axis < strip.upper();

@@ -28,7 +28,7 @@ double cube(double x);
 // that isn't there has a thickness or width of zero. Welds and root radii don't count.
 
 /// The plates of a welded I: top flange, web, bottom flange.
-[[nodiscard]] std::array<Strip, 3> PlateStrips(const SectionRecord& section);
+[[nodiscard]] std::array<Strip, 3> plateStrips(const SectionRecord& section);
 
 /// Elastic centroid of the three plates above the underside, mm.
 [[nodiscard]] double Centroid(const SectionRecord& section);
@@ -62,9 +62,9 @@ struct PlasticProperties {
 /// Of any strips: the axis is the first height, in steps of 0.1 mm from 2 mm, with half of the area or more below it.
 /// Each step is rounded to a single.
 /// @throws RuntimeFault  when the section is so high that a step is lost in the rounding
-[[nodiscard]] PlasticProperties PlasticAxisBySearch(std::span<const Strip> strips);
+[[nodiscard]] PlasticProperties plasticAxisBySearch(std::span<const Strip> strips);
 
 /// Sum of area times distance from the horizontal axis at height `axis`, mm3. A strip that the axis cuts counts as two.
-[[nodiscard]] double PlasticModulus(std::span<const Strip> strips, double axis);
+[[nodiscard]] double plasticModulus(std::span<const Strip> strips, double axis);
 
 }  // namespace borvik

@@ -127,7 +127,7 @@ void WeldedProperties(const SectionSetting& setting, SectionRecord& s) {
     s.Wply = plastic.Wply;
     s.A = s.b2 * s.tf2 + s.tf1 * s.b1 + (s.h - s.tf1 - s.tf2) * s.tw;
     s.EzEl = Centroid(s);
-    s.Iy = SecondMomentY(PlateStrips(s), s.EzEl);
+    s.Iy = SecondMomentY(plateStrips(s), s.EzEl);
     s.Iz = SecondMomentZ(s);
     s.GIt = TorsionStiffness(s);
     s.EIw = WarpingStiffness(s);
@@ -171,7 +171,7 @@ void ReinforcedProperties(const SectionSetting& setting, SectionRecord& s) {
         {s.tw, s.Hw - hanging, s.tf2},
         {s.b2, s.tf2, 0.0},
     }};
-    const PlasticProperties plastic = PlasticAxisBySearch(strips);
+    const PlasticProperties plastic = plasticAxisBySearch(strips);
     s.EzPl = plastic.EzPl;
     s.Wply = plastic.Wply;
 }

@@ -53,12 +53,12 @@ void UpdateSections(const ReferenceTables& tables, Project& project) {
     }
 }
 
-void UpdateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section) {
+void updateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section) {
     watched("Section properties", 0, [&] { update(tables, settingOf(tables, project), section); });
 }
 
 void LoadRolled(const ReferenceTables& tables, const std::string& TableName, SectionRecord& section) {
-    const int index = FindSection(tables, TableName);
+    const int index = findSection(tables, TableName);
     if (index < 0) throw RuntimeFault("the section table has no \"" + TableName + "\"");
     const SectionRecord& row = tables.SectionTable(index);
 

@@ -16,7 +16,7 @@ void UpdateSections(const ReferenceTables& tables, Project& project);
 /// The same for one section.
 /// @param section  in: family, dimensions, reinforcement; out: every computed property
 /// @throws RuntimeFault  as UpdateSections, without a span
-void UpdateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section);
+void updateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section);
 
 /// Copies the first row of the section table with this designation into the section: family, dimensions and the
 /// published properties, weak-axis modulus WplZ included; DisplayName becomes the designation. Every other field stays.

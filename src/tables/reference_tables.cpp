@@ -141,15 +141,15 @@ ReferenceTables LoadTables(const std::string& folder) {
     return tables;
 }
 
-int FindSection(const ReferenceTables& tables, const std::string& name) {
+int findSection(const ReferenceTables& tables, const std::string& name) {
     return find(tables.SectionTable, &SectionRecord::TableName, name);
 }
 
-int FindRail(const ReferenceTables& tables, const std::string& name) {
+int findRail(const ReferenceTables& tables, const std::string& name) {
     return find(tables.RailTable, &RailRecord::Name, name);
 }
 
-int FindMaterial(const ReferenceTables& tables, const std::string& name) {
+int findMaterial(const ReferenceTables& tables, const std::string& name) {
     return find(tables.MaterialTable, &SteelGradeRow::MatName, name);
 }
 

@@ -119,10 +119,10 @@ class TableError : public std::runtime_error {
 [[nodiscard]] ReferenceTables LoadTables(const std::string& folder);
 
 /// The row of a section by its designation. @return index from 0, or -1
-[[nodiscard]] int FindSection(const ReferenceTables& tables, const std::string& name);
+[[nodiscard]] int findSection(const ReferenceTables& tables, const std::string& name);
 /// The row of a rail by its name. @return index from 0, or -1
-[[nodiscard]] int FindRail(const ReferenceTables& tables, const std::string& name);
+[[nodiscard]] int findRail(const ReferenceTables& tables, const std::string& name);
 /// The row of a steel grade by its name. @return index from 0, or -1
-[[nodiscard]] int FindMaterial(const ReferenceTables& tables, const std::string& name);
+[[nodiscard]] int findMaterial(const ReferenceTables& tables, const std::string& name);
 
 }  // namespace borvik

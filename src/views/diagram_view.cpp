@@ -123,7 +123,7 @@ double DiagramView::textScale() const {
 }
 
 void DiagramView::draw(DrawingSurface& surface) const {
-    DrawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr}, part_);
+    drawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr}, part_);
 }
 
 /// The words that results are out of date, in a box in the middle of the picture.
@@ -212,7 +212,7 @@ Place DiagramView::toLogical(QPointF place) const {
 }
 
 void DiagramView::read(Place place, double reach) {
-    const auto found = ReadPicture(diagrams_, {*project_, &calculation_->results}, place, reach, part_);
+    const auto found = readPicture(diagrams_, {*project_, &calculation_->results}, place, reach, part_);
     readAt_ = place;
     reading_ = found ? QString::fromStdString(found->text()) : QString();
     setAccessibleDescription(reading_);

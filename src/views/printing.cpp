@@ -195,7 +195,7 @@ void exportTable(const ResultTable& table, QWidget* parent) {
         return;
     }
     const QString file = folder.filePath("Results.xlsx");
-    if (const std::string failed = SaveSpreadsheet(file.toStdString(), table, "Results"); !failed.empty()) {
+    if (const std::string failed = saveSpreadsheet(file.toStdString(), table, "Results"); !failed.empty()) {
         show(QObject::tr("The workbook can't be written: %1").arg(QString::fromStdString(failed)));
         return;
     }

@@ -303,7 +303,7 @@ void MainWindow::showRanges() {
 void MainWindow::showRemark() {
     QStringList remarks;
     if (splicesDropped_) remarks.append(tr("Splices that no longer fit the beam have been left out"));
-    if (session_.Calculated && calculation_) remarks.append(QString::fromStdString(LoadRemark(calculation_->project)));
+    if (session_.Calculated && calculation_) remarks.append(QString::fromStdString(loadRemark(calculation_->project)));
     remarks.removeAll(QString());
     stateRemark_->setText(remarks.join("; "));
     stateRemark_->setToolTip(stateRemark_->text());

@@ -88,7 +88,7 @@ void MainWindow::showCalculation() {
     showTable("Summary");
     results_->list()->showRow(governingRow(results_->list()->table()));
     showGoverning();
-    const std::string fault = LoadRemark(session_.project);
+    const std::string fault = loadRemark(session_.project);
     if (fault != std::exchange(loadFaultShown_, fault) && !fault.empty()) services_.messages.show(fault);
 }
 

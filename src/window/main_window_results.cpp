@@ -79,7 +79,7 @@ void MainWindow::goToCheckOf(int note) {
     const auto& notes = calculation_->notes->notes;
     if (!shownNotes_ || !session_.Calculated || note < 0 || static_cast<std::size_t>(note) >= notes.size()) return;
     const auto [table, row] =
-        TargetOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
+        targetOf(notes[static_cast<std::size_t>(note)], calculation_->project, calculation_->results);
     const bool ofSummary = std::string_view(table) == "SummaryAll";
     tree_->setCurrentItem(tree_->itemOf(ofSummary ? "ULS + SLS + FLS" : "Detailed Results"));
     showTable(table);
@@ -94,7 +94,7 @@ void MainWindow::showGoverning() {
     const bool over = verdict.largest > 1.0;
     // A sign beside the number, so that the state doesn't rest on colour. Loads that are not in order let no tick
     // stand.
-    const bool warns = verdict.exceeds(1.0) || !LoadRemark(calculation_->project).empty();
+    const bool warns = verdict.exceeds(1.0) || !loadRemark(calculation_->project).empty();
     stateGoverning_->setText((warns ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
                              (over ? " > 1" : "") + QString::fromStdString(verdict.remark()));
     stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts, details and points"));

@@ -128,7 +128,7 @@ void ProjectPanel::showProject() {
     if (!beingTyped && !refusedHere && !binder_.refusalPending()) binder_.show(ifyk_);
     ifyk_->setEnabled(isGeneral(project));
 
-    const int row = FindMaterial(session_.tables, project.SteelGrade);
+    const int row = findMaterial(session_.tables, project.SteelGrade);
     if (row >= 0) cbofyk_->setCurrentIndex(row);
 
     optOverH_->setChecked(project.CraneType == CraneKind::Overhead);

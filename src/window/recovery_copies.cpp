@@ -58,7 +58,7 @@ void read(QFile& file, LeftCopy& copy) {
     copy.stamp = stamp.toStdString();
     try {
         Project project;
-        ReadProjectBytes(bytes.toStdString(), project);
+        readProjectBytes(bytes.toStdString(), project);
         copy.project = std::move(project);
     } catch (const ProjectFileError&) {
         copy.project.reset();
@@ -86,7 +86,7 @@ QString RecoveryCopies::keep(const std::shared_ptr<ProjectDocument>& document, c
     stream.setVersion(kStream);
     bool lost = false;
     stream << QByteArray(kHead) << QByteArray::fromStdString(document->FileName)
-           << QByteArray::fromStdString(ProjectBytes(project, lost)) << QByteArray::fromStdString(document->stamp);
+           << QByteArray::fromStdString(projectBytes(project, lost)) << QByteArray::fromStdString(document->stamp);
     try {
         replaceFile(entry->second.toStdString(), copy.toStdString(), Readers::UserOnly);
     } catch (const std::system_error& error) {

@@ -84,7 +84,7 @@ TEST(FastWalk, hasTheSameBitsAsThePlainWalk) {
     double positions = 0;
     for (int number = 1; number <= kCases; ++number) {
         const BeamCase c = beams.next();
-        positions += CountPositions(c.project, c.loads.NCranes);
+        positions += countPositions(c.project, c.loads.NCranes);
         SCOPED_TRACE("case " + std::to_string(number));
         ASSERT_EQ(plainAgainstFast(RunUls, c), 0U);
         ASSERT_EQ(plainAgainstFast(RunSls, c), 0U);

@@ -175,12 +175,12 @@ TEST(Positions, coverTheBeamInStepsOf200) {
         if (c.secondMoves) girder.twoCranes(0);
         if (c.fixed) girder.fixedAt(0);
         if (c.outside) girder.startStopOutside();
-        EXPECT_EQ(CountPositions(girder.project, girder.loads.NCranes), c.positions);
+        EXPECT_EQ(countPositions(girder.project, girder.loads.NCranes), c.positions);
     }
     Girder constant({5000});
     constant.twoCranes(1000, true);
-    EXPECT_EQ(CountPositions(constant.project, 2), 21);
-    EXPECT_EQ(CountPositions(constant.twoCranes(1000).project, 1), 21) << "one crane in this run";
+    EXPECT_EQ(countPositions(constant.project, 2), 21);
+    EXPECT_EQ(countPositions(constant.twoCranes(1000).project, 1), 21) << "one crane in this run";
 }
 
 TEST(Positions, aTrainThatIsTooLongGivesAMessageAndNoResults) {
@@ -407,7 +407,7 @@ TEST(DeadLoad, isTheSumOfGangwayRailAndBeam) {
         RailRecord rail;
         rail.RailWeight = 40;
         girder.loads.SpanLoad(2) = girder.loads.SpanLoad(3) = 99;
-        SetDeadLoad(girder.project, rail, 1.35, girder.loads);
+        setDeadLoad(girder.project, rail, 1.35, girder.loads);
         EXPECT_NEAR(girder.loads.SpanLoad(2), c.expected, 1e-6) << c.what;
         EXPECT_EQ(girder.loads.SpanLoad(3), 99) << "behind the beam nothing is set";
     }

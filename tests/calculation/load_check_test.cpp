@@ -27,7 +27,7 @@ Project soundProject() {
 }
 
 void print(std::ostream& out, const Project& p, LoadForm form) {
-    const LoadFault fault = LoadRefusal(p, form);
+    const LoadFault fault = loadRefusal(p, form);
     const char* items[] = {"nothing", "V", "Avst", "Position", "MinAvst"};
     out << '\t' << items[static_cast<int>(fault.item)] << fault.number << "\t\"" << fault.message << '"'
         << (fault.mendable ? "" : "\tnot to be mended in the form") << '\n';
@@ -79,22 +79,22 @@ TEST(LoadRefusals, AreThoseOfTheList) {
 TEST(LoadRemarks, AreOfWhatTheFormWouldNotHaveLetPass) {
     Project p = soundProject();
     p.MinAvst = 0;
-    EXPECT_EQ(LoadRemark(p), "");
+    EXPECT_EQ(loadRemark(p), "");
     p.H(1) = 3;
-    EXPECT_NE(LoadRemark(p).find("horizontal"), std::string::npos);
+    EXPECT_NE(loadRemark(p).find("horizontal"), std::string::npos);
     p.Avst(2) = 1000;
-    EXPECT_NE(LoadRemark(p).find("not in order: Vertical force for wheel 3 is missing!"), std::string::npos);
+    EXPECT_NE(loadRemark(p).find("not in order: Vertical force for wheel 3 is missing!"), std::string::npos);
     p.V = {};
     p.Avst = {};
     p.V(5) = 10;
-    EXPECT_EQ(LoadRemark(p), "No wheel has a vertical load.") << "the second crane is not there";
+    EXPECT_EQ(loadRemark(p), "No wheel has a vertical load.") << "the second crane is not there";
 }
 
 TEST(SettledLoads, LoseTheHorizontalLoadsOfWheelsThatAreNotThere) {
     Project p = soundProject();
     p.NofCranes = 2;
     for (int i = 1; i <= 8; ++i) p.H(i) = i;
-    SettleLoads(p, LoadForm::Overhead);
+    settleLoads(p, LoadForm::Overhead);
     const double left[] = {1, 2, 0, 0, 5, 6, 0, 0};
     for (int i = 1; i <= 8; ++i) EXPECT_EQ(double(p.H(i)), left[i - 1]) << i;
     EXPECT_TRUE(p.HasLoadsY);
@@ -106,9 +106,9 @@ TEST(SettledLoads, AHorizontalLoadOnWheelSixAloneDoesNotCount) {
         p.NofCranes = 2;
         for (const int gap : {1, 2, 3, 4, 5, 6}) p.Avst(gap) = 500;
         p.H(wheel) = -1.5;
-        SettleLoads(p, LoadForm::Overhead);
+        settleLoads(p, LoadForm::Overhead);
         EXPECT_EQ(p.HasLoadsY, wheel != 6) << wheel;
-        SettleLoads(p, LoadForm::Monorail);
+        settleLoads(p, LoadForm::Monorail);
         EXPECT_EQ(p.HasLoadsY, wheel <= 4) << wheel;
     }
 }

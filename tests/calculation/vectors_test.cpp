@@ -30,7 +30,7 @@ nlohmann::json calculated(const std::string& name, WalkMethod method) {
     MessageList messages;
     Progress progress;
     Calculate(session, messages, progress, method);
-    return nlohmann::json::parse(ResultsJson(session, messages.texts, name, "Borvik"));
+    return nlohmann::json::parse(resultsJson(session, messages.texts, name, "Borvik"));
 }
 
 /// The first places where two result documents differ, and how many there are. Numbers must be the same 32 bits, texts

@@ -32,7 +32,7 @@ TEST(ReducedMoment, takesTheWebAwayAsShearGrows) {
         section.MyRdPos = c.MyRdPos;
         Project project = samples::project(1, section);
         project.GammaM0 = c.GammaM0;
-        EXPECT_NEAR(ReducedMoment(project, section, c.MyEd, c.VzEd), c.expected, 1e-4) << c.why;
+        EXPECT_NEAR(reducedMoment(project, section, c.MyEd, c.VzEd), c.expected, 1e-4) << c.why;
     }
 }
 

@@ -37,7 +37,7 @@ std::vector<std::string> textsOf(const RecordingSurface& surface) {
 RecordingSurface drawn(const std::vector<Diagram>& diagrams, const DiagramData& data, double width = 900,
                        double height = 360) {
     RecordingSurface surface(width, height);
-    DrawPicture(surface, diagrams, data);
+    drawPicture(surface, diagrams, data);
     return surface;
 }
 
@@ -73,7 +73,7 @@ TEST(Diagrams, areTheGoldenOnes) {
     for (const DiagramKind& kind : diagramKinds()) {
         RecordingSurface surface(700, 1000);
         surface.scale(-5, 0, 1015, 2000);
-        DrawDiagram(surface, kind.id, dataOf(sessionOf(Sample::Overloaded)), 0, 0, DiagramMode::Paper);
+        drawDiagram(surface, kind.id, dataOf(sessionOf(Sample::Overloaded)), 0, 0, DiagramMode::Paper);
         paper += std::string("== ") + kind.name + "\n" + surface.log();
     }
     for (const Sample sample : kSamples)
@@ -134,7 +134,7 @@ TEST(Paper, keepsToItsFrame) {
     for (const DiagramKind& kind : diagramKinds()) {
         RecordingSurface surface(700, 1000);
         surface.scale(-5, 0, 1015, kind.id == Diagram::Sketch || kind.id == Diagram::UlsMyVz ? 1400 : 2000);
-        DrawDiagram(surface, kind.id, dataOf(sessionOf(Sample::TwoCranes)), 3, 400, DiagramMode::Paper);
+        drawDiagram(surface, kind.id, dataOf(sessionOf(Sample::TwoCranes)), 3, 400, DiagramMode::Paper);
         const auto [corner, opposite] = surface.rectangles.at(0);
         surface.left = corner.x;
         surface.right = opposite.x;
@@ -233,7 +233,7 @@ std::vector<std::string> wrongLabels(Diagram diagram, const DiagramData& data, R
                                      DiagramMode mode, const BeamPart& part) {
     constexpr double kEdge = 1000.0;
     const Project& project = data.project;
-    const auto listed = DrawDiagram(surface, diagram, data, 0.0, 0.0, mode, part);
+    const auto listed = drawDiagram(surface, diagram, data, 0.0, 0.0, mode, part);
     double total = 0.0;
     std::vector<double> starts{0.0};
     for (int span = 1; span <= project.NofSpans; ++span) starts.push_back(total += project.Span(span));
@@ -322,7 +322,7 @@ TEST(Reading, tellsSpanPlaceAndValuesBetweenThePoints) {
     const std::vector<Diagram> forces{Diagram::UlsMyVz};
 
     // 5125 mm from the start: 1125 mm in span 2, half way between its points 5 and 6.
-    const auto reading = ReadPicture(forces, data, {50.0 + 900.0 * 5125.0 / 15000.0, 10.0});
+    const auto reading = readPicture(forces, data, {50.0 + 900.0 * 5125.0 / 15000.0, 10.0});
     ASSERT_TRUE(reading);
     ASSERT_EQ(reading->points.size(), 1U);
     EXPECT_EQ(reading->points[0].span, 2);
@@ -334,16 +334,16 @@ TEST(Reading, tellsSpanPlaceAndValuesBetweenThePoints) {
     EXPECT_EQ(reading->text(), "Span 2, x = 1125 mm: My max " + between(1) + " kNm, My min " + between(2) +
                                    " kNm, Vz max " + between(3) + " kN, Vz min " + between(4) + " kN");
 
-    EXPECT_FALSE(ReadPicture(forces, data, {49.0, 10.0}));
-    EXPECT_FALSE(ReadPicture(forces, data, {951.0, 10.0}));
-    EXPECT_EQ(ReadPicture(forces, data, {50.0, 0.0})->points[0].span, 1);
-    EXPECT_NEAR(ReadPicture(forces, data, {950.0, 0.0})->points[0].position, 6000.0, 1e-6);
-    EXPECT_FALSE(ReadPicture(forces, {session.project, nullptr}, {500.0, 10.0}));
-    EXPECT_FALSE(ReadPicture(std::vector<Diagram>{Diagram::Sketch}, data, {500.0, 10.0}));
+    EXPECT_FALSE(readPicture(forces, data, {49.0, 10.0}));
+    EXPECT_FALSE(readPicture(forces, data, {951.0, 10.0}));
+    EXPECT_EQ(readPicture(forces, data, {50.0, 0.0})->points[0].span, 1);
+    EXPECT_NEAR(readPicture(forces, data, {950.0, 0.0})->points[0].position, 6000.0, 1e-6);
+    EXPECT_FALSE(readPicture(forces, {session.project, nullptr}, {500.0, 10.0}));
+    EXPECT_FALSE(readPicture(std::vector<Diagram>{Diagram::Sketch}, data, {500.0, 10.0}));
 
     const std::vector<Diagram> two = pictureDiagrams("Uz", session.project);
-    EXPECT_EQ(ReadPicture(two, data, {500.0, 5.0})->diagram, Diagram::SlsUz);
-    EXPECT_EQ(ReadPicture(two, data, {500.0, pictureHeight(two) - 5.0})->diagram, Diagram::SlsUy);
+    EXPECT_EQ(readPicture(two, data, {500.0, 5.0})->diagram, Diagram::SlsUz);
+    EXPECT_EQ(readPicture(two, data, {500.0, pictureHeight(two) - 5.0})->diagram, Diagram::SlsUy);
 }
 
 TEST(Sketch, followsTheSpansAsTheyAreEntered) {

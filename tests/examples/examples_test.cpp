@@ -61,10 +61,10 @@ TEST_P(Examples, calculateAsSavedAndHold) {
 TEST_P(Examples, notesLeadToTheNumberThatTheyName) {
     const CalculatedExample example(GetParam());
     const Results& results = *example.session.results;
-    for (const Note& note : ProjectNotes(example.session, 0.0).notes) {
+    for (const Note& note : projectNotes(example.session, 0.0).notes) {
         if (note.finding.changes.empty()) continue;
         const NoteChange& change = note.finding.changes.front();
-        const NoteTarget target = TargetOf(note, example.session.project, results);
+        const NoteTarget target = targetOf(note, example.session.project, results);
         ASSERT_GE(target.row, 0) << change.what;
         const auto row = findTable(target.table)->fill(example.session.project, results).rows.at(target.row);
         const std::string number = formatNumber(change.shown, change.mask);

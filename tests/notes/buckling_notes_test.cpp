@@ -128,7 +128,7 @@ TEST(DiagramFactors, areThoseOfTheTables) {
         for (int w = 0; w < c.loads; ++w)
             wheels.item[wheels.count++] = {L * (w + 1) / (c.loads + 1), c.load * M / L / (c.loads + 1)};
         if (wheels.count == 1) wheels.item[0].load = c.load * M / L;
-        const CFactors factors = DiagramFactors(My, M, wheels, L);
+        const CFactors factors = diagramFactors(My, M, wheels, L);
         EXPECT_NEAR(factors.C1, c.C1, 0.005 * c.C1) << c.diagram;
         EXPECT_NEAR(factors.C2, c.C2, 0.005 * c.C1) << c.diagram;
         EXPECT_NEAR(factors.C3, c.C3, 0.015 * c.C1) << c.diagram;

@@ -70,7 +70,7 @@ void splice(Project& p) {
 }
 
 SectionRecord sectionOf(const Session& session, const char* name) {
-    return session.tables.SectionTable(FindSection(session.tables, name));
+    return session.tables.SectionTable(findSection(session.tables, name));
 }
 
 /// The simple beam of another section, with a splice at midspan.

@@ -50,7 +50,7 @@ void weldedSection(Session& session, const char* family, double h, double b1, do
 }
 
 std::optional<NoteFinding> findingOf(const Session& session, const std::string& key) {
-    const Notes notes = ProjectNotes(session, 0.0);  // small growths too: the rules are tested here
+    const Notes notes = projectNotes(session, 0.0);  // small growths too: the rules are tested here
     for (const Note& note : notes.notes)
         if (note.rule->key == key) return note.finding;
     for (const NoteRule* rule : notes.assumptions)

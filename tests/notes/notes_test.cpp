@@ -30,7 +30,7 @@ TEST(Notes, KeysAreUniqueAndFound) {
 }
 
 TEST(Notes, TheLargestGrowthComesFirst) {
-    const Notes notes = ProjectNotes(calculated());
+    const Notes notes = projectNotes(calculated());
     ASSERT_GT(notes.notes.size(), 3u);
     double last = notes.notes[0].finding.changes.at(0).growth();
     for (const Note& note : notes.notes) {
@@ -48,7 +48,7 @@ TEST(Notes, AreOneSentenceEachWithNumbersAndClause) {
 }
 
 TEST(Notes, AProjectWithNothingToTellHasAssumptionsAlone) {
-    const Notes notes = ProjectNotes(calculated(lightHoist));
+    const Notes notes = projectNotes(calculated(lightHoist));
     for (const Note& note : notes.notes) ADD_FAILURE() << noteText(note);
     std::vector<std::string> keys;
     for (const NoteRule* rule : notes.assumptions) keys.emplace_back(rule->key);
@@ -58,7 +58,7 @@ TEST(Notes, AProjectWithNothingToTellHasAssumptionsAlone) {
 TEST(Notes, WithoutResultsThereAreNone) {
     Session session = calculated();
     session.inputChanged();
-    const Notes notes = ProjectNotes(session);
+    const Notes notes = projectNotes(session);
     EXPECT_TRUE(notes.notes.empty() && notes.assumptions.empty());
 }
 

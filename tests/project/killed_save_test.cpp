@@ -23,7 +23,7 @@ using testing_support::TempFolder;
 
 std::string bytesFrom(const Project& project) {
     bool lost = false;
-    return ProjectBytes(project, lost);
+    return projectBytes(project, lost);
 }
 
 /// Projects of the same length in bytes, so that a mixture of both would be a file that loads.

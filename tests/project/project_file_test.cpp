@@ -30,7 +30,7 @@ constexpr std::size_t kSectionBytes = 736;
 
 std::string bytesFrom(const Project& project) {
     bool lost = false;
-    return ProjectBytes(project, lost);
+    return projectBytes(project, lost);
 }
 
 std::string littleEndian(std::int32_t number) {
@@ -150,7 +150,7 @@ TEST(ProjectFile, everyBitOfEveryFieldSurvives) {
         Project project, read;
         visitProject(filler, project);
         const std::string bytes = bytesFrom(project);
-        ReadProjectBytes(bytes, read);
+        readProjectBytes(bytes, read);
         EXPECT_TRUE(bytesFrom(read) == bytes) << start;
         EXPECT_EQ(read.Proj, project.Proj);
         EXPECT_EQ(read.SetupSpare3(5).stored() == read.SetupSpare3(5).stored(),
@@ -164,12 +164,12 @@ TEST(ProjectFile, fixedTextsKeepEveryByte) {
     std::string bytes = bytesFrom(project);
     const std::size_t texts = kLists + kDescriptor + kSectionBytes - 5 * 64;
     for (std::size_t i = 0; i < 5 * 64; ++i) bytes[texts + i] = static_cast<char>(i);
-    ReadProjectBytes(bytes, project);
+    readProjectBytes(bytes, project);
     EXPECT_TRUE(bytesFrom(project) == bytes);
 
     Project blank;
     blank.SectionList = Array<SectionRecord>(0, 0);
-    ReadProjectBytes(bytesFrom(blank), project);
+    readProjectBytes(bytesFrom(blank), project);
     EXPECT_TRUE(project == blank) << "blanks that only fill are no part of the text";
 
     project.SectionList(0).SpareText(1) = std::string(65, 'x');
@@ -181,7 +181,7 @@ TEST(ProjectFile, anyFlagThatIsNotZeroIsTrue) {
     for (const char* flag : {"\x01\0", "\0\x01", "\xFF\xFF", "\0\x80"}) {
         bytes.replace(kSelfWeight, 2, std::string(flag, 2));
         Project project;
-        ReadProjectBytes(bytes, project);
+        readProjectBytes(bytes, project);
         EXPECT_TRUE(project.SelfWeight);
         EXPECT_EQ(bytesFrom(project).substr(kSelfWeight, 2), "\xFF\xFF");
     }
@@ -197,12 +197,12 @@ TEST(ProjectFile, everyCutLengthIsAnEndOfFile) {
     const std::string bytes = bytesFrom(project);
     for (std::size_t length = 0; length < bytes.size(); ++length) {
         Project read;
-        const auto [kind, text] = refusalOf([&] { ReadProjectBytes(bytes.substr(0, length), read); });
+        const auto [kind, text] = refusalOf([&] { readProjectBytes(bytes.substr(0, length), read); });
         ASSERT_EQ(kind, Kind::EndOfFile) << length;
         ASSERT_EQ(text, " End of file passed ") << length;
     }
     Project read;
-    EXPECT_NO_THROW(ReadProjectBytes(bytes + "the tail of a longer file", read));
+    EXPECT_NO_THROW(readProjectBytes(bytes + "the tail of a longer file", read));
     EXPECT_TRUE(read == project);
 }
 
@@ -260,7 +260,7 @@ TEST(ProjectFile, lengthsInTheFileAreNotBelieved) {
         std::string hostile = bytes;
         hostile.replace(c.at, c.put.size(), c.put);
         Project project;
-        EXPECT_EQ(refusalOf([&] { ReadProjectBytes(hostile, project); }).first, c.expected)
+        EXPECT_EQ(refusalOf([&] { readProjectBytes(hostile, project); }).first, c.expected)
             << ::testing::PrintToString(c.put);
     }
 }
@@ -272,7 +272,7 @@ TEST(ProjectFile, aSectionWithoutADisplayNameTakesItsTableName) {
     saved.SpanSection(1).TableName = saved.SectionList(0).TableName = "HEB 200";
     saved.SpanSection(2).TableName = saved.SectionList(1).TableName = "HEB 200";
     saved.SpanSection(2).DisplayName = saved.SectionList(1).DisplayName = "HEB 200+PL100x10";
-    ReadProjectBytes(bytesFrom(saved), project);
+    readProjectBytes(bytesFrom(saved), project);
     EXPECT_EQ(project.SpanSection(1).DisplayName, "HEB 200");
     EXPECT_EQ(project.SectionList(0).DisplayName, "HEB 200");
     EXPECT_EQ(project.SpanSection(2).DisplayName, "HEB 200+PL100x10");

@@ -15,7 +15,7 @@ const std::string kSource = BORVIK_SOURCE_DIR;
 
 TEST(DefaultProject, isByteForByteTheOneOfAnIndependentProgram) {
     bool lost = false;
-    EXPECT_EQ(ProjectBytes(DefaultProject(LoadTables(kSource + "/data")), lost),
+    EXPECT_EQ(projectBytes(DefaultProject(LoadTables(kSource + "/data")), lost),
               testing_support::bytesOf(kSource + "/tests/data/vectors/default.brvk"));
     EXPECT_FALSE(lost);
 }

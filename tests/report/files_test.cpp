@@ -63,7 +63,7 @@ TEST(SpreadsheetFile, holdsTheTextsOfTheTableWithNumbersAsNumbers) {
     for (const TableEntry& entry : tableEntries()) {
         const ResultTable table = entry.fill(session.project, *session.results);
         const std::string file = folder.file(std::string(entry.name) + ".xlsx");
-        ASSERT_EQ(SaveSpreadsheet(file, table, entry.title), "");
+        ASSERT_EQ(saveSpreadsheet(file, table, entry.title), "");
         const Answer read = readBack(file);
         ASSERT_EQ(read.exitCode, 0) << read.output;
         std::vector<std::string> lines = linesOf(read.output);
@@ -100,7 +100,7 @@ TEST(SpreadsheetFile, emptyTableGivesItsHeaders) {
     const TempFolder folder;
     ResultTable table;
     table.columns = {{"Support", "", ""}, {"Rz - max", "kN", ""}};
-    ASSERT_EQ(SaveSpreadsheet(folder.file("empty.xlsx"), table, "a/b:[c]"), "");
+    ASSERT_EQ(saveSpreadsheet(folder.file("empty.xlsx"), table, "a/b:[c]"), "");
     const std::vector<std::string> lines = linesOf(readBack(folder.file("empty.xlsx")).output);
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[1], "1\t2\ts\tGeneral\t'Rz - max'");
@@ -108,7 +108,7 @@ TEST(SpreadsheetFile, emptyTableGivesItsHeaders) {
 
 TEST(SpreadsheetFile, failureLeavesTheOldFileAndNothingElse) {
     const TempFolder folder;
-    EXPECT_NE(SaveSpreadsheet(folder.file("no/such/folder.xlsx"), {}, "T"), "");
+    EXPECT_NE(saveSpreadsheet(folder.file("no/such/folder.xlsx"), {}, "T"), "");
     EXPECT_EQ(folder.count(), 0);
 }
 

@@ -137,7 +137,7 @@ std::pair<std::string, std::string> resultsAndInput(Session& session) {
     EXPECT_TRUE(Calculate(session, messages, progress));
     RecordingPrinter printer(kA4.width, kA4.height);
     PrintReport(printer, session, ReportScope::All, {});
-    return {ResultsJson(session, {}, {}, ""), printer.text().substr(0, printer.text().find("ULS - My/Vz/Rz"))};
+    return {resultsJson(session, {}, {}, ""), printer.text().substr(0, printer.text().find("ULS - My/Vz/Rz"))};
 }
 
 TEST(Report, inputThatChangesResultsStandsInItsChapters) {
@@ -186,7 +186,7 @@ TEST(Report, notesAreALastChapterAndChangeNoOther) {
         const std::string chapter = with.substr(without.size());
         EXPECT_EQ(without.find("Notes for the checking engineer"), std::string::npos);
         EXPECT_NE(chapter.find("Notes for the checking engineer:\n"), std::string::npos);
-        for (const Note& note : ProjectNotes(sessionOf(sample)).notes)
+        for (const Note& note : projectNotes(sessionOf(sample)).notes)
             EXPECT_NE(chapter.find(std::string(note.rule->says).substr(0, 40)), std::string::npos) << note.rule->key;
     }
 }

@@ -197,17 +197,17 @@ TEST(ReinforcedSection, addsPlatesToARolledSection) {
 
 TEST(PlasticAxisBySearch, refusesAHeightThatItCanNotStepThrough) {
     const Strip strip{10.0, 1e9, 0.0};
-    EXPECT_THROW((void)PlasticAxisBySearch({&strip, 1}), RuntimeFault);
+    EXPECT_THROW((void)plasticAxisBySearch({&strip, 1}), RuntimeFault);
 }
 
 // The area below the start is taken as nothing, so that even half of the area there asks for one more step.
 TEST(PlasticAxisBySearch, startsAtTwoMillimetresAndStepsInSingles) {
     const Strip two[] = {{10.0, 2.0, 2.0}, {10.0, 2.0, 0.0}};
-    EXPECT_EQ(PlasticAxisBySearch(two).EzPl, 2.1f);  // nothing counts as below before the first step
+    EXPECT_EQ(plasticAxisBySearch(two).EzPl, 2.1f);  // nothing counts as below before the first step
     float z = 2.0f;
     while (z < 500.0f) z = static_cast<float>(static_cast<double>(z) + 0.1);
     const Strip high{10.0, 1000.0, 0.0};
-    EXPECT_EQ(PlasticAxisBySearch({&high, 1}).EzPl, z);
+    EXPECT_EQ(plasticAxisBySearch({&high, 1}).EzPl, z);
 }
 
 // HEA 300. EN 1993-1-1, 6.2.6(3)a: Av = 11250 - 2 * 300 * 14 + (8.5 + 54) * 14.

@@ -59,7 +59,7 @@ void setThirtySpans(const ReferenceTables& tables, Project& p) {
     const SectionRecord blank = p.SpanSection(1);
     p.SpanSection = Array<SectionRecord>(1, kMaxSpans);
     p.NofSpans = kMaxSpans;
-    const int firstRow = FindSection(tables, "HEB 300");
+    const int firstRow = findSection(tables, "HEB 300");
     for (int span = 1; span <= kMaxSpans; ++span) {
         p.Span(span) = 5000 + 40 * span;
         p.SpanSection(span) = blank;

@@ -48,11 +48,11 @@ TEST(LoadTables, readsWhatTheFilesHold) {
     for (const SteelGradeRow& m : tables.MaterialTable) text += shown({m.MatName}, {m.fyk1, m.fyk2});
     EXPECT_EQ(testing_support::goldenDifference("reference-tables.txt", text), "");
     EXPECT_EQ(tables.SectionTable.first(), 0);
-    EXPECT_EQ(FindSection(tables, "HEA 300"), 49);
-    EXPECT_EQ(FindRail(tables, "Pl 70x40"), 9);
-    EXPECT_EQ(FindRail(tables, "pl 70x40"), -1);
-    EXPECT_EQ(FindMaterial(tables, "General"), 15);
-    EXPECT_EQ(FindMaterial(tables, ""), -1);
+    EXPECT_EQ(findSection(tables, "HEA 300"), 49);
+    EXPECT_EQ(findRail(tables, "Pl 70x40"), 9);
+    EXPECT_EQ(findRail(tables, "pl 70x40"), -1);
+    EXPECT_EQ(findMaterial(tables, "General"), 15);
+    EXPECT_EQ(findMaterial(tables, ""), -1);
 }
 
 TEST(LoadTables, everySectionIsComplete) {

@@ -363,7 +363,7 @@ TEST_F(SectionForm, ASectionIsAddedOnce) {
     EXPECT_EQ(lastMessage(), "The Section exists already");
     EXPECT_EQ(project.SectionList.size(), 3);
     auto& table = control<QComboBox>("cboEuprofile");
-    const int row = FindSection(referenceTables(), "IPE 300");
+    const int row = findSection(referenceTables(), "IPE 300");
     ASSERT_GE(row, 0);
     table.setCurrentIndex(row);
     Q_EMIT table.activated(row);
@@ -455,7 +455,7 @@ TEST_F(SectionForm, PlatesStayWithTheSectionForWhichTheyWereEntered) {
     open(DialogKind::Profile);
     const auto choose = [this](const char* name) {
         auto& table = control<QComboBox>("cboEuprofile");
-        table.setCurrentIndex(FindSection(referenceTables(), name));
+        table.setCurrentIndex(findSection(referenceTables(), name));
         Q_EMIT table.activated(table.currentIndex());
     };
     const auto plates = [this] {
@@ -491,7 +491,7 @@ TEST_F(SectionForm, AnEntryIsReplacedInTheListAndInItsSpans) {
     EXPECT_EQ(name(), "HEA 300\nin the list");
     EXPECT_FALSE(control<QPushButton>("cmdReplace").isEnabled());
     auto& table = control<QComboBox>("cboEuprofile");
-    table.setCurrentIndex(FindSection(referenceTables(), "HEB 400"));
+    table.setCurrentIndex(findSection(referenceTables(), "HEB 400"));
     Q_EMIT table.activated(table.currentIndex());
     EXPECT_EQ(name(), "HEB 400\nnot in the list; can replace HEA 300");
     EXPECT_EQ(control<QListWidget>("lstDatabase").currentRow(), -1);

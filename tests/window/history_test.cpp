@@ -38,9 +38,9 @@ protected:
 bool accepted(const Project& project) {
     const LoadForm form = project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail;
     Project settled = project;
-    SettleLoads(settled, form);
+    settleLoads(settled, form);
     MessageList messages;
-    return LoadRefusal(project, form).message.empty() && CheckInput(settled, messages) && settled == project;
+    return loadRefusal(project, form).message.empty() && CheckInput(settled, messages) && settled == project;
 }
 
 TEST_F(UndoTest, putsBackOnlyWhatTheFormsHaveAccepted) {

@@ -412,7 +412,7 @@ TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
     DiagramView view({messages, questions, settings});
     view.showResults({Diagram::UlsMyVz}, window.calculation());
     RecordingSurface drawn(1000, 300);
-    DrawPicture(drawn, view.diagrams(), {project(), &*session.results});
+    drawPicture(drawn, view.diagrams(), {project(), &*session.results});
     const auto total = static_cast<double>(project().Span(1) + project().Span(2) + project().Span(3));
     QSignalSpy read(&view, &DiagramView::readingChanged);
     const auto readingAt = [&](double along) {

@@ -77,7 +77,7 @@ std::string entryOf(const NoteRule& rule) {
 
 }  // namespace
 
-std::string NotesChapter() {
+std::string notesChapter() {
     std::string text = std::string(kHeading) + kIntroduction;
     for (const Chapter& chapter : kChapters) {
         text += std::string("\n### Notes: ") + chapter.title + "\n\n";
@@ -91,7 +91,7 @@ std::string withNotesChapter(const std::string& manual) {
     const std::size_t begin = manual.find(kHeading);
     if (begin == std::string::npos) throw std::runtime_error("the manual has no chapter of notes");
     const std::size_t end = std::min(manual.find("\n## ", begin), manual.size() - 1) + 1;
-    return manual.substr(0, begin) + NotesChapter() + manual.substr(end);
+    return manual.substr(0, begin) + notesChapter() + manual.substr(end);
 }
 
 }  // namespace borvik

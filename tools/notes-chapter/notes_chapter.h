@@ -6,7 +6,7 @@ namespace borvik {
 
 /// The chapter "Notes for the checking engineer" of the theory manual in Markdown: every note and every assumption of
 /// the catalogue, a list for each of its chapters.
-[[nodiscard]] std::string NotesChapter();
+[[nodiscard]] std::string notesChapter();
 
 /// The manual with its chapter of notes as the catalogue has it: what stands from the chapter's heading to the next one
 /// of its level is replaced.

@@ -18,7 +18,7 @@ struct BuckledBeam {
         project.Span = {};
         project.Span(1) = 6000;
         project.RailOn = false;
-        project.SpanSection(1) = tables.SectionTable(FindSection(tables, "IPE 300"));
+        project.SpanSection(1) = tables.SectionTable(findSection(tables, "IPE 300"));
         project.LoadLevel = loadLevel;
         project.LtbCurve = curve;
         project.DefaultCfactor = false;

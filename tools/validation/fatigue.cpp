@@ -47,7 +47,7 @@ gamma Ff = 1.0, gamma Mf = 1.15.
 - direct stress under a wheel: 0.630198 x 1.05 x 150000/(78.2424 x 10) = 126.857 N/mm2
 - shear, 0.2 of it to either side (EN 1993-6, 5.7.2): 0.4 x 0.758717 x 157500/782.424 = 61.0911 N/mm2)");
     const Project project = girder();
-    const RailRecord& rail = tables.RailTable(FindRail(tables, "Pl 50x30"));
+    const RailRecord& rail = tables.RailTable(findRail(tables, "Pl 50x30"));
     FatigueFactors factors;
     factors.Cr1 = craneFactors(3, countWheels(project, 1), dynamicFactor(1.1));
     const WheelStress wheel = wheelStress(project, rail, factors, project.SpanSection(1));
@@ -84,7 +84,7 @@ gamma Ff = 1.0, gamma Mf = 1.15.
     hoist.Inn = 20;
     factors.Cr1 = craneFactors(3, 2, 1.0);
     document.compare({{"sigma, MPa", "131.831 x 0.500189", 131.8307410367 * 0.5001886555,
-                       flangeBending(hoist, factors, tables.SectionTable(FindSection(tables, "IPE 300")))}});
+                       flangeBending(hoist, factors, tables.SectionTable(findSection(tables, "IPE 300")))}});
 }
 
 }  // namespace borvik::validation

@@ -43,7 +43,7 @@ web 760 x 10, flanges 20, S355, gamma M1 = 1.1, span 6000 mm (the distance of th
 - lambda F = sqrt(379.021 x 10 x 355/1500085) = 0.947083; chi F = 0.5/0.947083 = 0.527937, eq. (6.3), (6.4)
 - FRd = 355 x 0.527937 x 379.021 x 10/1.1 = 645.775 kN, eq. (6.1), (6.2); IR = 150/645.775 = 0.232279)");
     Project project = girder();
-    const RailRecord& rail = tables.RailTable(FindRail(tables, "Pl 50x30"));
+    const RailRecord& rail = tables.RailTable(findRail(tables, "Pl 50x30"));
     const CheckResult patch = runCheck("Local", {project, rail, {}, {}});
     const WornRail worn = wearRail(rail, kWearStatic);
     document.compare({{"Ir, mm4", "50 x 22.5^3/12", 47460.9375, worn.Ired},
@@ -69,7 +69,7 @@ load factor 1.35, dynamic factor 1.1; My,Ed = 40 kNm.
     project.NofSpans = 1;
     project.Span = {};
     project.Span(1) = 6000;
-    project.SpanSection(1) = tables.SectionTable(FindSection(tables, "IPE 300"));
+    project.SpanSection(1) = tables.SectionTable(findSection(tables, "IPE 300"));
     UpdateSections(tables, project);
     project.V = FixedArray<Single, 1, 8>::of(20, 20);
     project.Avst = FixedArray<Single, 1, 6>::of(200);
