@@ -17,7 +17,7 @@ _borvik_calc() {
         --fail-above) COMPREPLY=(1.0) ;;
         *)
             if [[ $current == -* ]]; then
-                mapfile -t COMPREPLY < <(compgen -W "--crane-loads --default --diagram --fail-above --help --json --notes --png --quiet --report
+                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --default --diagram --fail-above --help --json --notes --png --quiet --report
                     --save --scope --summary --table --tables --version --walk --with-notes --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")

@@ -85,6 +85,15 @@ void addOptions(CLI::App& app, Options& options) {
             return isPictureName(name) ? std::string() : "unknown diagram: one of " + listOf(pictureNames());
         });
         picture->needs(diagram);
+        app.add_option("--at", options.at,
+                       "Put crane 1 into the diagram, its first wheel so many mm from the start of a span; behind a "
+                       "comma crane 2")
+            ->type_name("SPAN:MM[,SPAN:MM]")
+            ->needs(diagram)
+            ->check([](const std::string& text) {
+                return beamPlaces(text).empty() ? "a place such as 2:4600 is needed, not \"" + text + "\""
+                                                : std::string();
+            });
     }
     app.add_option("--save", options.save, "Write the project as it stands after the run")->type_name("FILE.brvk");
     app.add_option("--fail-above", options.failAbove, "Exit 1 if any ratio is greater than X")

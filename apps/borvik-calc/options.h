@@ -22,6 +22,7 @@ struct Options {
     std::string table;                     ///< name of a result table to print; empty: none
     std::string diagram;                   ///< name of a picture to save as `picture`; empty: none
     std::string picture;                   ///< file of the picture, .png or .svg
+    std::string at;                        ///< where the cranes of the diagram stand; empty: nowhere
     std::string xlsx;                      ///< spreadsheet file that takes the table instead; empty: none
     std::string report;                    ///< PDF file of the report; empty: none
     ReportScope scope = ReportScope::All;  ///< of the report

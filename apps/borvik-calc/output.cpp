@@ -60,7 +60,12 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
             else
                 remarks.push_back("no report without results");
         });
-    if (!options_.diagram.empty()) attempt([&] { savePictureOf(run.session, options_.diagram, options_.picture); });
+    if (!options_.diagram.empty())
+        attempt([&] {
+            const std::string remark =
+                savePictureOf(run.session, options_.diagram, beamPlaces(options_.at), options_.picture);
+            if (!remark.empty()) remarks.push_back(remark);
+        });
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (options_.notes) attempt([&] { writeNotes(run); });
     if (!failed.empty()) throw OutputError(failed);

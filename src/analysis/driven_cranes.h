@@ -40,6 +40,7 @@ public:
     void deflections(int span, bool horizontal, PointSteps& U) const;
     /// Reaction of a support 1..n + 1, N, upward positive.
     [[nodiscard]] double reaction(int support, bool horizontal) const;
+    [[nodiscard]] const RunLoads& loads() const { return loads_; }
     [[nodiscard]] bool hasHorizontal() const { return loaded_.horizontal; }
 
 private:

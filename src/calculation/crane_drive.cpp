@@ -54,14 +54,18 @@ void CraneDrive::moveTo(int j, int k) {
     cranes_->standAt(cranes_->nearest(j, k));
 }
 
+void CraneDrive::moveNear(double x1, double x5) {
+    cranes_->standAt(cranes_->nearestTo(walk_ == WalkOf::FatigueCrane2 ? x5 : x1, x5));
+}
+
 void CraneDrive::take(WalkOf walk) {
     if (walk == walk_ || !has(walk)) return;
     // In a walk of crane 2 alone its wheels take the places of those of crane 1.
     const double x5 = cranes_->place(walk_ == WalkOf::FatigueCrane2 ? 1 : 5);
-    const double x1 = walk == WalkOf::FatigueCrane2 ? x5 : cranes_->place(1);
+    const double x1 = cranes_->place(1);
     walk_ = walk;
     cranes_ = std::make_unique<DrivenCranes>(project_, *loadsOf(walk), !isFatigue(walk));
-    cranes_->standAt(cranes_->nearestTo(x1, x5));
+    moveNear(x1, x5);
 }
 
 std::array<double, kPoints + 1> CraneDrive::values(Effect effect, int span) const {

@@ -27,6 +27,10 @@ public:
     void goBack();
     /// To another position of the present walk; the nearest one.
     void moveTo(int j, int k);
+    /// To the position of the present walk at which the first wheel of crane 1 stands nearest to x1 and, where crane 2
+    /// moves on its own, that of crane 2 nearest to x5. In the walk of crane 2 alone x5 counts.
+    /// @param x1, x5  mm from the first support
+    void moveNear(double x1, double x5);
     /// Takes another walk; the cranes stay as near to their places as its steps let them. Without effect where there is
     /// no such walk.
     void take(WalkOf walk);

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "diagrams/diagram_canvas.h"
+#include "diagrams/momentary.h"
 #include "diagrams/result_diagrams.h"
 #include "diagrams/sketch_geometry.h"
 
@@ -18,6 +19,7 @@ constexpr double kAtBeam = 0.15;
 // Text heights from the bridge to the lowest load of close wheels: above the crane's name, or without room for that.
 constexpr double kAboveName = 1.8;
 constexpr double kAtBridge = 0.7;
+constexpr double kReactionRow = 2.0;     // text heights below the beam: under the span lengths
 constexpr double kSmallestLegend = 5.0;  // points
 
 // What stays where there is too little room for all: span lengths, loads, then names and distances.
@@ -25,6 +27,7 @@ constexpr double kSpanRank = 1e7;
 constexpr double kLoadRank = 1e6;
 constexpr double kDistanceRank = 2.0;
 constexpr double kNameRank = 1.0;
+constexpr double kReactionRank = 3.0;
 
 /// Crane by crane what the two sketches differ in.
 struct SketchKind {
@@ -154,6 +157,7 @@ void drawSplices(DiagramCanvas& canvas, double base) {
 struct ShownWheel {
     int wheel = 0;
     double x = 0.0;
+    double toNext = 0.0;
     [[nodiscard]] int crane() const { return wheel <= 4 ? 1 : 2; }
 };
 
@@ -170,7 +174,7 @@ void addWheelDistances(DiagramCanvas& canvas, const CraneDrawing& cranes) {
         const ShownWheel& left = cranes.wheels[i - 1];
         const ShownWheel& right = cranes.wheels[i];
         if (left.crane() != right.crane()) continue;
-        const double distance = canvas.project.Avst(left.crane() == 1 ? left.wheel : left.wheel - 1);
+        const double distance = left.toNext;
         if (distance == 0.0) continue;
         Label label;
         label.forms = {{formatNumber(distance, "0")}};
@@ -293,15 +297,18 @@ void drawLoadFlags(DiagramCanvas& canvas, const CraneDrawing& cranes, const std:
     }
 }
 
-void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, double legend) {
+/// @param wheels  where they stand
+/// @param driven  a wheel beyond the end of the beam has left it; else the crane is longer than the beam
+void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, double legend,
+                const std::vector<WheelPlace>& wheels, bool driven) {
     const double side = kind.cranesAbove ? -1.0 : 1.0;
     const double radius = kWheelRadius * emOf(canvas.surface).y;
     CraneDrawing cranes{kind, {}, base + side * (radius + 1.0), base + side * (2.4 * radius + 1.0)};
-    for (const WheelPlace& wheel : craneGeometry(canvas.project).wheels) {
+    for (const WheelPlace& wheel : wheels) {
         const double x = canvas.xOfWhole(wheel.x);
         if (canvas.shows(x))
-            cranes.wheels.push_back({wheel.wheel, x});
-        else if (wheel.x > kBeamStart + kBeamLength && canvas.showsSpan(canvas.project.NofSpans))
+            cranes.wheels.push_back({wheel.wheel, x, wheel.toNext});
+        else if (!driven && wheel.x > kBeamStart + kBeamLength && canvas.showsSpan(canvas.project.NofSpans))
             canvas.labels.leaveOut(
                 loadLabel(canvas, cranes, {wheel.wheel, x}).inList);  // the crane is longer than the beam
     }
@@ -327,28 +334,78 @@ void drawCranes(DiagramCanvas& canvas, const SketchKind& kind, double base, doub
     addWheelDistances(canvas, cranes);
 }
 
+double beamLine(const DiagramCanvas& canvas, const SketchKind& kind) {
+    const double above = canvas.layout.bases[0] - canvas.layout.area.top;
+    return canvas.Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
+}
+
+/// The reactions of the present position at their supports, kN.
+void addReactions(DiagramCanvas& canvas, const SketchKind& kind, double base, const CraneDrive& drive) {
+    for (int support = 1; support <= canvas.project.NofSpans + 1; ++support) {
+        const Stretch place = canvas.placeOfSupport(support);
+        if (!canvas.shows(canvas.supportX(support))) continue;
+        const double reaction = drive.reaction(support, false);
+        const std::string value = formatNumber(reaction, "0.0");
+        Label label;
+        label.forms = {{"Rz=" + value}, {value}};
+        label.anchor = {canvas.supportX(support), base};
+        label.left = place.left;
+        label.right = place.right;
+        label.spots = spotsInRow(kind.cranesAbove, kReactionRow);
+        label.rank = kReactionRank + std::abs(reaction);
+        label.inList = "Support " + std::to_string(support) + ": " + label.forms[0][0];
+        label.colour = kMomentary;
+        label.withLeader = false;
+        canvas.labels.add(std::move(label));
+    }
+}
+
+/// What moves with the cranes: they themselves, where they stand in words, and the reactions.
+void drawDriven(DiagramCanvas& canvas, const SketchKind& kind, const CraneDrive& drive) {
+    DrawingSurface& surface = canvas.surface;
+    const Box& frame = canvas.labels.frame();
+    surface.setFont(canvas.labelFont);
+    const double base = beamLine(canvas, kind);
+    const std::string text = craneText(canvas.project, drive);
+    surface.setColour(kMomentary);
+    surface.text({frame.right - surface.textWidth(text), frame.top + 1.0}, text);
+    canvas.labels.keepClear({frame.left, frame.top, frame.right, frame.top + 1.0 + surface.textHeight()});
+    canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
+    const double legend = frame.bottom - 1.5 * surface.textHeight();
+    drawCranes(canvas, kind, base, legend, drivenGeometry(canvas.project, drive).wheels, true);
+    addReactions(canvas, kind, base, drive);
+    canvas.drawLabels();
+}
+
 }  // namespace
 
-std::vector<std::string> drawBeamSketch(DrawingSurface& surface, const Project& input, double X0, double Y0,
-                                        DiagramMode mode, const BeamPart& part) {
-    Project project = input;
-    project.NofSpans = static_cast<std::int16_t>(enteredSpans(input));
-    DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode, part);
+std::vector<std::string> drawBeamSketch(DrawingSurface& surface, const DiagramData& data, double X0, double Y0,
+                                        DiagramMode mode, const BeamPart& part, DiagramLayer layer) {
+    Project project = data.project;
+    project.NofSpans = static_cast<std::int16_t>(enteredSpans(data.project));
     const SketchKind& kind = kindOf(project);
-    const DistinctSections sections(project);
-    const bool splices = !splicePlaces(project).empty();
-    canvas.drawHead(splices ? "          X = Beam splice" : "", false);
-    const double above = canvas.layout.bases[0] - canvas.layout.area.top;
-    const double base = Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
-    const double legend = drawLegend(canvas, legendOf(canvas, sections));
-    surface.setFont(canvas.labelFont);
-    canvas.drawLine({canvas.left(), base}, {canvas.right(), base}, colours::black, 3);
-    canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
-    drawSupports(canvas, base, kind.cranesAbove);
-    drawSplices(canvas, base);
-    drawCranes(canvas, kind, base, legend);
-    addSpanLabels(canvas, sections, base, kind.cranesAbove);
-    return canvas.drawLabels();
+    std::vector<std::string> missed;
+    if (layer != DiagramLayer::Moving) {
+        DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode, part);
+        const DistinctSections sections(project);
+        const bool splices = !splicePlaces(project).empty();
+        canvas.drawHead(splices ? "          X = Beam splice" : "", false, data.drive != nullptr);
+        const double base = beamLine(canvas, kind);
+        const double legend = drawLegend(canvas, legendOf(canvas, sections));
+        surface.setFont(canvas.labelFont);
+        canvas.drawLine({canvas.left(), base}, {canvas.right(), base}, colours::black, 3);
+        canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
+        drawSupports(canvas, base, kind.cranesAbove);
+        drawSplices(canvas, base);
+        if (!data.drive) drawCranes(canvas, kind, base, legend, craneGeometry(project).wheels, false);
+        addSpanLabels(canvas, sections, base, kind.cranesAbove);
+        missed = canvas.drawLabels();
+    }
+    if (layer != DiagramLayer::Still && data.drive != nullptr) {
+        DiagramCanvas canvas(surface, diagramKind(Diagram::Sketch), project, X0, Y0, mode, part);
+        drawDriven(canvas, kind, *data.drive);
+    }
+    return missed;
 }
 
 }  // namespace borvik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculation/crane_drive.h"
 #include "calculation/session.h"
 
 namespace borvik {
@@ -32,7 +33,11 @@ enum class DiagramMode { Screen, Paper };
 struct DiagramData {
     const Project& project;
     const Results* results = nullptr;
+    const CraneDrive* drive = nullptr;  ///< cranes to be shown where they stand, with the forces there
 };
+
+/// What of a drawing: all, or apart what a moving crane leaves as it is and what moves with it.
+enum class DiagramLayer { All, Still, Moving };
 
 /// What a diagram covers from top to bottom, in units below its origin.
 struct DiagramArea {

@@ -96,7 +96,7 @@ std::string DiagramCanvas::spansShown() const {
     return spans + " of " + std::to_string(project.NofSpans);
 }
 
-void DiagramCanvas::drawHead(const std::string& ofDiagram, bool withSigns) {
+void DiagramCanvas::drawHead(const std::string& ofDiagram, bool withSigns, bool toScale) {
     std::string remark = spansShown();
     if (!remark.empty() && !ofDiagram.empty() && ofDiagram.front() != ' ') remark += "; ";
     remark += ofDiagram;
@@ -110,7 +110,7 @@ void DiagramCanvas::drawHead(const std::string& ofDiagram, bool withSigns) {
     surface.setPenWidth(penWidth(1));
 
     Font titleFont{"Arial", labelFont.points, false, true};
-    const std::string title = diagramTitle(kind_, project);
+    const std::string title = toScale ? kind_.title : diagramTitle(kind_, project);
     surface.setFont(titleFont);
     const Place corner{X0, top + 1.0};
     const Extent size = surface.extent(title);
@@ -197,7 +197,8 @@ std::vector<Place> DiagramCanvas::cut(std::vector<Place> curve) const {
     return curve;
 }
 
-void DiagramCanvas::drawCurve(double base, const std::function<double(int, int)>& at, Colour line, Colour tint) {
+void DiagramCanvas::drawCurve(double base, const std::function<double(int, int)>& at, Colour line,
+                              std::optional<Colour> tint) {
     for (int span = 1; span <= project.NofSpans; ++span) {
         if (!showsSpan(span)) continue;
         std::vector<Place> places{{x(span, 0.0), base}};
@@ -206,12 +207,14 @@ void DiagramCanvas::drawCurve(double base, const std::function<double(int, int)>
         places.push_back({x(span, project.Span(span)), base});
         places = cut(std::move(places));
         if (places.size() < 2) continue;
-        std::vector<Place> filled = places;  // down to the beam's line where the drawing ends too
-        if (filled.front().y != base) filled.insert(filled.begin(), {filled.front().x, base});
-        if (filled.back().y != base) filled.push_back({filled.back().x, base});
-        surface.polygon(filled, tint);
+        if (tint) {
+            std::vector<Place> filled = places;  // down to the beam's line where the drawing ends too
+            if (filled.front().y != base) filled.insert(filled.begin(), {filled.front().x, base});
+            if (filled.back().y != base) filled.push_back({filled.back().x, base});
+            surface.polygon(filled, *tint);
+        }
         surface.setColour(line);
-        surface.setPenWidth(penWidth(1));
+        surface.setPenWidth(penWidth(tint ? 1 : 2));
         surface.polyline(places);
         for (std::size_t i = 1; i < places.size(); ++i) labels.avoid(places[i - 1], places[i]);
     }

@@ -9,9 +9,6 @@
 
 namespace borvik {
 
-/// The largest value of a panel takes this many units.
-constexpr double kAmplitude = 40.0;
-
 /// From left to right, units.
 struct Stretch {
     double left, right;
@@ -24,12 +21,14 @@ public:
                   DiagramMode mode, const BeamPart& part);
 
     /// Frame on paper, underlined title, remark and sign sketch behind it.
-    void drawHead(const std::string& ofDiagram, bool withSigns);
+    /// @param toScale  the drawing is to scale whatever its title says of the cranes
+    void drawHead(const std::string& ofDiagram, bool withSigns, bool toScale = false);
     /// A beam line with a mark over each support.
     void drawBeam(double y, Colour colour);
     void drawLine(Place from, Place to, Colour colour, int pen);
-    /// A curve over the spans, tinted down to its base. @param at  y of (span, point)
-    void drawCurve(double base, const std::function<double(int, int)>& at, Colour line, Colour tint);
+    /// A curve over the spans, tinted down to its base or, without a tint, a thicker line alone.
+    /// @param at  y of (span, point)
+    void drawCurve(double base, const std::function<double(int, int)>& at, Colour line, std::optional<Colour> tint);
     /// All labels added to `labels`. @return those that found no room, as they read in a list
     std::vector<std::string> drawLabels();
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -32,6 +34,7 @@ struct PeakLabel {
     /// Before and behind the position: "  L=", " mm". Both empty where the position isn't written.
     std::string before = {}, after = {};
     bool inRow = false;  ///< below the deepest curve, in a row with the others
+    std::array<CraneStand, 2> stands = {};  ///< where the cranes stand then
 };
 
 /// A beam line with its curves, one of a diagram's one or two.
@@ -41,6 +44,7 @@ struct Panel {
     std::vector<Curve> curves;
     std::vector<PeakLabel> peaks;
     bool oneSided = false;  ///< all curves stand on one side
+    std::optional<Effect> effect = {};  ///< what is enveloped; a range has no value at a single position
 };
 
 /// The texts at a support.
@@ -48,6 +52,7 @@ struct SupportText {
     std::vector<std::string> lines;                      ///< "Rz=+12.3/-4.5"
     std::vector<std::vector<std::string>> shorter = {};  ///< "+12.3/-4.5" and the like, where that is plain enough
     double value = 0.0;                                  ///< the largest magnitude
+    CraneStand stand = {};                               ///< of that
 };
 using SupportTexts = std::vector<SupportText>;  ///< [support - 1]
 
@@ -84,6 +89,7 @@ struct DiagramKind {
     int crane = 0;            ///< 1 or 2 where it shows the stresses of one crane
     StressQuantity quantity = StressQuantity::Top;
     bool range = false;  ///< stress ranges
+    WalkOf walk = WalkOf::Uls;
 
     /// Without horizontal loads there are no diagrams of that plane, with one crane none of the second.
     [[nodiscard]] bool isAvailable(const Project& project) const;
@@ -117,5 +123,12 @@ struct PictureKind {
 [[nodiscard]] SupportTexts supportTexts(const DiagramKind& kind, const DiagramData& data);
 [[nodiscard]] std::string diagramRemark(const DiagramKind& kind, const DiagramData& data);
 [[nodiscard]] std::string diagramTitle(const DiagramKind& kind, const Project& project);
+
+/// The largest value of a panel takes this many units.
+constexpr double kAmplitude = 40.0;
+/// The largest magnitude of a panel's curves, or 1 where all is zero, so that an empty diagram is a flat line.
+[[nodiscard]] double largestOf(const Panel& panel, const Project& project);
+/// Units below the beam's line at which a value stands. @param largest  of the panel
+[[nodiscard]] double offsetOf(const Panel& panel, double value, double largest);
 
 }  // namespace borvik

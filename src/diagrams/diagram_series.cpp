@@ -22,84 +22,103 @@ std::string signedText(const std::string& name, const std::string& sign, double 
     return name + (text == "0.0" ? "" : sign) + text;
 }
 
+/// An extreme of the forces: its envelope and where the cranes stand.
+struct ForceExtreme {
+    const Cube<Single>& points;
+    const Table<Single>& spans;
+    const Table<WalkPosition>& at;
+};
+struct ReactionExtreme {
+    const Array<Single>& values;
+    const Array<WalkPosition>& at;
+};
+
 /// What differs between the forces of the two planes.
 struct ForcePlane {
     const char* moment;  ///< "My"
     const char* shear;   ///< "Vz"
     const char* reaction;
-    const Cube<Single>&momentMax, &momentMin, &shearMax, &shearMin;
-    const Table<Single>&momentMaxSpan, &momentMinSpan, &shearMaxSpan, &shearMinSpan;
-    const Array<Single>&reactionMax, &reactionMin;
+    Effect momentEffect, shearEffect, reactionEffect;
+    ForceExtreme momentMax, momentMin, shearMax, shearMin;
+    ReactionExtreme reactionMax, reactionMin;
     int momentSlot, shearSlot;
     int placeSlot;  ///< of x in the span records
 };
 
 ForcePlane forcePlane(bool horizontal, const UlsResults& uls) {
+    const UlsPositions& at = uls.At;
     if (!horizontal)
         return {"My",
                 "Vz",
                 "Rz=+",
-                uls.MyMaxPoint,
-                uls.MyMinPoint,
-                uls.VzMaxPoint,
-                uls.VzMinPoint,
-                uls.MyMaxSpan,
-                uls.MyMinSpan,
-                uls.VzMaxSpan,
-                uls.VzMinSpan,
-                uls.RzMax,
-                uls.RzMin,
+                Effect::My,
+                Effect::Vz,
+                Effect::Rz,
+                {uls.MyMaxPoint, uls.MyMaxSpan, at.MyMax},
+                {uls.MyMinPoint, uls.MyMinSpan, at.MyMin},
+                {uls.VzMaxPoint, uls.VzMaxSpan, at.VzMax},
+                {uls.VzMinPoint, uls.VzMinSpan, at.VzMin},
+                {uls.RzMax, at.RzMax},
+                {uls.RzMin, at.RzMin},
                 1,
                 2,
                 UlsResults::kPlaceSlot};
     return {"Mz",
             "Vy",
             "Ry=+",
-            uls.MzMaxPoint,
-            uls.MzMinPoint,
-            uls.VyMaxPoint,
-            uls.VyMinPoint,
-            uls.MzMaxSpan,
-            uls.MzMinSpan,
-            uls.VyMaxSpan,
-            uls.VyMinSpan,
-            uls.RyMax,
-            uls.RyMin,
+            Effect::Mz,
+            Effect::Vy,
+            Effect::Ry,
+            {uls.MzMaxPoint, uls.MzMaxSpan, at.MzMax},
+            {uls.MzMinPoint, uls.MzMinSpan, at.MzMin},
+            {uls.VyMaxPoint, uls.VyMaxSpan, at.VyMax},
+            {uls.VyMinPoint, uls.VyMinSpan, at.VyMin},
+            {uls.RyMax, at.RyMax},
+            {uls.RyMin, at.RyMin},
             3,
             4,
             UlsResults::kPlaceSlotY};
+}
+
+/// Where the cranes stand for the extreme of a span, x mm from its left support.
+std::array<CraneStand, 2> standAt(const DiagramData& data, Effect effect, const Table<WalkPosition>& at, int span,
+                                  double x) {
+    if (at.rows() < span) return {};
+    return {CraneStand{WalkOf::Uls, effect, at(span, kWholeSpan), span, pointAt(x, data.project.Span(span))}};
 }
 
 Curve envelope(std::string name, const Cube<Single>& points, int slot, double divisor) {
     return {std::move(name), [&points, slot, divisor](int span, int k) { return points(span, k, slot) / divisor; }};
 }
 
-Panel momentPanel(const ForcePlane& plane, int spans) {
+Panel momentPanel(const ForcePlane& plane, const DiagramData& data) {
     const std::string name = plane.moment;
-    Panel panel{"kNm", Upwards::Negative, {}, {}, false};
-    panel.curves = {envelope(name + " max", plane.momentMax, plane.momentSlot, kPerKiloMetre),
-                    envelope(name + " min", plane.momentMin, plane.momentSlot, kPerKiloMetre)};
-    for (const Table<Single>* extreme : {&plane.momentMaxSpan, &plane.momentMinSpan})
-        for (int span = 1; span <= spans; ++span) {
-            const double moment = (*extreme)(span, plane.momentSlot) / kPerKiloMetre;
-            const double x = (*extreme)(span, plane.placeSlot);
+    Panel panel{"kNm", Upwards::Negative, {}, {}, false, plane.momentEffect};
+    panel.curves = {envelope(name + " max", plane.momentMax.points, plane.momentSlot, kPerKiloMetre),
+                    envelope(name + " min", plane.momentMin.points, plane.momentSlot, kPerKiloMetre)};
+    for (const ForceExtreme* extreme : {&plane.momentMax, &plane.momentMin})
+        for (int span = 1; span <= data.project.NofSpans; ++span) {
+            const double moment = extreme->spans(span, plane.momentSlot) / kPerKiloMetre;
+            const double x = extreme->spans(span, plane.placeSlot);
             if (moment != 0.0)  // a record that no position of the cranes filled says nothing
-                panel.peaks.push_back({span, x, moment, name + "=" + oneDecimal(moment), "  L=", " mm"});
+                panel.peaks.push_back({span, x, moment, name + "=" + oneDecimal(moment), "  L=", " mm", false,
+                                       standAt(data, plane.momentEffect, extreme->at, span, x)});
         }
     return panel;
 }
 
-Panel shearPanel(const ForcePlane& plane, int spans) {
+Panel shearPanel(const ForcePlane& plane, const DiagramData& data) {
     const std::string name = plane.shear;
-    Panel panel{"kN", Upwards::Positive, {}, {}, false};
-    panel.curves = {envelope(name + " max", plane.shearMax, plane.shearSlot, kPerKilo),
-                    envelope(name + " min", plane.shearMin, plane.shearSlot, kPerKilo)};
-    for (const Table<Single>* extreme : {&plane.shearMaxSpan, &plane.shearMinSpan})
-        for (int span = 1; span <= spans; ++span) {
-            const double shear = (*extreme)(span, plane.shearSlot) / kPerKilo;
+    Panel panel{"kN", Upwards::Positive, {}, {}, false, plane.shearEffect};
+    panel.curves = {envelope(name + " max", plane.shearMax.points, plane.shearSlot, kPerKilo),
+                    envelope(name + " min", plane.shearMin.points, plane.shearSlot, kPerKilo)};
+    for (const ForceExtreme* extreme : {&plane.shearMax, &plane.shearMin})
+        for (int span = 1; span <= data.project.NofSpans; ++span) {
+            const double shear = extreme->spans(span, plane.shearSlot) / kPerKilo;
+            const double x = extreme->spans(span, plane.placeSlot);
             if (shear != 0.0)
-                panel.peaks.push_back({span, (*extreme)(span, plane.placeSlot), shear,
-                                       signedText(name + "=", shear > 0.0 ? "+" : "", shear)});
+                panel.peaks.push_back({span, x, shear, signedText(name + "=", shear > 0.0 ? "+" : "", shear), "", "",
+                                       false, standAt(data, plane.shearEffect, extreme->at, span, x)});
         }
     return panel;
 }
@@ -118,15 +137,22 @@ struct StressKind {
     Table<Single> StressSet::*maxPeak;
     Table<Single> StressSet::*minPeak;
     Table<Single> StressSet::*rangePeak;
+    Effect effect;
+    /// Where the cranes stand for the largest and for the smallest; hogging pulls the top flange.
+    Table<WalkPosition> FlsPositions::*maxAt;
+    Table<WalkPosition> FlsPositions::*minAt;
 };
 
 constexpr std::array<StressKind, 3> kStressKinds{{
     {"Sig1", "Sig= ", "Sig= ", true, true, "dSig=", &StressSet::Sig1Max, &StressSet::Sig1Min, &StressSet::Sig1Range,
-     &StressSet::Sig1MaxPeak, &StressSet::Sig1MinPeak, &StressSet::Sig1RangePeak},
+     &StressSet::Sig1MaxPeak, &StressSet::Sig1MinPeak, &StressSet::Sig1RangePeak, Effect::TopFlange,
+     &FlsPositions::MyMin, &FlsPositions::MyMax},
     {"Sig2", "Sig= ", "Sig=-", false, true, "dSig=", &StressSet::Sig2Max, &StressSet::Sig2Min, &StressSet::Sig2Range,
-     &StressSet::Sig2MaxPeak, &StressSet::Sig2MinPeak, &StressSet::Sig2RangePeak},
+     &StressSet::Sig2MaxPeak, &StressSet::Sig2MinPeak, &StressSet::Sig2RangePeak, Effect::BottomFlange,
+     &FlsPositions::MyMax, &FlsPositions::MyMin},
     {"Tau", "Tau=+", "Tau=-", false, false, "dTau=", &StressSet::TauMax, &StressSet::TauMin, &StressSet::TauRange,
-     &StressSet::TauMaxPeak, &StressSet::TauMinPeak, &StressSet::TauRangePeak},
+     &StressSet::TauMaxPeak, &StressSet::TauMinPeak, &StressSet::TauRangePeak, Effect::Web, &FlsPositions::VzMax,
+     &FlsPositions::VzMin},
 }};
 
 Curve stressCurve(std::string name, const std::optional<StressSet>& set, Table<Single> StressSet::*table) {
@@ -155,17 +181,19 @@ struct Reaction {
 
 std::vector<Panel> forcePanels(const DiagramKind& kind, const DiagramData& data) {
     const ForcePlane plane = forcePlane(kind.horizontal, data.results->Uls);
-    return {momentPanel(plane, data.project.NofSpans), shearPanel(plane, data.project.NofSpans)};
+    return {momentPanel(plane, data), shearPanel(plane, data)};
 }
 
 std::vector<Panel> deflectionPanel(const DiagramKind& kind, const DiagramData& data) {
     const SlsResults& sls = data.results->Sls;
     const Cube<Single>& points = kind.horizontal ? sls.UyMaxPoint : sls.UzMaxPoint;
     const Table<Single>& extremes = kind.horizontal ? sls.UyMaxSpan : sls.UzMaxSpan;
-    Panel panel{"mm", Upwards::Never, {envelope(kind.horizontal ? "Uy" : "Uz", points, 1, 1.0)}, {}, true};
+    const Effect effect = kind.horizontal ? Effect::Uy : Effect::Uz;
+    Panel panel{"mm", Upwards::Never, {envelope(kind.horizontal ? "Uy" : "Uz", points, 1, 1.0)}, {}, true, effect};
+    const CheckResult* check = data.results->Checks.find(kind.horizontal ? "DefY" : "DefZ");
     for (int span = 1; span <= data.project.NofSpans; ++span)
-        panel.peaks.push_back(
-            {span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1)), {}, {}, true});
+        panel.peaks.push_back({span, data.project.Span(span) / 2.0, extremes(span, 1), oneDecimal(extremes(span, 1)),
+                               "", "", true, check ? check->spans(span).Stands : std::array<CraneStand, 2>{}});
     return {panel};
 }
 
@@ -178,12 +206,18 @@ std::vector<Panel> stressPanel(const DiagramKind& diagram, const DiagramData& da
     const std::optional<StressSet>& set = stressSet(data, diagram.crane);
     const std::string name = kind.curve;
     Panel panel{"MPa", Upwards::Positive, {}, {}, diagram.range};
+    if (!diagram.range) panel.effect = kind.effect;
     if (diagram.range)
         panel.curves = {stressCurve("d" + name, set, kind.range)};
     else
         panel.curves = {stressCurve(name + " max", set, kind.max), stressCurve(name + " min", set, kind.min)};
     if (!set) return {panel};
 
+    const auto standOf = [&](int span, double x, bool largest) {
+        const Table<WalkPosition>& at = set->At.*(largest ? kind.maxAt : kind.minAt);
+        const int point = pointAt(x, data.project.Span(span));
+        return at.rows() < span ? CraneStand{} : CraneStand{diagram.walk, kind.effect, at(span, point), span, point};
+    };
     const auto addPeaks = [&](Table<Single> StressSet::*table, const char* label, bool magnitude, bool withPlace) {
         const Table<Single>& peaks = (*set).*table;
         for (int span = 1; span <= data.project.NofSpans; ++span) {
@@ -196,6 +230,10 @@ std::vector<Panel> stressPanel(const DiagramKind& diagram, const DiagramData& da
                 span, peaks(span, 2), value,
                 signedText(head, ownSign ? std::string(1, whole.back()) : "", magnitude ? std::abs(value) : value)};
             if (withPlace) peak.before = ", x=";
+            const double x = peak.position;
+            const bool largest = table != kind.minPeak;
+            peak.stands = {standOf(span, x, largest), diagram.range ? standOf(span, x, false) : CraneStand{}};
+            if (!peak.stands[0].isKnown()) std::swap(peak.stands[0], peak.stands[1]);
             panel.peaks.push_back(std::move(peak));
         }
     };
@@ -212,8 +250,13 @@ SupportTexts ulsReactions(const DiagramData& data, bool horizontal) {
     const ForcePlane plane = forcePlane(horizontal, data.results->Uls);
     SupportTexts texts;
     for (int support = 1; support <= data.project.NofSpans + 1; ++support) {
-        const Reaction reaction(plane.reactionMax, plane.reactionMin, support);
-        texts.push_back({{reaction.text(plane.reaction)}, reaction.shorter(), reaction.magnitude});
+        const Reaction reaction(plane.reactionMax.values, plane.reactionMin.values, support);
+        const auto& largest = std::abs(plane.reactionMax.values(support)) >= std::abs(plane.reactionMin.values(support))
+                                  ? plane.reactionMax
+                                  : plane.reactionMin;
+        const CraneStand stand{WalkOf::Uls, plane.reactionEffect,
+                               largest.at.has(support) ? largest.at(support) : WalkPosition{}, support, 0};
+        texts.push_back({{reaction.text(plane.reaction)}, reaction.shorter(), reaction.magnitude, stand});
     }
     return texts;
 }

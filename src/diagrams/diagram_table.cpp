@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <stdexcept>
 
 #include "diagrams/diagram_series.h"
@@ -60,6 +61,7 @@ DiagramKind stress(Diagram id, const char* name, int crane, StressQuantity quant
     kind.remark = stressTexts(quantity, false).remark;
     if (quantity == StressQuantity::Shear) kind.signs = {{Sign::Shape::Shear, "+Tau"}};
     kind.crane = crane;
+    kind.walk = crane == 1 ? WalkOf::FatigueCrane1 : WalkOf::FatigueCrane2;
     kind.quantity = quantity;
     return kind;
 }
@@ -107,7 +109,8 @@ const std::vector<DiagramKind> kDiagrams{
      .screen = kDeflection.screen,
      .paper = kDeflection.paper,
      .panels = deflectionPanel,
-     .remark = "largest magnitude, drawn below the beam"},
+     .remark = "largest magnitude, drawn below the beam",
+     .walk = WalkOf::Sls},
     {.id = Diagram::SlsUy,
      .name = "SlsUy",
      .title = "SLS - Uy (mm)",
@@ -115,7 +118,8 @@ const std::vector<DiagramKind> kDiagrams{
      .paper = kDeflection.paper,
      .panels = deflectionPanel,
      .remark = "largest magnitude, drawn below the beam",
-     .horizontal = true},
+     .horizontal = true,
+     .walk = WalkOf::Sls},
     stress(Diagram::Cr1Top, "Cr1Top", 1, StressQuantity::Top),
     stressRange(Diagram::Cr1TopRange, "Cr1TopRange", 1, StressQuantity::Top),
     stress(Diagram::Cr1Bottom, "Cr1Bottom", 1, StressQuantity::Bottom),
@@ -135,7 +139,8 @@ const std::vector<DiagramKind> kDiagrams{
      .screen = kReactions.screen,
      .paper = kReactions.paper,
      .supportTexts = flsReactions,
-     .remark = "max/min; at the last support with the sign of the shear"},
+     .remark = "max/min; at the last support with the sign of the shear",
+     .walk = WalkOf::FatigueCrane1},
 };
 
 const std::vector<PictureKind> kPictures{
@@ -202,6 +207,27 @@ std::string diagramRemark(const DiagramKind& kind, const DiagramData& data) {
     if (!ofFatigue || !oneTrain) return kind.remark;
     if (kind.crane == 2) return "both cranes run as one train: see crane 1";
     return std::string(kind.remark) + (*kind.remark == '\0' ? "" : "; ") + "both cranes run as one train";
+}
+
+double largestOf(const Panel& panel, const Project& project) {
+    double largest = 0.0;
+    for (const Curve& curve : panel.curves)
+        for (int span = 1; span <= project.NofSpans; ++span)
+            for (int k = 1; k <= kPoints; ++k) largest = std::max(largest, std::abs(curve.at(span, k)));
+    return largest == 0.0 ? 1.0 : largest;
+}
+
+double offsetOf(const Panel& panel, double value, double largest) {
+    const double offset = value / largest * kAmplitude;
+    switch (panel.upwards) {
+        case Upwards::Positive:
+            return -offset;
+        case Upwards::Negative:
+            return offset;
+        case Upwards::Never:
+            return std::abs(offset);
+    }
+    return 0.0;
 }
 
 std::string diagramTitle(const DiagramKind& kind, const Project& project) {

@@ -11,9 +11,9 @@
 namespace borvik {
 
 std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
-                                     double Y0, DiagramMode mode, const BeamPart& part) {
-    if (diagram == Diagram::Sketch) return drawBeamSketch(surface, data.project, X0, Y0, mode, part);
-    return drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode, part);
+                                     double Y0, DiagramMode mode, const BeamPart& part, DiagramLayer layer) {
+    if (diagram == Diagram::Sketch) return drawBeamSketch(surface, data, X0, Y0, mode, part, layer);
+    return drawResultDiagram(surface, diagramKind(diagram), data, X0, Y0, mode, part, layer);
 }
 
 std::vector<BeamPart> beamParts(const Project& project) {
@@ -50,6 +50,10 @@ std::string diagramTitle(Diagram diagram, const Project& project) {
 
 const char* diagramName(Diagram diagram) {
     return diagramKind(diagram).name;
+}
+
+WalkOf walkOf(Diagram diagram) {
+    return diagramKind(diagram).walk;
 }
 
 std::vector<Diagram> pictureDiagrams(std::string_view name, const Project& project) {
@@ -89,15 +93,15 @@ Place PictureFrame::pointOf(Place place, double width, double height) const {
 }
 
 void drawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
-                 const BeamPart& part) {
+                 const BeamPart& part, DiagramLayer layer) {
     const auto [left, top, right, bottom] = pictureFrame(diagrams);
     surface.scale(left, top, right, bottom);
     const std::array<Place, 4> paper{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
-    surface.polygon(paper, colours::white);
+    if (layer != DiagramLayer::Moving) surface.polygon(paper, colours::white);
     double depth = 0.0;
     for (const Diagram diagram : diagrams) {
         drawDiagram(surface, diagram, data, 0.0, depth - diagramArea(diagram, DiagramMode::Screen).top,
-                    DiagramMode::Screen, part);
+                    DiagramMode::Screen, part, layer);
         depth += diagramHeight(diagram, DiagramMode::Screen);
     }
 }

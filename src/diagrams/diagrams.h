@@ -15,9 +15,11 @@ namespace borvik {
 /// frame of the surface must have been set; drawPicture does so. The drawing is meant for white paper, on the screen
 /// too. A diagram without results is empty but for its title and the beam.
 /// @param part  of the beam to draw
+/// @param layer  a moving crane is drawn over a picture of what it leaves as it is
 /// @return labels that found no room, as they read in a list: "Span 2: My=-66.2  L=5000 mm"
 std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, const DiagramData& data, double X0,
-                                     double Y0, DiagramMode mode, const BeamPart& part = {});
+                                     double Y0, DiagramMode mode, const BeamPart& part = {},
+                                     DiagramLayer layer = DiagramLayer::All);
 
 /// The parts in which a beam is drawn on paper: the whole beam, or one of more than eight spans in strips of eight
 /// spans at most, all to the same scale.
@@ -34,6 +36,9 @@ std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, c
 /// Name for the command line and for file names: "SlsUz".
 [[nodiscard]] const char* diagramName(Diagram diagram);
 
+/// The walk whose positions a diagram shows.
+[[nodiscard]] WalkOf walkOf(Diagram diagram);
+
 /// The diagrams that stand in one picture, from top to bottom. Names are those of a node of the result tree ("MyVz",
 /// "Uz", "Cr1Sp2", "CrRz"), "Sketch", or of a single diagram; capitals are not regarded. Empty for an unknown name, for
 /// crane 2 with one crane, and for "MzVy" without horizontal loads.
@@ -44,7 +49,7 @@ std::vector<std::string> drawDiagram(DrawingSurface& surface, Diagram diagram, c
 /// Draws a picture for screen or file: lays the logical frame over the whole surface, white paper, the diagrams one
 /// below the other.
 void drawPicture(DrawingSurface& surface, std::span<const Diagram> diagrams, const DiagramData& data,
-                 const BeamPart& part = {});
+                 const BeamPart& part = {}, DiagramLayer layer = DiagramLayer::All);
 
 /// The height of a picture, in the units of a diagram that is 1000 wide.
 [[nodiscard]] double pictureHeight(std::span<const Diagram> diagrams);

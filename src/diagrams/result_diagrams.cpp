@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "diagrams/diagram_canvas.h"
+#include "diagrams/momentary.h"
 
 namespace borvik {
 namespace {
@@ -15,29 +16,6 @@ constexpr double kAboveAll = 1e30;  // rank of what is never left out
 // readers and in grey print; they also stand on different sides almost everywhere.
 constexpr Colour kCurveColours[] = {colours::blue, {0, 110, 50}};
 constexpr Colour kTints[] = {{226, 234, 252}, {222, 242, 230}};
-
-/// The largest magnitude of a panel, or 1 where all is zero, so that an empty diagram is a flat line.
-double largestOf(const Panel& panel, const Project& project) {
-    double largest = 0.0;
-    for (const Curve& curve : panel.curves)
-        for (int span = 1; span <= project.NofSpans; ++span)
-            for (int k = 1; k <= kPoints; ++k) largest = std::max(largest, std::abs(curve.at(span, k)));
-    return largest == 0.0 ? 1.0 : largest;
-}
-
-/// Units below the beam's line at which a value stands.
-double offsetOf(const Panel& panel, double value, double largest) {
-    const double offset = value / largest * kAmplitude;
-    switch (panel.upwards) {
-        case Upwards::Positive:
-            return -offset;
-        case Upwards::Negative:
-            return offset;
-        case Upwards::Never:
-            return std::abs(offset);
-    }
-    return 0.0;
-}
 
 /// "-66.2" of "My=-66.2", "30.0" of "Sig= 30.0".
 std::string bareValue(const std::string& text) {
@@ -172,10 +150,8 @@ void addSupportLabels(DiagramCanvas& canvas, const SupportTexts& texts) {
     }
 }
 
-}  // namespace
-
-std::vector<std::string> drawResultDiagram(DrawingSurface& surface, const DiagramKind& kind, const DiagramData& data,
-                                           double X0, double Y0, DiagramMode mode, const BeamPart& part) {
+std::vector<std::string> drawEnvelopes(DrawingSurface& surface, const DiagramKind& kind, const DiagramData& data,
+                                       double X0, double Y0, DiagramMode mode, const BeamPart& part) {
     DiagramCanvas canvas(surface, kind, data.project, X0, Y0, mode, part);
     const std::vector<Panel> panels = diagramPanels(kind, data);
     const SupportTexts texts = supportTexts(kind, data);
@@ -185,6 +161,20 @@ std::vector<std::string> drawResultDiagram(DrawingSurface& surface, const Diagra
     addSupportLabels(canvas, texts);
     for (std::size_t i = 0; i < panels.size(); ++i) drawPanel(canvas, panels[i], Y0 + canvas.layout.bases[i]);
     return canvas.drawLabels();
+}
+
+}  // namespace
+
+std::vector<std::string> drawResultDiagram(DrawingSurface& surface, const DiagramKind& kind, const DiagramData& data,
+                                           double X0, double Y0, DiagramMode mode, const BeamPart& part,
+                                           DiagramLayer layer) {
+    std::vector<std::string> missed;
+    if (layer != DiagramLayer::Moving) missed = drawEnvelopes(surface, kind, data, X0, Y0, mode, part);
+    if (layer != DiagramLayer::Still && data.drive != nullptr) {
+        DiagramCanvas canvas(surface, kind, data.project, X0, Y0, mode, part);
+        drawMomentary(canvas, kind, data);
+    }
+    return missed;
 }
 
 }  // namespace borvik

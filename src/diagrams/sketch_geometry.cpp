@@ -59,14 +59,41 @@ CraneGeometry craneGeometry(const Project& project) {
     const double scale = unitsPerMm * cranes.factor;
     double x = first;
     for (int i = 1, count = wheelsOf(project, 1, 1); i <= count; ++i) {
-        cranes.wheels.push_back({i, x});
+        cranes.wheels.push_back({i, x, i < count ? double{project.Avst(i)} : 0.0});
         if (i < count) x += project.Avst(i) * scale;
     }
     if (!two) return cranes;
     x = first + (crane1 + project.MinAvst) * scale;
     for (int i = 1, count = wheelsOf(project, 5, 4); i <= count; ++i) {
-        cranes.wheels.push_back({4 + i, x});
+        cranes.wheels.push_back({4 + i, x, i < count ? double{project.Avst(3 + i)} : 0.0});
         if (i < count) x += project.Avst(3 + i) * scale;
+    }
+    return cranes;
+}
+
+std::vector<DrivenWheel> drivenWheels(const CraneDrive& drive) {
+    std::vector<DrivenWheel> wheels;
+    const RunLoads& loads = drive.cranes().loads();
+    const int shift = drive.walk() == WalkOf::FatigueCrane2 ? 4 : 0;
+    const bool sideways = drive.walk() == WalkOf::Uls || drive.walk() == WalkOf::Sls;
+    for (const int first : {1, 5}) {
+        int count = 0;
+        for (int w = first; w < first + 4; ++w)
+            if (loads.WheelV(w) != 0.0 || (sideways && loads.WheelH(w) != 0.0)) count = w - first + 1;
+        for (int w = first; w < first + count; ++w) wheels.push_back({w + shift, drive.cranes().place(w), w == first});
+    }
+    return wheels;
+}
+
+CraneGeometry drivenGeometry(const Project& project, const CraneDrive& drive) {
+    CraneGeometry cranes;
+    double total = 0.0;
+    for (int span = 1; span <= enteredSpans(project); ++span) total += project.Span(span);
+    const std::vector<DrivenWheel> wheels = drivenWheels(drive);
+    for (std::size_t i = 0; i < wheels.size(); ++i) {
+        const bool last = i + 1 == wheels.size() || wheels[i + 1].first;
+        cranes.wheels.push_back({wheels[i].wheel, kBeamStart + wheels[i].place / total * kBeamLength,
+                                 last ? 0.0 : wheels[i + 1].place - wheels[i].place});
     }
     return cranes;
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "calculation/crane_drive.h"
 #include "project/project.h"
 
 namespace borvik {
@@ -28,6 +29,7 @@ private:
 struct WheelPlace {
     int wheel = 0;  ///< 1..8
     double x = 0.0;
+    double toNext = 0.0;  ///< mm to the next wheel of the crane
 };
 
 /// The wheels of a sketch, in true scale or with their distances stretched so that they can be told apart.
@@ -36,6 +38,17 @@ struct CraneGeometry {
     std::vector<WheelPlace> wheels;
 };
 [[nodiscard]] CraneGeometry craneGeometry(const Project& project);
+
+/// A wheel of driven cranes, those of crane 2 as 5 to 8 also where it walks alone.
+struct DrivenWheel {
+    int wheel = 0;
+    double place = 0.0;  ///< mm from the first support
+    bool first = false;  ///< of its crane
+};
+/// The wheels that the walk loads; of a crane without load none.
+[[nodiscard]] std::vector<DrivenWheel> drivenWheels(const CraneDrive& drive);
+/// The same in the sketch, in true scale.
+[[nodiscard]] CraneGeometry drivenGeometry(const Project& project, const CraneDrive& drive);
 
 /// A beam splice that the fatigue check looks at.
 struct SplicePlace {

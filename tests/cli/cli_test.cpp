@@ -282,6 +282,11 @@ TEST_F(CommandLine, drawsADiagramWithoutADisplay) {
     EXPECT_THAT(svg, HasSubstr("FLS - Stress in top flange (MPa)"));
     EXPECT_THAT(svg, HasSubstr("</svg>"));
 
+    const Outcome driven = run("--default --quiet --diagram MyVz --png driven.png --at 1:1130");
+    EXPECT_EQ(driven.exitCode, 0);
+    EXPECT_NE(driven.err.find("nearest step of their walk: Crane 1: span 1, 1200 mm"), std::string::npos) << driven.err;
+    for (const char* at : {"9:0", "1:1,1:1,1:1", "1", "x:1", "0:5"})
+        EXPECT_NE(run(std::string("--default --diagram MyVz --png none.png --at ") + at).exitCode, 0) << at;
     EXPECT_EQ(run("--default --diagram Cr2Sp1 --png none.png").exitCode, 5);  // there is one crane
     EXPECT_FALSE(fs::exists(folder / "none.png"));
     EXPECT_EQ(run("--default --diagram MyVz").exitCode, 2);

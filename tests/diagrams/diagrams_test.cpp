@@ -60,6 +60,32 @@ std::vector<std::string> collisions(const RecordingSurface& surface) {
     return found;
 }
 
+/// The cranes at the position of an extreme: the line of that position touches it, and says its value.
+TEST(DrivenCranes, touchTheExtremeThatTheyStandAt) {
+    for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail, Sample::Together}) {
+        const Session& session = sessionOf(sample);
+        CraneDrive drive(session.project, *session.results);
+        DiagramData data = dataOf(session);
+        data.drive = &drive;
+        int extremes = 0;
+        for (const DiagramKind& kind : diagramKinds())
+            for (const Panel& panel : diagramPanels(kind, data))
+                for (const PeakLabel& peak : panel.peaks) {
+                    if (!panel.effect || !peak.stands[0].isKnown()) continue;
+                    ASSERT_TRUE(drive.goTo({peak.stands[0]})) << kind.name << peak.text;
+                    RecordingSurface surface(900, 360);
+                    const std::vector<Diagram> picture{Diagram::Sketch, kind.id};
+                    drawPicture(surface, picture, data, {}, DiagramLayer::Moving);
+                    const std::string value = formatNumber(panel.oneSided ? -peak.value : peak.value, "0.0");
+                    EXPECT_TRUE(surface.hasText(value + " " + panel.unit) || surface.hasText(value.substr(1) + " mm"))
+                        << nameOf(sample) << kind.name << peak.text;
+                    EXPECT_THAT(collisions(surface), IsEmpty()) << kind.name << peak.text;
+                    ++extremes;
+                }
+        EXPECT_GT(extremes, 10);
+    }
+}
+
 TEST(Diagrams, areTheGoldenOnes) {
     for (const Sample sample : {Sample::TwoCranes, Sample::Monorail}) {
         const DiagramData data = dataOf(sessionOf(sample));
