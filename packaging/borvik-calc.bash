@@ -13,11 +13,11 @@ _borvik_calc() {
         --walk) mapfile -t COMPREPLY < <(compgen -W "plain fast" -- "$current") ;;
         --scope) mapfile -t COMPREPLY < <(compgen -W "uls uls-sls all compressed" -- "$current") ;;
         --tables) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-        --crane-loads | --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+        --crane-loads | --from-json | --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
         --fail-above) COMPREPLY=(1.0) ;;
         *)
             if [[ $current == -* ]]; then
-                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --default --diagram --fail-above --help --json --notes --png --quiet --report
+                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --default --diagram --fail-above --from-json --help --json --notes --png --quiet --report
                     --save --scope --summary --table --tables --version --walk --with-notes --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "base/whole_file.h"
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
 #include "console.h"
+#include "exchange/input_json.h"
 #include "exit_codes.h"
 #include "notes/notes.h"
 #include "output.h"
@@ -16,15 +18,25 @@ namespace borvik {
 
 namespace {
 
-bool load(Session& session, const std::string& file, Messages& messages) {
+/// The project to calculate. @return kDone, or the exit code after its message
+int load(Session& session, const std::string& file, bool asJson, Messages& messages) {
     try {
-        LoadProject(file, session.project);
+        if (asJson)
+            session.project = projectFromJson(readFile(file), session.tables);
+        else
+            LoadProject(file, session.project);
+    } catch (const InputJsonError& error) {
+        messages.show(error.what());
+        return kRefused;
+    } catch (const std::system_error& error) {
+        messages.show("can't be read: " + reasonOf(error));
+        return kFileFault;
     } catch (const ProjectFileError& error) {
         messages.show(error.what());
-        return false;
+        return kFileFault;
     }
     session.named(file);
-    return true;
+    return kDone;
 }
 
 int outcome(const Session& session, const Options& options) {
@@ -37,7 +49,8 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
                Outputs& outputs) {
     Console console(file.value_or("default project"), !options.quiet);
     Session session(tables);
-    if (file && !load(session, *file, console)) return kFileFault;
+    if (file)
+        if (const int code = load(session, *file, !options.fromJson.empty(), console); code != kDone) return code;
     Calculate(session, console, console, options.walk);
     if (session.Calculated && (options.notes || options.withNotes)) makeNotes(session);
     int exitCode = outcome(session, options);
@@ -59,6 +72,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
 int runBatch(const Options& options, const ReferenceTables& tables) {
     Outputs outputs(options);
     if (options.useDefault) return runProject(options, tables, std::nullopt, outputs);
+    if (!options.fromJson.empty()) return runProject(options, tables, options.fromJson, outputs);
     int highest = kDone;
     for (const std::string& file : options.files)
         highest = std::max(highest, runProject(options, tables, file, outputs));

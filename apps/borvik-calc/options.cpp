@@ -46,7 +46,13 @@ void addOptions(CLI::App& app, Options& options) {
                                                     {"all", ReportScope::All},
                                                     {"compressed", ReportScope::Compressed}};
     CLI::Option* files = app.add_option("FILE", options.files, "Projects to calculate (.brvk)")->type_name("");
-    app.add_flag("--default", options.useDefault, "The default project instead of files")->excludes(files);
+    CLI::Option* useDefault = app.add_flag("--default", options.useDefault, "The default project instead of files");
+    useDefault->excludes(files);
+    app.add_option("--from-json", options.fromJson,
+                   "A project made of input in JSON instead of files: the \"Input\" of --json, or an object like it")
+        ->type_name("FILE")
+        ->excludes(files)
+        ->excludes(useDefault);
     app.add_option("--tables", options.tables,
                    "Folder of the reference tables (default: beside the program, then the installed data folder)")
         ->type_name("DIR");
@@ -156,7 +162,9 @@ void checkOutputs(const Options& options) {
         const std::string behindLinks = fs::weakly_canonical(output.file, unknown).string();
         if (!isProject && (endsWith(output.file, ".brvk") || endsWith(behindLinks, ".brvk")))
             throw CLI::ValidationError(output.option, "would overwrite the project " + output.file);
-        for (const std::string& input : options.files)
+        std::vector<std::string> inputs = options.files;
+        if (!options.fromJson.empty()) inputs.push_back(options.fromJson);
+        for (const std::string& input : inputs)
             if (sameFile(output.file, input))
                 throw CLI::ValidationError(output.option, "would overwrite its input " + input);
         for (const Output& other : outputs)

@@ -14,6 +14,7 @@ namespace borvik {
 struct Options {
     std::vector<std::string> files;  ///< projects to calculate
     bool useDefault = false;         ///< the default project instead of files
+    std::string fromJson;            ///< JSON file of the input of one project, instead of files; empty: none
     std::string tables;              ///< folder of the reference tables; empty: where programs look for them
     WalkMethod walk = WalkMethod::Fast;
     bool summary = false;
@@ -32,7 +33,7 @@ struct Options {
     std::string craneLoads;  ///< file of crane data whose loads are printed, instead of projects; empty: none
     bool quiet = false;
 
-    [[nodiscard]] std::size_t projects() const { return useDefault ? 1 : files.size(); }
+    [[nodiscard]] std::size_t projects() const { return useDefault || !fromJson.empty() ? 1 : files.size(); }
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
         return summary ||

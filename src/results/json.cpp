@@ -3,6 +3,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "exchange/input_json.h"
 #include "notes/notes.h"
 #include "results/ratios.h"
 
@@ -252,6 +253,7 @@ std::string resultsJson(const Session& session, const std::vector<std::string>& 
         const double largest = verdictOf(results).largest;
         document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }
+    document["Input"] = Json::parse(inputJson(session.project));
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -37,7 +37,7 @@ nlohmann::json calculated(const std::string& name, WalkMethod method) {
 /// the same characters. Notes and the largest ratio no other program has; its name and the file's are its own.
 std::string differences(nlohmann::json ours, nlohmann::json theirs) {
     for (nlohmann::json* document : {&ours, &theirs}) {
-        for (const char* key : {"Notes", "LargestRatio", "Program", "File"}) document->erase(key);
+        for (const char* key : {"Notes", "LargestRatio", "Input", "Program", "File"}) document->erase(key);
         *document = document->flatten();
     }
     std::string text;

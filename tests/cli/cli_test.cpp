@@ -111,6 +111,8 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
     take("gap_in_spans", "gap.brvk");
     writeBytes(folder / "cut.brvk", bytesOf(folder / "good.brvk").substr(0, 3000));
     writeBytes(folder / "empty.brvk", "");
+    writeBytes(folder / "beam.json", R"({"Span": [5000]})");
+    writeBytes(folder / "wrong.json", R"({"Spam": [5000]})");
     Project faulty;
     LoadProject((folder / "good.brvk").string(), faulty);
     faulty.fyk = 0;  // a strength that the window would refuse: the resistances divide by it
@@ -127,6 +129,10 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
         {"gap.brvk", 3, "gap.brvk:  An inner beam can't have length = 0 \n"},
         {"faulty.brvk", 4, "faulty.brvk: Run-time error."},
         {"missing.brvk", 5, "missing.brvk: "},
+        {"--from-json beam.json --save beam.brvk", 0, ""},
+        {"--from-json wrong.json", 3, "wrong.json: there is no \"Spam\""},
+        {"--from-json none.json", 5, "none.json: can't be read"},
+        {"--from-json beam.json good.brvk", 2, "borvik-calc: "},
         {"cut.brvk", 5, "cut.brvk: "},
         {"empty.brvk", 5, "empty.brvk: "},
         {".", 5, ".: "},
