@@ -221,7 +221,7 @@ SectionRecord sectionOf(const Json& entry, const Project& project, const Referen
         section.ReinfSuffix = "+PL" + generalText(section.ReinfD) + "x" + generalText(section.ReinfT);
     }
     try {
-        UpdateSection(tables, project, section);
+        updateSection(tables, project, section);
     } catch (const RuntimeFault& fault) {
         fail(where + fault.what());
     }
@@ -242,7 +242,7 @@ void takeSections(Project& project, const Json& input, const ReferenceTables& ta
         }
     } else {
         for (SectionRecord& section : project.SectionList) {
-            UpdateSection(tables, project, section);
+            updateSection(tables, project, section);
             names.push_back(section.DisplayName);
         }
     }
@@ -313,7 +313,7 @@ Project projectFromJson(const std::string& text, const ReferenceTables& tables) 
             std::visit([&](auto member) { take(project.*member, input[field.name], field.name); }, field.member);
     if (!input.contains("HasLoadsY")) {
         Project settled = project;  // a copy: what is entered for a second crane stays with one crane too
-        SettleLoads(settled, project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail);
+        settleLoads(settled, project.CraneType == CraneKind::Overhead ? LoadForm::Overhead : LoadForm::Monorail);
         project.HasLoadsY = settled.HasLoadsY;
     }
     takeSections(project, input, tables);
