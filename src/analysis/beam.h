@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "analysis/loads.h"
+#include "project/loads.h"
 #include "project/project.h"
 
 namespace borvik {

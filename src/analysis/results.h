@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "analysis/loads.h"
 #include "base/array.h"
 #include "base/single.h"
+#include "project/loads.h"
 
 namespace borvik {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "analysis/loads.h"
 #include "analysis/results.h"
 #include "platform/messages.h"
 #include "platform/progress.h"
+#include "project/loads.h"
 #include "project/project.h"
 
 namespace borvik {

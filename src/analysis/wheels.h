@@ -3,7 +3,7 @@
 #include <array>
 
 #include "analysis/beam.h"
-#include "analysis/loads.h"
+#include "project/loads.h"
 #include "project/project.h"
 
 namespace borvik {

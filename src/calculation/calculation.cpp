@@ -3,10 +3,10 @@
 #include <chrono>
 #include <utility>
 
-#include "analysis/loads.h"
 #include "base/number_text.h"
 #include "checks/ltb_checks.h"
 #include "fatigue/fatigue.h"
+#include "project/loads.h"
 #include "section/section.h"
 
 namespace borvik {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "analysis/loads.h"
 #include "analysis/walk.h"
 #include "fatigue/fatigue_results.h"
 #include "platform/messages.h"
 #include "platform/progress.h"
+#include "project/loads.h"
 #include "project/project.h"
 
 namespace borvik {

@@ -2,12 +2,12 @@
 #include <cmath>
 #include <numbers>
 
-#include "analysis/loads.h"
 #include "base/number_text.h"
 #include "checks/loaded_length.h"
 #include "checks/section_checks.h"
 #include "notes/note_rules.h"
 #include "notes/recorded_worst.h"
+#include "project/loads.h"
 #include "section/geometry.h"
 
 namespace borvik {

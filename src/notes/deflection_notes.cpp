@@ -1,6 +1,6 @@
-#include "analysis/loads.h"
 #include "checks/deflection_checks.h"
 #include "notes/note_rules.h"
+#include "project/loads.h"
 
 namespace borvik {
 

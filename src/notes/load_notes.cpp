@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "analysis/loads.h"
 #include "checks/section_checks.h"
 #include "checks/static_checks.h"
 #include "notes/all_ratios.h"
+#include "project/loads.h"
 
 namespace borvik {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "analysis/loads.h"
 #include "analysis/results.h"
+#include "project/loads.h"
 #include "project/project.h"
 #include "support/stiffness_beam.h"
 

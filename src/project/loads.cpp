@@ -1,4 +1,4 @@
-#include "analysis/loads.h"
+#include "project/loads.h"
 
 namespace borvik {
 
