@@ -1,7 +1,6 @@
 #include "batch.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "base/whole_file.h"
 #include "calculation/calculation.h"

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <cstddef>
 #include <numeric>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace borvik::actions {

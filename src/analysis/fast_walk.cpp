@@ -4,6 +4,8 @@
 #include <cmath>
 #include <optional>
 
+#include "analysis/key_search.h"
+
 namespace borvik {
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/key_search.h"
+#include "analysis/lanes.h"
 #include "analysis/position.h"
 #include "analysis/steps.h"
 #include "platform/progress.h"

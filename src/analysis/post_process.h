@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "analysis/key_search.h"
+#include "analysis/lanes.h"
 #include "analysis/position.h"
 #include "analysis/recorder.h"
 #include "analysis/results.h"

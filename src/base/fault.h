@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <type_traits>
 #include <utility>
 
 namespace borvik {

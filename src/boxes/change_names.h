@@ -5,7 +5,6 @@
 #include <QWidget>
 #include <vector>
 
-#include "base/single.h"
 #include "project/project.h"
 
 namespace borvik {

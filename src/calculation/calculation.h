@@ -1,6 +1,9 @@
 #pragma once
 
+#include "analysis/walk.h"
 #include "calculation/session.h"
+#include "platform/messages.h"
+#include "platform/progress.h"
 
 namespace borvik {
 
@@ -11,8 +14,8 @@ namespace borvik {
 /// The span at which that check stops; 0 where it passes.
 [[nodiscard]] int refusedSpan(const Project& project);
 
-/// Gives the reactions at the far end, which the walk of the ultimate limit state keeps as shears, the sign of upward
-/// support forces.
+/// Gives the reactions at the far end, which the walk of the ultimate
+/// limit state keeps as shears, the sign of upward support forces.
 void turnReactionsUpward(UlsResults& uls);
 
 /// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. What was entered is

@@ -3,14 +3,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "analysis/results.h"
-#include "analysis/walk.h"
 #include "checks/static_checks.h"
 #include "fatigue/fatigue_results.h"
-#include "platform/messages.h"
-#include "platform/progress.h"
 #include "project/project.h"
 #include "tables/reference_tables.h"
 

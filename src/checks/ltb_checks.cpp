@@ -18,6 +18,12 @@ bool isEndSpan(const Project& project, int span) {
     return span == 1 || span == project.NofSpans;
 }
 
+/// For the largest positive moment: End in the first and the last span, Mid in others.
+CFactors positiveFactors(const Project& project, int span) {
+    if (isEndSpan(project, span)) return {project.C1EndPos, project.C2EndPos, project.C3EndPos};
+    return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
+}
+
 /// @param My,Mz    design moments, kNm
 /// @param records  where the wheels of rows 5 to 8 stand
 RowSet ltbRows(const Project& project, int span, bool positive, Single My, Single Mz, Single ChiLT,
@@ -57,11 +63,6 @@ RowSet negativeRows(const Project& project, int span, const UlsResults& uls) {
 }
 
 }  // namespace
-
-CFactors positiveFactors(const Project& project, int span) {
-    if (isEndSpan(project, span)) return {project.C1EndPos, project.C2EndPos, project.C3EndPos};
-    return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
-}
 
 std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support) {
     const double MySupport = support(span, 1), MyField = support(span, 2), MyOther = support(span, 3);

@@ -12,11 +12,8 @@ struct CFactors {
     double C1, C2, C3;
 };
 
-/// The project's factors of a span for its largest positive moment: End in the first and the last span, Mid in others.
-[[nodiscard]] CFactors positiveFactors(const Project& project, int span);
-
 /// The factors for the most negative support moment: those of the positive moment where the moment in the span is
-/// positive; else without a load (C2 = 0), the project's C1 in an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
+/// positive, the project's of end or mid spans; else without a load (C2 = 0), the project's C1 in an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
 /// @param support  MySupportSpan: 1 the support moment, 2 the moment in the span, 3 that at the other end
 /// @return         nullopt where no support moment is negative
 [[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support);
@@ -24,7 +21,8 @@ struct CFactors {
 /// chiLT by the curve of the project, with the whole span as unbraced length.
 /// @param positive  true: the top flange is in compression
 [[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors);
-/// The same with the factors above; 1 where there are none.
+/// The same with the project's factors for the largest positive moment of the span, and with those of the most negative
+/// support moment; 1 where there are none.
 [[nodiscard]] Single positiveReduction(const Project& project, int span);
 [[nodiscard]] Single negativeReduction(const Project& project, int span, const Table<Single>& support);
 

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "base/fault.h"
 #include "checks/check_stands.h"
 #include "checks/check_texts.h"
 

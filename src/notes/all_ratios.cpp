@@ -1,5 +1,7 @@
 #include "notes/all_ratios.h"
 
+#include <algorithm>
+
 namespace borvik {
 
 namespace {

@@ -1,4 +1,3 @@
-#include "checks/deflection_checks.h"
 #include "notes/note_rules.h"
 #include "project/loads.h"
 

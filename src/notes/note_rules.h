@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cmath>
-#include <initializer_list>
 #include <optional>
 #include <span>
 #include <string>

@@ -1,4 +1,3 @@
-#include <cmath>
 
 #include "notes/all_ratios.h"
 

@@ -1,7 +1,6 @@
 #include "pictures/info_pictures.h"
 
 #include <QPainterPath>
-#include <array>
 
 namespace borvik {
 

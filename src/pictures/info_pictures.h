@@ -1,7 +1,6 @@
 #pragma once
 
 #include "pictures/picture.h"
-#include "project/project.h"
 
 namespace borvik {
 

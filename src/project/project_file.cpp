@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <concepts>
 #include <filesystem>
 #include <limits>
 #include <string_view>

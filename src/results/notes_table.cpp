@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <initializer_list>
 
 #include "results/table_cells.h"
 

@@ -23,6 +23,17 @@ double areaBelow(std::span<const Strip> strips, double z) {
     return area;
 }
 
+/// Sum of area times distance from the horizontal axis at height `axis`, mm3. A strip that the axis cuts counts as two.
+double plasticModulus(std::span<const Strip> strips, double axis) {
+    double W = 0.0;
+    for (const Strip& strip : strips) {
+        const bool cut = strip.lower < axis && axis < strip.upper();
+        W += cut ? (square(axis - strip.lower) + square(strip.upper() - axis)) * strip.width / 2.0
+                 : std::abs(strip.middle() - axis) * strip.height * strip.width;
+    }
+    return W;
+}
+
 }  // namespace
 
 double cube(double x) {
@@ -104,16 +115,6 @@ PlasticProperties plasticAxisBySearch(std::span<const Strip> strips) {
         below = areaBelow(strips, z);
     }
     return {z, plasticModulus(strips, z)};
-}
-
-double plasticModulus(std::span<const Strip> strips, double axis) {
-    double W = 0.0;
-    for (const Strip& strip : strips) {
-        const bool cut = strip.lower < axis && axis < strip.upper();
-        W += cut ? (square(axis - strip.lower) + square(strip.upper() - axis)) * strip.width / 2.0
-                 : std::abs(strip.middle() - axis) * strip.height * strip.width;
-    }
-    return W;
 }
 
 }  // namespace borvik

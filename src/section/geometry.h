@@ -64,7 +64,4 @@ struct PlasticProperties {
 /// @throws RuntimeFault  when the section is so high that a step is lost in the rounding
 [[nodiscard]] PlasticProperties plasticAxisBySearch(std::span<const Strip> strips);
 
-/// Sum of area times distance from the horizontal axis at height `axis`, mm3. A strip that the axis cuts counts as two.
-[[nodiscard]] double plasticModulus(std::span<const Strip> strips, double axis);
-
 }  // namespace borvik

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "project/project.h"
-#include "section/properties.h"
 
 namespace borvik {
 

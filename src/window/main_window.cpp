@@ -15,7 +15,6 @@
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
 #include "views/detailed_result_dialog.h"
-#include "views/icons.h"
 #include "window/help.h"
 
 namespace borvik {

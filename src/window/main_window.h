@@ -8,7 +8,6 @@
 #include <QSet>
 #include <QSplitter>
 #include <QToolButton>
-#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>

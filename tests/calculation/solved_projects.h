@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <random>
 #include <string>
-#include <vector>
 
 #include "calculation/calculation.h"
 

@@ -1,9 +1,8 @@
-#include "checks/deflection_checks.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "checks/samples.h"
+#include "checks/static_checks.h"
 
 namespace borvik {
 namespace {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 
 #include "notes/diagram_factors.h"
 #include "notes/noted_project.h"

@@ -4,7 +4,6 @@
 
 #include "section/geometry.h"
 #include "section/resistance.h"
-#include "section/section.h"
 
 namespace borvik::test {
 

@@ -12,7 +12,6 @@
 #include <cstring>
 
 #include "dialogs/span_list.h"
-#include "section/section.h"
 #include "window/form_support.h"
 
 namespace borvik {

@@ -2,7 +2,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <cmath>
 #include <set>
 
 #include "boxes/form_binder.h"

@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "project/project_file.h"
 #include "tutorial_steps.h"
 #include "window_support.h"
 

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "section/section.h"
+#include "section/properties.h"
 #include "validation.h"
 
 namespace borvik::validation {
