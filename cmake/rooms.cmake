@@ -15,7 +15,7 @@ if(BORVIK_SANITIZE)
     target_link_options(borvik_flags INTERFACE -fsanitize=${BORVIK_SANITIZE})
 endif()
 if(BORVIK_FUZZ)
-    # Arithmetic faults are read from the processor's flags, so clang must not compute what the text doesn't ask for.
+    # Arithmetic faults are read from the processor's flags, so clang must not compute what the program doesn't ask for.
     target_compile_options(borvik_flags INTERFACE -fsanitize=fuzzer-no-link -ffp-exception-behavior=maytrap)
 endif()
 

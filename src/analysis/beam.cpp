@@ -6,8 +6,8 @@ namespace borvik {
 
 namespace {
 
-/// Builds the three-moment matrix of one plane, row r being the support between spans r and r + 1, and eliminates it
-/// without pivoting.
+/// Builds the three-moment matrix of one plane, row r being the support
+/// between spans r and r + 1, and eliminates it without pivoting.
 ThreeMomentMatrix eliminated(const Beam& beam, const PerSpan& I) {
     ThreeMomentMatrix m;
     const int last = beam.n - 1;

@@ -98,11 +98,11 @@ public:
     [[nodiscard]] bool acts(int p) const { return acts_[static_cast<std::size_t>(p)] != 0; }
     /// First position from which on the crane never acts again; last + 1 where it acts at the last one.
     [[nodiscard]] int idleFrom() const { return idleFrom_; }
-    /// First position at which a loaded wheel has reached span i. Before it, the crane loads only what is left of the
-    /// span.
+    /// First position at which a loaded wheel has reached span i.
+    /// Before it, the crane loads only what is left of the span.
     [[nodiscard]] int arrives(int i) const { return arrives_[static_cast<std::size_t>(i)]; }
-    /// First position at which all loaded wheels have left span i: from it on, the crane loads only what is right of
-    /// the span.
+    /// First position at which all loaded wheels have left span i:
+    /// from it on, the crane loads only what is right of the span.
     [[nodiscard]] int leaves(int i) const { return leaves_[static_cast<std::size_t>(i)]; }
     /// Moments over the supports first..last in one variant of position p. @param X  [first..last] are set
     void moments(int p, int variant, int first, int last, PerSpan& X) const;

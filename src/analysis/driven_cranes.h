@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "analysis/post_process.h"
 #include "analysis/steps.h"
 

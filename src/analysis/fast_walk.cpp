@@ -51,8 +51,8 @@ struct Offset {
     int firstJ;
 };
 
-/// The offsets of all j; none where some sum on the way to wheel 5 isn't exact, so that its position would not follow
-/// from s.
+/// The offsets of all j; none where some sum on the way to wheel
+/// 5 isn't exact, so that its position would not follow from s.
 std::vector<Offset> offsetsOfWheel4(const LoadedBeam& loaded, const WalkSteps& steps) {
     constexpr std::size_t kMostOffsets = 64;
     std::vector<Offset> offsets;

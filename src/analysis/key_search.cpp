@@ -51,8 +51,8 @@ public:
         find(SpanMask{1} << lanes.firstSpan);
     }
 
-    /// The same for the reaction between the last two spans: what is left of them is left of the first, and right of
-    /// the second.
+    /// The same for the reaction between the last two spans: what is
+    /// left of them is left of the first, and right of the second.
     void findReaction(const ReactionLane& lane) {
         setRanges(lane);
         leftOfLanes_ = &leftBefore_;

@@ -40,8 +40,8 @@ public:
     std::array<bool, kMostLanes> alwaysZero{};  ///< exactly 0 at every position
 };
 
-/// The quantities at the points of one span: lane k - 1 is the moment or deflection at point k, lane 21 + k - 1 the
-/// shear.
+/// The quantities at the points of one span: lane k - 1 is the
+/// moment or deflection at point k, lane 21 + k - 1 the shear.
 class SpanLanes : public Lanes {
 public:
     SpanLanes(const Plane& plane, int i, Quantity quantity, const MomentBounds& bounds);

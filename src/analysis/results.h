@@ -11,8 +11,8 @@ namespace borvik {
 /// Calculation points of a span: k = 1..21 at x = (k - 1) L / 20.
 constexpr int kPoints = 21;
 
-/// Position log of a walk: one entry per position j of crane 1, from 0; with two cranes the last distance between them
-/// stays.
+/// Position log of a walk: one entry per position j of crane 1,
+/// from 0; with two cranes the last distance between them stays.
 struct PositionLog {
     Array<std::int16_t> StepNo;  ///< j
     Array<Single> StepSpan1;     ///< span of wheel 1
@@ -55,10 +55,10 @@ struct FlsPositions {
 };
 
 /// Envelopes of the ultimate limit state. My, Mz in Nmm, sagging positive; Vz, Vy and reactions in N.
-/// Slots of a point record: 1 My, 2 Vz, 3 Mz, 4 Vy, all at the same position of the cranes; 5 span and 6 distance a of
-/// wheel 1, and in records of eight 7 span and 8 distance a of wheel 5. The key (My in My...Point and so on) is the
-/// largest or smallest of the walk; the first position that reaches it stays. A record that no position filled is all
-/// zero.
+/// Slots of a point record: 1 My, 2 Vz, 3 Mz, 4 Vy, all at the same position of the cranes;
+/// 5 span and 6 distance a of wheel 1, and in records of eight 7 span and 8 distance a of
+/// wheel 5. The key (My in My...Point and so on) is the largest or smallest of the walk;
+/// the first position that reaches it stays. A record that no position filled is all zero.
 struct UlsResults {
     static constexpr int kPlaceSlot = 9;       ///< x of the governing point, in the span records of My and Vz
     static constexpr int kPlaceSlotY = 7;      ///< and in those of Mz and Vy
@@ -85,8 +85,8 @@ struct SlsResults {
     RunLoads Loads;  ///< under which the cranes walked
 };
 
-/// Extremes of one fatigue walk. Slots of a point record: 1 My, 2 Vz, 3 and 4 unused, 5 span and 6 distance a of
-/// wheel 1.
+/// Extremes of one fatigue walk. Slots of a point record: 1 My,
+/// 2 Vz, 3 and 4 unused, 5 span and 6 distance a of wheel 1.
 struct FlsResults {
     Array<Single> FlsRzMax, FlsRzMin;  ///< [1..supports], N; the last with the sign of the shear
     Cube<Single> FlsMyMaxPoint, FlsMyMinPoint, FlsVzMaxPoint, FlsVzMinPoint;  ///< [span][1..21][1..6]

@@ -26,8 +26,8 @@ public:
     auto end() const { return items_.end(); }
     bool operator==(const FixedArray&) const = default;
 
-    std::array<T, size>
-        items_{};  ///< public so that an array can be initialised by an aggregate: {{{a, b, c}}} or of()
+    /// Public so that an array can be initialised by an aggregate: {{{a, b, c}}} or of().
+    std::array<T, size> items_{};
 
     template <class... Values>
     static FixedArray of(Values... values) {
@@ -49,8 +49,8 @@ public:
     Array(int first, int last)
         : first_(first), sized_(true), items_(static_cast<std::size_t>(last < first ? 0 : last - first + 1)) {}
 
-    /// False for an array that never got bounds. One of no items, such as 1..0, has bounds; a project file tells the
-    /// two apart.
+    /// False for an array that never got bounds. One of no items,
+    /// such as 1..0, has bounds; a project file tells the two apart.
     [[nodiscard]] bool sized() const noexcept { return sized_; }
 
     [[nodiscard]] int first() const noexcept { return first_; }
@@ -112,8 +112,8 @@ private:
     std::vector<T> items_;
 };
 
-/// Table of (span, point, slot), each from 1, stored slot by slot within a point. An index out of bounds is a
-/// RuntimeFault.
+/// Table of (span, point, slot), each from 1, stored slot by slot
+/// within a point. An index out of bounds is a RuntimeFault.
 template <class T>
 class Cube {
 public:

@@ -7,12 +7,11 @@
 
 namespace borvik {
 
-/// The one text-to-number conversion of the system: leading blanks are dropped, every "," counts as ".", and the
-/// longest numeric prefix is read (sign, digits, point, exponent as in "1,20E+12"), whatever the machine's regional
-/// settings.
-/// @return the number rounded to a single; 0 for an unreadable text; the largest single, with its sign, for a number
-/// that is
-///         too large to be stored (a range test then refuses it)
+/// The one text-to-number conversion of the system: leading blanks are dropped,
+/// every "," counts as ".", and the longest numeric prefix is read (sign, digits,
+/// point, exponent as in "1,20E+12"), whatever the machine's regional settings.
+/// @return the number rounded to a single; 0 for an unreadable text; the largest single, with its sign, for a
+/// number that is too large to be stored (a range test then refuses it)
 [[nodiscard]] Single DecimalValue(std::string_view text);
 
 /// A number by a mask such as "0.000", "0.0", "0", "#0", "#00", "##0", "#000", "#.0", "0.00", "0.000E+0", "0.0 ",
@@ -33,8 +32,8 @@ namespace borvik {
 /// The general text of a whole number.
 [[nodiscard]] std::string generalText(int number);
 
-/// A number of a single rounded to the nearest whole number, halves to even, as array indices made of stored numbers
-/// are.
+/// A number of a single rounded to the nearest whole number,
+/// halves to even, as array indices made of stored numbers are.
 /// @throws RuntimeFault for a number outside the 32-bit whole numbers
 [[nodiscard]] int roundHalfEven(double number);
 

@@ -97,7 +97,7 @@ void NumberBox::focusInEvent(QFocusEvent* event) {
     for (NumberBox* other : window()->findChildren<NumberBox*>())
         if (other != this) other->rest();
     paintBackground(kFocusedGreen);
-    // Somebody who comes back from another window goes on typing where he was.
+    // Somebody who comes back from another window goes on typing at the same place.
     const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
     if (comesBack && edited()) return;
     selectAll();

@@ -18,8 +18,8 @@ namespace borvik {
 /// the first span.
 [[nodiscard]] RowSet governingDeflection(const Array<RowSet>& spans);
 
-/// Shear ratios of a span are compared as numbers. At a tie the smallest Vz counts; wheel 5 is always that of the
-/// largest.
+/// Shear ratios of a span are compared as numbers. At a tie the
+/// smallest Vz counts; wheel 5 is always that of the largest.
 [[nodiscard]] RowSet worseShear(const RowSet& max, const RowSet& min);
 
 /// Bending ratios of a span are compared as texts. The wheels are always those of the largest moment.

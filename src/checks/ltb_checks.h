@@ -12,8 +12,9 @@ struct CFactors {
     double C1, C2, C3;
 };
 
-/// The factors for the most negative support moment: those of the positive moment where the moment in the span is
-/// positive, the project's of end or mid spans; else without a load (C2 = 0), the project's C1 in an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
+/// The factors for the most negative support moment. Where the moment in the span is positive they are those of the
+/// positive moment, which the project has for end and mid spans; else without a load (C2 = 0), with the project's C1 in
+/// an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
 /// @param support  MySupportSpan: 1 the support moment, 2 the moment in the span, 3 that at the other end
 /// @return         nullopt where no support moment is negative
 [[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support);

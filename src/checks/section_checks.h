@@ -18,8 +18,8 @@ struct SectionForces {
 /// most. @param VzEd kN, positive
 [[nodiscard]] double shearReduction(const SectionRecord& section, double VzEd);
 
-/// Design moment resistance about the strong axis, reduced for shear, kNm: EN 1993-1-1 6.2.8, the reduction taken on
-/// the web.
+/// Design moment resistance about the strong axis, reduced for
+/// shear, kNm: EN 1993-1-1 6.2.8, the reduction taken on the web.
 /// @param MyEd  kNm, signed: from 0 up the positive resistance and class count, below 0 the negative ones
 /// @param VzEd  kN, positive; no reduction up to half of VzRd
 /// @return      not limited below: it may be negative for a section that is nearly all web

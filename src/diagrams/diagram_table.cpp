@@ -25,9 +25,9 @@ std::string sketchTitle(const DiagramKind& kind, const Project& project) {
     return title;
 }
 
-/// Titles of the stress diagrams: behind "FLS - " with one crane, behind "FLS - Crane 1" with two. The title of the
-/// bottom flange with one crane names the top flange; that text is kept, and the remark behind it tells which flange it
-/// is.
+/// Titles of the stress diagrams: behind "FLS - " with one crane, behind
+/// "FLS - Crane 1" with two. The title of the bottom flange with one crane names the top
+/// flange; that text is kept, and the remark behind it tells which flange it is.
 struct StressTexts {
     StressQuantity quantity;
     bool range;

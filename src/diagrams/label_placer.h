@@ -58,7 +58,7 @@ public:
 
     /// No label may cover this; a point and a line count too.
     void keepClear(const Box& box) { taken_.push_back(box); }
-    /// A line of the drawing, better not covered.
+    /// Notes a line of the drawing, which labels avoid where they can.
     void avoid(Place from, Place to) { lines_.push_back({from, to}); }
     void add(Label label) { labels_.push_back(std::move(label)); }
     /// A value that the drawing itself found no room for: counted and listed with the labels left out.

@@ -8,8 +8,8 @@
 namespace borvik {
 namespace {
 
-/// Wheels of a crane that are worth drawing: the first, and all up to the last that has a load or a distance to its
-/// neighbour.
+/// Wheels of a crane that are worth drawing: the first, and all
+/// up to the last that has a load or a distance to its neighbour.
 int wheelsOf(const Project& project, int firstWheel, int firstGap) {
     int count = 1;
     for (int i = 1; i <= 3; ++i)

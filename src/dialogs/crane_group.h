@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "calculation/load_check.h"
 #include "dialogs/input_dialog.h"
 

@@ -36,8 +36,8 @@ public:
     /// Whether the record differs by an edit of the user from what it was when the form was made. What the form itself
     /// settles, such as computed values, is no edit.
     [[nodiscard]] bool edited() const;
-    /// What the user has changed, when the form was last asked to close: "V3 175 → 0 and 2 more"; empty where no
-    /// control tells.
+    /// What the user has changed, when the form was last asked to
+    /// close: "V3 175 → 0 and 2 more"; empty where no control tells.
     [[nodiscard]] QString whatChanged() const;
 
     /// Makes another form over this one. @param edited  called after each of its edits

@@ -14,8 +14,8 @@ namespace borvik {
 class CombinationList;
 class Picture;
 
-/// frmLoad: one or two overhead cranes, their wheels, dynamic factors and classes, the gangway and the placing of the
-/// load.
+/// frmLoad: one or two overhead cranes, their wheels, dynamic
+/// factors and classes, the gangway and the placing of the load.
 class LoadDialog final : public InputDialog {
 public:
     LoadDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);

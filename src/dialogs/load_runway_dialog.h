@@ -10,8 +10,8 @@ namespace borvik {
 class CombinationList;
 class Picture;
 
-/// frmLoadRunway: the wheels of a monorail hoist, its dynamic factors and class, the distance n, and the placing of the
-/// load.
+/// frmLoadRunway: the wheels of a monorail hoist, its dynamic
+/// factors and class, the distance n, and the placing of the load.
 class LoadRunwayDialog final : public InputDialog {
 public:
     LoadRunwayDialog(Session& session, Messages& messages, std::function<void()> changed, QWidget* parent);

@@ -25,8 +25,8 @@ public:
 
     /// Fills the input fields from CurrentSection.
     void WriteProfInput();
-    /// Recomputes CurrentSection and shows what follows from it. Dimensions that make no section leave the list with
-    /// the reason.
+    /// Recomputes CurrentSection and shows what follows from it.
+    /// Dimensions that make no section leave the list with the reason.
     void UpdateResult();
     /// Fills the list of properties and capacities.
     void WriteSectionResult();

@@ -10,10 +10,10 @@
 
 namespace borvik {
 
-/// The 30 rows of a beam: number, length and section of each span. The rows are edited in place: a digit opens the
-/// length of the selected rows, a letter their section; Enter stores and goes on below. Lengths and sections can be
-/// pasted and copied, spans put in and taken out. It writes `Span` and `SpanSection` of the record and tells by
-/// `edited`.
+/// The 30 rows of a beam: number, length and section of each span. The rows are edited in
+/// place: a digit opens the length of the selected rows, a letter their section; Enter
+/// stores and goes on below. Lengths and sections can be pasted and copied, spans put in
+/// and taken out. It writes `Span` and `SpanSection` of the record and tells by `edited`.
 class SpanList : public QTreeWidget {
     Q_OBJECT
 
@@ -40,8 +40,8 @@ public:
     /// The selected rows as a spreadsheet takes them.
     [[nodiscard]] QString copied() const;
 
-    /// Opens the cell of the selected rows. @param typed  what has been typed already; empty: the present value,
-    /// selected
+    /// Opens the cell of the selected rows. @param typed what has
+    /// been typed already; empty: the present value, selected
     void openCell(int column, const QString& typed = {});
     /// Stores what stands in an open cell. @return false when it was refused; its message has then been shown
     bool commitCell();

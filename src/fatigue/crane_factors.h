@@ -28,8 +28,8 @@ struct FatigueFactors {
 /// Class of the two cranes acting together: two below the lower of theirs, at least S0. EN 1993-6 9.4.2.
 [[nodiscard]] std::int16_t classOfBoth(const Project& project);
 
-/// Dynamic factor of the fatigue load, (1 + PsiV)/2, EN 1991-3 2.12.1(7). @param PsiV vertical dynamic factor of the
-/// crane
+/// Dynamic factor of the fatigue load, (1 + PsiV)/2, EN 1991-3
+/// 2.12.1(7). @param PsiV vertical dynamic factor of the crane
 [[nodiscard]] Single dynamicFactor(double PsiV);
 
 /// Factors of a crane.

@@ -297,8 +297,7 @@ void DetailCheck::addEachSet(Damage& damage, const Place& place, const LocalStre
 
 /// The weld of top flange and web under the larger of the two cranes' wheels. Factors are crossed over between the
 /// cranes, and differently for a fillet weld (all direct terms with the factor of both cranes); crane 1's shear is that
-/// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. Note
-/// G11.
+/// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. Note G11.
 void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const {
     const auto& [Cr1, Cr2, Cr12] = in_.factors;
     const double F1 = largestWheel(project_, 1);

@@ -13,8 +13,8 @@ constexpr Weld kW1{&Project::W1, &Project::W1a};
 constexpr Weld kW2{&Project::W2, &Project::W2a};
 constexpr Weld kRW2{&Project::RW2, &Project::RW2a};
 constexpr Weld kRW3{&Project::RW3, &Project::RW3a};
-/// Detail 6 of a monorail: RW3 holds the kind of the weld, RW4 its throat; the kind of RW4 is read by nothing. Note
-/// G20.
+/// Detail 6 of a monorail: RW3 holds the kind of the weld, RW4
+/// its throat; the kind of RW4 is read by nothing. Note G20.
 constexpr Weld kRW3throatRW4{&Project::RW3, &Project::RW4a};
 
 constexpr bool kBracketed = true;
@@ -23,9 +23,9 @@ constexpr bool kBracketed = true;
 
 const SpliceFields kOverheadSplices{&Project::ChkFat5Sp, &Project::Fat5Span, &Project::Fat5d1, &Project::Fat5Span};
 
-/// The stress of a monorail's splice is read at the span that the overhead crane's splice of the same number names,
-/// while its point and the printed place follow its own span: note G24. Both fields carry the same span in a sound
-/// project.
+/// The stress of a monorail's splice is read at the span that the overhead crane's
+/// splice of the same number names, while its point and the printed place follow
+/// its own span: note G24. Both fields carry the same span in a sound project.
 const SpliceFields kMonorailSplices{&Project::ChkFatR5Sp, &Project::FatR5Span, &Project::FatR5d1, &Project::Fat5Span};
 
 // The labels are printed as they stand, blanks included.

@@ -15,8 +15,7 @@ enum class Stress {
     Support,         ///< SigSupRange
     Wheel,           ///< SigLoc, vertical, under the wheel
     WebAndWheel,     ///< the same as Web, plus TauLoc
-    HangerReaction,  ///< reaction spread over hanger plate and flange into the web, or into the throats of the term's
-                     ///< weld
+    HangerReaction,  ///< reaction spread over hanger plate and flange into the web, or the throats of the weld
     FlangeBending,   ///< SigBend, transverse bending of the flange under the wheel
 };
 
@@ -48,8 +47,7 @@ enum class Places {
     SpanPoints,       ///< a row for each span, of its governing point
     StrongerSide,     ///< a row for each support, at the end of the neighbouring span with the larger Iy (the left at a
                       ///< tie): at a change of section the lower stress is the one checked: note G9
-    RightOfSupport,   ///< a row for each support, at the start of the span to its right (at the last, the end of its
-                      ///< span)
+    RightOfSupport,   ///< a row for each support, at the start of the span to its right (the last: at its left)
     Splices,          ///< a row for each of four splices, at the point of its span that lies nearest
     MonorailSplices,  ///< the same with the monorail's splices; see kMonorailSplices for where the stress is read
 };
@@ -84,8 +82,8 @@ struct Detail {
     bool Project::*checked = nullptr;
     int result = 0;  ///< its number, entry of FatResult
     int rows = 0;    ///< entry of FatRows; where two share one, the later one's rows replace those of the earlier
-    std::array<const char*, 2> symbols =
-        {};               ///< of the terms' categories: x along the beam, y across, z vertical, t shear
+    /// Of the terms' categories: x along the beam, y across, z vertical, t shear.
+    std::array<const char*, 2> symbols = {};
     Weld weldShown = {};  ///< with the input; a term may read another
     SupportPlate plate = {};
     Places places = Places::SpanPoints;
@@ -114,8 +112,8 @@ extern const std::array<Detail, 6> kMonorailDetails;
 /// Where the input of a detail is shown it is called so.
 [[nodiscard]] const char* inputTitleOf(const Detail& detail);
 
-/// Whether the rows of a detail that was checked have been replaced by those of another: only its governing row is
-/// left.
+/// Whether the rows of a detail that was checked have been
+/// replaced by those of another: only its governing row is left.
 [[nodiscard]] bool rowsAreReplaced(const Detail& detail, const Project& project);
 
 }  // namespace borvik

@@ -20,9 +20,9 @@ struct FatigueRun {
     PositionLog& steps;  ///< takes the position log of the last walk
 };
 
-/// Fatigue of an overhead crane, or of two: walks crane 1 (or the train of both at a constant distance), crane 2, and
-/// both together as the project asks for, makes the stress tables and checks the details, EN 1993-1-9 and EN 1993-6
-/// chapter 9.
+/// Fatigue of an overhead crane, or of two: walks crane 1 (or the train of both at
+/// a constant distance), crane 2, and both together as the project asks for, makes
+/// the stress tables and checks the details, EN 1993-1-9 and EN 1993-6 chapter 9.
 /// @throws RuntimeFault  naming detail and span, on an arithmetic fault
 [[nodiscard]] FatigueResults RunFatigueOverhead(const FatigueRun& run);
 

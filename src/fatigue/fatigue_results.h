@@ -31,8 +31,8 @@ struct StressSet {
     explicit StressSet(int spans);
 };
 
-/// Everything that a fatigue calculation produces. A set that the run did not make is absent; so is a detail that was
-/// not checked.
+/// Everything that a fatigue calculation produces. A set that the
+/// run did not make is absent; so is a detail that was not checked.
 struct FatigueResults {
     std::optional<StressSet> Cr1, Cr2, Cr12;
     FatigueFactors Factors;                   ///< with which the sets were made; all zero for a set that is absent

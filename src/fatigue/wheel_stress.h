@@ -7,7 +7,7 @@
 
 namespace borvik {
 
-/// Largest wheel load of a crane (1: V(1) to V(4), 2: V(5) to V(8)), kN, as entered; at least 0.
+/// Largest wheel load of a crane, kN, as entered; at least 0, as an upward one is no fatigue load.
 [[nodiscard]] double largestWheel(const Project& project, int crane);
 
 /// How a wheel on the rail spreads into the web under the top flange.
@@ -24,8 +24,8 @@ struct WheelSpread {
 /// Spread of a wheel in a span with this section, whether the rail counts as part of the girder (RailOn) or not.
 [[nodiscard]] WheelSpread wheelSpread(const Project& project, const RailRecord& rail, const SectionRecord& section);
 
-/// The local shear range is this part of the direct one: the 0.2 of EN 1993-6 5.7.2, with its change of sign as the
-/// wheel passes.
+/// The local shear range is this part of the direct one: the 0.2 of
+/// EN 1993-6 5.7.2, with its change of sign as the wheel passes.
 constexpr double kLocalShear = 0.4;
 
 /// Local stress ranges under the wheels in one span, MPa, the N-scaled equivalence factors included.
@@ -39,9 +39,9 @@ struct WheelStress {
 [[nodiscard]] WheelStress wheelStress(const Project& project, const RailRecord& rail, const FatigueFactors& factors,
                                       const SectionRecord& section);
 
-/// Transverse bending of the bottom flange at the web under half of a monorail's largest wheel load, MPa, times
-/// LamSigN. The wheel load is the entered one: no dynamic factor. EN 1993-6 5.8, cy at the transition of web and flange
-/// (Table 5.2).
+/// Transverse bending of the bottom flange at the web under half of a monorail's
+/// largest wheel load, MPa, times LamSigN. The wheel load is the entered one: no
+/// dynamic factor. EN 1993-6 5.8, cy at the transition of web and flange (Table 5.2).
 [[nodiscard]] Single flangeBending(const Project& project, const FatigueFactors& factors, const SectionRecord& section);
 
 }  // namespace borvik

@@ -18,7 +18,7 @@ using Kind = FormulaPart::Kind;
 constexpr double kScriptSize = 0.7;
 constexpr double kSmallFractionSize = 0.85;
 constexpr double kSumSize = 1.5;
-constexpr double kSmallestSize = 0.5;  // of the font
+constexpr double kSmallestSize = 0.5;  // times the font size
 
 // Room, in em.
 constexpr double kSignRoom = 0.22;
@@ -95,7 +95,7 @@ public:
     Setter(const QFont& font, const QPaintDevice* device, FormulaStyle style)
         : font_(font), device_(device), style_(style) {}
 
-    /// @param scale  of the font
+    /// @param scale  size of the font over that of the text
     /// @param tight  within an index or a power, where little room is left around signs
     [[nodiscard]] FormulaBox set(const FormulaPart& part, double scale, bool tight) const {
         const Size size(font_, scale, device_);

@@ -14,7 +14,7 @@ namespace borvik {
 
 namespace {
 
-constexpr double kLineRoom = 0.1;  // above and below a formula in a paragraph of its own; height of the font
+constexpr double kLineRoom = 0.1;  // above and below a formula in a paragraph of its own; times the height of the font
 
 constexpr int kLongestTogether = 16;  // characters of a formula within text that no line break divides
 

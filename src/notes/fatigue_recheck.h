@@ -34,15 +34,15 @@ struct FatigueRecheck {
 /// Whether any detail is checked.
 [[nodiscard]] bool anyDetail(const Session& session);
 
-/// The largest of the ratios that grow, "detail 3, span 2"; nullopt where none does. Rows are compared by their
-/// largest point.
+/// The largest of the ratios that grow, "detail 3, span 2"; nullopt
+/// where none does. Rows are compared by their largest point.
 [[nodiscard]] std::optional<NoteChange> growth(const Detail& detail, const std::vector<DamagePoint>& shown,
                                                const std::vector<DamagePoint>& other);
 
 /// The detail in a recheck against the same detail as it is checked: its growth is added to the finding.
 void addGrowth(const Session& session, const Detail& detail, const std::vector<DamagePoint>& other,
                NoteFinding& finding);
-/// The finding if any ratio grows, else silence.
+/// The finding if any ratio grows; nullopt otherwise.
 [[nodiscard]] std::optional<NoteFinding> grown(NoteFinding finding);
 
 /// One detail in a recheck against the same detail as it is checked.

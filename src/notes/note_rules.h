@@ -49,8 +49,8 @@ constexpr double kShownGrowth = 0.0005;
     return NoteFinding{{{std::move(what), shown, other}}, ""};
 }
 
-/// Of the same check in several places: the change that leads to the largest ratio, of those that grow. nullopt where
-/// none does.
+/// Of the same check in several places: the change that leads to
+/// the largest ratio, of those that grow. nullopt where none does.
 [[nodiscard]] inline std::optional<NoteFinding> worstOf(const std::vector<NoteChange>& changes,
                                                         std::string remark = "") {
     const NoteChange* worst = nullptr;

@@ -49,8 +49,8 @@ struct NoteRule {
     /// Whether it matters in this project, which has been calculated. Reads results, never changes them; may calculate
     /// copies with the other assumption. nullopt: it does not matter here.
     std::optional<NoteFinding> (*find)(const Session& session);
-    bool assumption =
-        false;  ///< holds for every project of its kind: listed with the others of its sort in one closing row
+    /// Holds for every project of its kind: listed with the others of its sort in one closing row.
+    bool assumption = false;
 };
 
 /// A note that matters in a project.

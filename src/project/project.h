@@ -175,8 +175,8 @@ inline constexpr const char* kNewProjectFile = "test.brvk";
 /// The steel grade that lets the user type fyk freely.
 inline constexpr const char* kGeneralSteel = "General";
 
-/// Damage equivalence factor for direct stress by crane class S0..S9, EN 1991-3 Table 2.12. The last is 1.32, as for
-/// shear.
+/// Damage equivalence factor for direct stress by crane class
+/// S0..S9, EN 1991-3 Table 2.12. The last is 1.32, as for shear.
 extern const FixedArray<Single, 0, 9> LambdaSigma;
 /// The same for shear stress.
 extern const FixedArray<Single, 0, 9> LambdaTau;

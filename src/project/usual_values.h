@@ -12,7 +12,7 @@ enum class SectionMake { Welded, Rolled };
 /// Fatigue details that an overhead crane's beam usually has, with their categories to EN 1993-1-9 and welds. A rolled
 /// section has no welds between flange and web, so those of the record stay.
 void setUsualOverheadDetails(Project& project, SectionMake make);
-/// The same of a monorail beam.
+/// Those that a beam of a monorail hoist usually has.
 void setUsualMonorailDetails(Project& project, SectionMake make);
 
 /// Makes the beam one of an overhead crane, loaded at the top of the rail. Its loads stay.

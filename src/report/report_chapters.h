@@ -28,7 +28,7 @@ void PrintSection(Report& report);
 void PrintLtb(Report& report);
 /// "Fatigue Details:" of an overhead crane: categories and welds of the details in use.
 void PrintFatigueOverhead(Report& report);
-/// The same of a monorail.
+/// The input of the fatigue check of a monorail.
 void PrintFatigueMonorail(Report& report);
 
 /// "Results: ": the rows of the ultimate and serviceability limit states, the governing ones first, then span by span.

@@ -8,12 +8,12 @@
 
 namespace borvik {
 
-/// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends in a newline), for
-/// scripts and for comparison with other programs. Keys are the names of the code in a fixed order;
-/// docs/results-json.md describes them. Arrays hold their entries in index order and drop index bases: the first entry
-/// of an array over the spans is span 1. A stored number is written as a decimal text that reads back as the same
-/// 32-bit number; texts stand character for character. Without results (refused input, run-time fault) the result keys
-/// are null.
+/// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends
+/// in a newline), for scripts and for comparison with other programs. Keys are the names of the code
+/// in a fixed order; docs/results-json.md describes them. Arrays hold their entries in index order
+/// and drop index bases: the first entry of an array over the spans is span 1. A stored number is
+/// written as a decimal text that reads back as the same 32-bit number; texts stand character for
+/// character. Without results (refused input, run-time fault) the result keys are null.
 /// @param messages  texts of the message boxes of the run, in order
 /// @param file      path of the project as the user gave it; nothing for the default project
 /// @param program   name and version, such as "Borvik 1.2.3"

@@ -24,8 +24,8 @@ struct TreeNode {
 inline constexpr const char* kCalculateFirst = " Calculate before results can be presented ";
 inline constexpr const char* kNoLoadsY = " No loads in y-direction";
 
-/// The tree of the main window. The result part is there only after a calculation; nodes of crane 2 only with two
-/// cranes.
+/// The tree of the main window. The result part is there only
+/// after a calculation; nodes of crane 2 only with two cranes.
 /// @param input  the part that opens input forms
 [[nodiscard]] TreeNode mainTree(TreeNode input, const Project& project, bool withResults);
 /// The tree of the detailed results.

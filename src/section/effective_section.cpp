@@ -45,8 +45,8 @@ void effectivePositive(double e, SectionRecord& s) {
                                           : outstandFlangeReduction(s.CTop, s.tf1, e);
     const double d1 = (1.0 - rhoFlange) * s.CTop;  // lost at either side of the top flange
     const double A1 = s.A - 2.0 * d1 * s.tf1;
-    // The lever of the lost flange takes tf2: this first axis only sizes the compressed part of the web (theory
-    // manual, B6).
+    // The lever of the lost flange takes tf2: this first axis only
+    // sizes the compressed part of the web (theory manual, B6).
     const double z1 = (s.EzEl * s.A - 2.0 * d1 * s.tf1 * (s.h - s.tf2 / 2.0)) / A1;
 
     const double wc = s.h - z1 - s.tf1 - s.R;
@@ -87,8 +87,8 @@ void effectiveNegative(double e, SectionRecord& s) {
     const double zHole = (zu + zl) / 2.0;
 
     const double A2 = A1 - s.tw * hole;
-    // The lost flange enters with twice its first moment of area, so that the axis comes out slightly lower (theory
-    // manual, B6).
+    // The lost flange enters with twice its first moment of area, so
+    // that the axis comes out slightly lower (theory manual, B6).
     const double z2 = (s.EzEl * s.A - s.tw * hole * zHole - square(s.tf2) * 2.0 * d2) / A2;
 
     double Ieff = square(s.EzEl) * s.A + s.Iy;  // about the underside

@@ -7,8 +7,8 @@
 
 namespace borvik {
 
-/// A rectangle of a cross-section that is cut into horizontal strips, mm; `lower` is its lower edge above the
-/// underside.
+/// A rectangle of a cross-section that is cut into horizontal
+/// strips, mm; `lower` is its lower edge above the underside.
 struct Strip {
     double width = 0.0;
     double height = 0.0;

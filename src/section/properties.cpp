@@ -119,8 +119,8 @@ void WeldedProperties(const SectionSetting& setting, SectionRecord& s) {
     s.R = 0.4 * s.tw;  // the weld; it narrows every flat width
     setWidths(s);
     s.Av = setting.Eta * s.Hw * s.tw;  // 6.2.6(3)d
-    // Both flanges are given the width of the top one: an unequal bottom flange changes It by its thickness only. Note
-    // B2.
+    // Both flanges are given the width of the top one: an unequal
+    // bottom flange changes It by its thickness only. Note B2.
     s.It = (cube(s.tf2) * s.b1 + cube(s.tf1) * s.b1 + cube(s.tw) * s.Hw) / 3.0;
     const PlasticProperties plastic = PlasticAxis(s);
     s.EzPl = plastic.EzPl;

@@ -13,9 +13,9 @@ struct ResultTable;
 /// What a print command prints.
 enum PrintScope : int { kPrintUls = 1, kPrintUlsSls = 2, kPrintAll = 3, kPrintCompressed = 4 };
 
-// Without a calculation of the present input each of these shows "  Calculate before print  " and does no more; a
-// cancelled dialog leaves everything as it was. What comes back is the file that was written; empty where there is
-// none.
+// Without a calculation of the present input each of these shows " Calculate
+// before print " and does no more; a cancelled dialog leaves everything as it
+// was. What comes back is the file that was written; empty where there is none.
 
 /// Prints the report of the last calculation on a printer that the user chooses, the pages and copies asked for.
 /// @param scope   1 ULS, 2 ULS+SLS, 3 ULS+SLS+FLS, 4 compressed

@@ -98,8 +98,8 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
     const TableColumn& column = table_.columns[static_cast<std::size_t>(section)];
     switch (role) {
         case Qt::DisplayRole: {
-            // The unit stands on a line of its own, and so does the last word of a header that is wider than its
-            // numbers.
+            // The unit stands on a line of its own, and so does the
+            // last word of a header that is wider than its numbers.
             constexpr qsizetype kWidthOfNumbers = 12;
             QString head = QString::fromStdString(column.header);
             const qsizetype blank = head.trimmed().lastIndexOf(QLatin1Char(' '));

@@ -175,8 +175,8 @@ void ResultTableView::fitColumns() {
     breakLines();
 }
 
-/// Makes each row as high as its texts need in the widths that their columns have; those of a column that yields are
-/// cut instead.
+/// Makes each row as high as its texts need in the widths that their
+/// columns have; those of a column that yields are cut instead.
 void ResultTableView::breakLines() {
     const int line = verticalHeader()->defaultSectionSize();
     for (int row = 0; row < model_.rowCount(); ++row) {

@@ -60,8 +60,8 @@ private:
     bool columnsSetByUser_ = false;
 };
 
-/// A table with its name, and its signs and units, above. Where its rows have details, those of the current row stand
-/// beneath it.
+/// A table with its name, and its signs and units, above. Where its
+/// rows have details, those of the current row stand beneath it.
 class ResultTablePane : public QWidget {
     Q_OBJECT
 

@@ -92,8 +92,8 @@ void MainWindow::showGoverning() {
     const RatioVerdict verdict = verdictOf(calculation_->results);
     const QString ratio = QString::fromStdString(formatNumber(verdict.largest, "0.000"));
     const bool over = verdict.largest > 1.0;
-    // A sign beside the number, so that the state doesn't rest on colour. Loads that are not in order let no tick
-    // stand.
+    // A sign beside the number, so that the state doesn't rest
+    // on colour. Loads that are not in order let no tick stand.
     const bool warns = verdict.exceeds(1.0) || !loadRemark(calculation_->project).empty();
     stateGoverning_->setText((warns ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
                              (over ? " > 1" : "") + QString::fromStdString(verdict.remark()));

@@ -21,9 +21,9 @@ public:
     /// @param session, messages  must outlive the panel
     ProjectPanel(Session& session, Messages& messages, QWidget* parent = nullptr);
 
-    /// Fills the controls from the record, and brings MaterialIndex and StartStopOutside in line with it: a crane that
-    /// stands fixed can't start outside the beam. What is just being typed, and a refused strength with its mark, is
-    /// left alone.
+    /// Fills the controls from the record, and brings MaterialIndex and StartStopOutside
+    /// in line with it: a crane that stands fixed can't start outside the beam. What is
+    /// just being typed, and a refused strength with its mark, is left alone.
     void showProject();
     /// Stores what is just being typed, as leaving its box would.
     /// @return false when it was refused; the user has been told

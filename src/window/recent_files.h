@@ -7,16 +7,16 @@
 
 namespace borvik {
 
-/// Module RescentFile: the last four project paths in the per-user settings, and the captions under which the File menu
-/// shows them.
+/// Module RescentFile: the last four project paths in the per-user
+/// settings, and the captions under which the File menu shows them.
 class RescentFile {
 public:
     static constexpr int kEntries = 4;
 
     RescentFile(SettingsStore& store, std::string application) : store_(store), application_(std::move(application)) {}
 
-    /// Makes the captions anew from the store: "1. " and the path, the latest first. A store without entries leaves
-    /// them.
+    /// Makes the captions anew from the store: "1. " and the path,
+    /// the latest first. A store without entries leaves them.
     void ShowRecentFiles();
     /// Puts the path at the top and moves the others down; the oldest is lost. A path that is in the list already then
     /// stands there twice: the list shows what was saved, in order.

@@ -22,10 +22,10 @@ struct LeftCopy {
     std::optional<Project> project;  ///< nothing where the copy is spoilt
 };
 
-/// Copies of projects with unsaved changes, in a folder of the user's own, for the day when the program ends before
-/// they are saved. A copy is replaced as a whole or not at all, and only the user can read it. Each running program
-/// keeps its copies under a name of its own and holds a lock while it runs, so that none is offered by another one
-/// meanwhile.
+/// Copies of projects with unsaved changes, in a folder of the user's own, for the day when
+/// the program ends before they are saved. A copy is replaced as a whole or not at all, and
+/// only the user can read it. Each running program keeps its copies under a name of its own
+/// and holds a lock while it runs, so that none is offered by another one meanwhile.
 class RecoveryCopies {
 public:
     /// @param folder  made when it is needed; empty: nothing is kept

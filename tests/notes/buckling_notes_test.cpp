@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-
 #include "notes/diagram_factors.h"
 #include "notes/noted_project.h"
 

@@ -4,6 +4,7 @@
 
 #include "section/geometry.h"
 #include "section/resistance.h"
+#include "section/section.h"
 
 namespace borvik::test {
 

@@ -8,9 +8,9 @@
 #include "actions/crane_fields.h"
 #include "actions/crane_loads.h"
 
-/// Crane data and crane loads as JSON; docs/crane-loads.md has the names. Names and units are those of the fields in
-/// actions/crane_fields.h, besides which `wheels`, `base` and `e` repeat what `spacing` and the first wheel say: they
-/// must agree.
+/// Crane data and crane loads as JSON; docs/crane-loads.md has the names. Names and
+/// units are those of the fields in actions/crane_fields.h, besides which `wheels`,
+/// `base` and `e` repeat what `spacing` and the first wheel say: they must agree.
 namespace borvik::actions {
 
 using Json = nlohmann::ordered_json;

@@ -16,8 +16,8 @@ using PictureDrawing = std::function<void(DrawingSurface&)>;
 /// A picture of that many pixels on white paper; text grows with pictures wider than 1000 pixels.
 [[nodiscard]] QImage renderPicture(const PictureDrawing& drawing, QSize pixels);
 
-/// Saves a picture as SVG where the file name ends in ".svg", as PNG otherwise. The old file stays until the new one is
-/// whole.
+/// Saves a picture as SVG where the file name ends in ".svg", as
+/// PNG otherwise. The old file stays until the new one is whole.
 /// @return an empty text, or what went wrong
 [[nodiscard]] QString savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels,
                                   const QString& title);
