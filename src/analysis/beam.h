@@ -4,12 +4,13 @@
 
 #include "project/loads.h"
 #include "project/project.h"
+#include "project/steel.h"
 
 namespace borvik {
 
-/// 1/(6E) and 1/(24E) stand in every formula of the analysis as these two numbers; E = 210000 N/mm2 is no setting.
-constexpr double k6E = 1260000;
-constexpr double k24E = 5040000;
+/// 1/(6E) and 1/(24E) stand in every formula of the analysis as these two numbers.
+constexpr double k6E = 6 * steel::kE;
+constexpr double k24E = 24 * steel::kE;
 
 /// Numbers per span or per support, indexed as in the formulas: 1..n for spans, 0..n for what lies between them.
 using PerSpan = std::array<double, kMaxSpans + 2>;
@@ -37,8 +38,8 @@ struct Beam {
 /// Load terms of the dead load, N mm / (N mm2): [1..n-1]. @param q [1..n] N/mm
 [[nodiscard]] PerSpan deadLoadTerms(const Beam& beam, const RunLoads& loads);
 
-/// End rotation term of a wheel: (P d L) / (6 E I) (1 - d^2 / L^2), with P in N and d the distance from the far
-/// support.
+/// End rotation term of a wheel: (P d L) / (6 E I)
+/// (1 - d^2 / L^2), with P in N and d the distance from the far support.
 [[nodiscard]] double rotationTerm(double P, double d, double L, double I);
 
 /// Solves the support moments of one plane from its load terms, as stored numbers (each step rounded to a single).

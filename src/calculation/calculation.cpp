@@ -38,8 +38,8 @@ Refusal refusal(const Project& project) {
     return {};
 }
 
-/// Whether a splice stands on the beam. A span number below 1, as only a spoilt file has it, is no place on the beam
-/// either.
+/// Whether a splice stands on the beam. A span number below 1,
+/// as only a spoilt file has it, is no place on the beam either.
 bool fits(const Project& project, double span, double distance) {
     if (!(span > 0.5 && span <= project.NofSpans)) return false;
     return !(distance > project.Span(roundHalfEven(span)));
@@ -55,16 +55,6 @@ void dropSplices(const Project& project, bool& detail, FixedArray<bool, 1, 10>& 
         anyLeft = anyLeft || inUse(splice);
     }
     if (!anyLeft) detail = false;
-}
-
-/// SLS: no dynamic factors.
-void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
-    setDeadLoad(project, rail, project.LfSLS, loads);
-    for (int w = 1; w <= 8; ++w) {
-        loads.WheelV(w) = project.LfSLS * project.V(w);
-        loads.WheelH(w) = project.LfSLS * project.H(w);
-    }
-    loads.WheelGap = project.Avst;
 }
 
 void turnRound(Array<Single>& largest, Array<Single>& smallest, Array<WalkPosition>& largestAt,

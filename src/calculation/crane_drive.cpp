@@ -1,13 +1,11 @@
 #include "calculation/crane_drive.h"
 
+#include "base/units.h"
 #include "fatigue/stress_history.h"
 
 namespace borvik {
 
 namespace {
-
-constexpr double kPerKilo = 1000.0;          // N to kN
-constexpr double kPerKiloMetre = 1000000.0;  // Nmm to kNm
 
 const std::optional<StressSet>& setOf(const FatigueResults& fatigue, WalkOf walk) {
     return walk == WalkOf::FatigueCrane1 ? fatigue.Cr1 : walk == WalkOf::FatigueCrane2 ? fatigue.Cr2 : fatigue.Cr12;

@@ -5,19 +5,14 @@
 #include "checks/check_stands.h"
 #include "checks/check_texts.h"
 #include "checks/local_checks.h"
+#include "project/loads.h"
 
 namespace borvik {
 
 namespace {
 
-/// The largest wheel load of the hoist, kN, as entered.
-double largestWheel(const Project& project) {
-    return *std::max_element(project.V.begin(), project.V.begin() + 4);
-}
-
 /// Coefficients of the local stresses at the web (1), under the wheel (2), at the flange tip (3), parallel flanges:
-/// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu: note
-/// D11.
+/// EN 1993-6 Table 5.2, but for cx of the tip, whose first terms are -1.1534 mu in place of 0.730 - 1.580 mu: note D11.
 struct LocalCoefficients {
     double cx[3], cy[3];
 };
@@ -31,13 +26,10 @@ LocalCoefficients localCoefficients(double mu, bool tableAtTip) {
         {1.977 * mu - 2.11 + 0.0076 * std::exp(6.53 * mu), 10.108 - 7.408 * mu - 10.108 * std::exp(-1.364 * mu), 0}};
 }
 
-/// Wheel spacing that tells whether neighbouring wheels add up, mm: the smallest, zeros skipped; at most the beam's
-/// length.
-double smallestSpacing(const Project& project) {
-    double s = project.BeamLength;
-    for (int i = 1; i <= 3; ++i)
-        if (project.Avst(i) != 0) s = std::fmin(s, project.Avst(i));
-    return s;
+/// Wheel spacing that tells whether neighbouring wheels add up, mm: the smallest; at most the beam's length.
+double spacingThatCounts(const Project& project) {
+    const double smallest = smallestDistance(project);
+    return smallest == 0 ? double(project.BeamLength) : std::fmin(smallest, project.BeamLength);
 }
 
 double vonMises(double x, double y) {
@@ -47,7 +39,7 @@ double vonMises(double x, double y) {
 }  // namespace
 
 FlangeLever::FlangeLever(const Project& project, const SectionRecord& section) {
-    const double root = section.Fab == "R" ? 0.8 * section.R : 0.8 * std::numbers::sqrt2 * section.R;
+    const double root = isRolled(section) ? 0.8 * section.R : 0.8 * std::numbers::sqrt2 * section.R;
     m = (section.b2 - section.tw) / 2 - root - project.Inn;
     mn = m + project.Inn;
 }
@@ -66,8 +58,8 @@ double flangeResistance(const Project& project, const SectionRecord& section, do
 
 VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int span) {
     const double g = project.PsiV1 * project.LfULS;
-    return {.F = largestWheel(project) * 1000 / 2,
-            .s = smallestSpacing(project),
+    return {.F = heaviestWheel(project, 1) * 1000 / 2,
+            .s = spacingThatCounts(project),
             .My = uls.MyMaxSpan(span, 1),
             .Mz = uls.MyMaxSpan(span, 3),
             .perMy = g,
@@ -101,7 +93,7 @@ double vonMisesStress(const Project& project, const SectionRecord& section, cons
 RowSet flangeBendingRow(const CheckBasis& basis, int span, int) {
     const Project& project = basis.project;
     const SectionRecord& section = project.SpanSection(span);
-    const double Fz = largestWheel(project) * project.LfULS * project.PsiV1;
+    const double Fz = heaviestWheel(project, 1) * project.LfULS * project.PsiV1;
     const double xw = *std::max_element(project.Avst.begin(), project.Avst.begin() + 3);
     // Stress at the underside from My alone: the flange's own share of Mz is left out.
     const double MyMax = basis.uls.MyMaxSpan(span, 1), MyMin = basis.uls.MyMinSpan(span, 1);

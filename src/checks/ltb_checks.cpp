@@ -5,13 +5,12 @@
 #include "checks/check_stands.h"
 #include "checks/check_texts.h"
 #include "checks/ltb_reduction.h"
+#include "project/steel.h"
 
 namespace borvik {
 
 namespace {
 
-constexpr double kE = 210000;              // N/mm2
-constexpr double kEtoG = 2.6;              // E/G
 constexpr double kPi = Single(3.1415927);  // a stored number: its width is part of Mcr
 
 bool isEndSpan(const Project& project, int span) {
@@ -83,9 +82,9 @@ Single ltbReduction(const Project& project, int span, bool positive, const CFact
     const SectionRecord& s = project.SpanSection(span);
     const double L = project.Span(span);
     const double t = factors.C2 * s.Zg - factors.C3 * (positive ? s.ZjPos : s.ZjNeg);
-    const double Lt = (std::pow(L, 2) * kE / kEtoG * s.It) / kE;
+    const double Lt = (std::pow(L, 2) * steel::kE / steel::kEtoG * s.It) / steel::kE;
     const double root = std::sqrt(Lt / std::pow(kPi, 2) / s.Iz + s.Iw / s.Iz + std::pow(t, 2));
-    const Single Mcr = (std::pow(kPi, 2) * factors.C1 * kE * s.Iz / std::pow(L, 2)) * (root - t);
+    const Single Mcr = (std::pow(kPi, 2) * factors.C1 * steel::kE * s.Iz / std::pow(L, 2)) * (root - t);
     const Single Kc = 1 / std::sqrt(factors.C1);
     if (project.LtbCurve == LtbCase::General) return ReductionGeneral(project, s, positive, Mcr);
     return ReductionRolledWelded(project, s, positive, Mcr, Kc);

@@ -13,8 +13,7 @@ struct Imperfection {
 
 /// The imperfection factor by the proportions of the section, b being the width of the compressed flange.
 double imperfection(const SectionRecord& section, bool positive, Imperfection rolled, Imperfection welded) {
-    const bool isWelded = section.Id == "Is" || section.Id == "Iu";
-    const Imperfection alpha = isWelded ? welded : rolled;
+    const Imperfection alpha = isWelded(section) ? welded : rolled;
     const double r = section.h / (positive ? section.b1 : section.b2);
     return r <= 2 ? alpha.stocky : alpha.slender;
 }

@@ -1,15 +1,14 @@
-#include <algorithm>
 #include <cmath>
 
 #include "base/fault.h"
 #include "checks/check_texts.h"
 #include "checks/local_checks.h"
+#include "project/loads.h"
+#include "project/steel.h"
 
 namespace borvik {
 
 namespace {
-
-constexpr double kE = 210000;  // N/mm2
 
 struct PatchLoad {
     double lamF, FRd;  ///< slenderness; resistance, kN
@@ -23,7 +22,7 @@ PatchLoad patchLoad(const Project& project, const SectionRecord& section, double
     const double m1 = section.b1 / tw;
     const double m2 = withM2 ? 0.02 * std::pow(Hw / tf, 2) : 0;
     const double ly = std::fmin(2 * tf * (1 + std::sqrt(m1 + m2)) + ss, a);
-    const double Fcr = 0.9 * kF * kE * std::pow(tw, 3) / Hw;
+    const double Fcr = 0.9 * kF * steel::kE * std::pow(tw, 3) / Hw;
     const double lamF = std::sqrt(ly * tw * project.fyk / Fcr);
     const double chiF = std::fmin(0.5 / lamF, 1.0);
     return {lamF, project.fyk * chiF * ly * tw / project.GammaM1 / 1000};
@@ -44,7 +43,7 @@ RowSet patchLoadRow(const CheckBasis& basis, int span, int) {
     const Project& project = basis.project;
     const SectionRecord& section = project.SpanSection(span);
     // The wheels count as entered, unlike in the two checks of a monorail.
-    const double Fz = *std::max_element(project.V.begin(), project.V.end());
+    const double Fz = heaviestWheel(project);
     const double leff = effectiveLoadedLength(basis.rail, basis.worn, project.RailFix, section);
     const double FzRd = patchResistance(project, section, leff, project.Span(span));
 

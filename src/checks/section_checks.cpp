@@ -33,6 +33,11 @@ constexpr BendingTexts kBendMinTexts{
     {"IR = My,Ed/My,Rd] + Mz,Ed/Mz,Rd = ", "IR = My,Ed/MV,y,Rd + Mz,Ed/Mz,Rd = "},
     {"IR = [My,Ed/My,Rd]^a + Mz,Ed/Mz,Rd = ", "IR = [My,Ed/MV,y,Rd]^a + Mz,Ed/Mz,Rd = "}};
 
+/// Whether the shear force, kN, is large enough to reduce the moment resistance: EN 1993-1-1 6.2.8(2).
+bool shearCounts(const SectionRecord& section, double VzEd) {
+    return !(0.5 >= VzEd / section.VzRd);
+}
+
 /// " <  1.00 ( span/position": how row 4 begins.
 std::string limitAt(int span, double position, const char* mask) {
     return " <  1.00 ( " + generalText(span) + "/" + formatNumber(position, mask);
@@ -59,7 +64,7 @@ RowSet bendingRows(const Project& project, const SectionRecord& section, const T
     const SectionForces forces(steps(span, 1), steps(span, 2), steps(span, 3));
     const BendingResistance resistance(project, section, forces);
 
-    const bool shearFree = 0.5 >= forces.Vz / section.VzRd;
+    const bool shearFree = !shearCounts(section, forces.Vz);
     const auto formula = [&](const FormulaTexts& text) { return shearFree ? text.shearFree : text.reduced; };
     const std::string My = oneDecimal(std::abs(forces.My)) + "/" + oneDecimal(resistance.My);
     const std::string Mz = oneDecimal(forces.Mz) + "/" + oneDecimal(resistance.Mz);
@@ -102,7 +107,7 @@ Single bendingRatio(const SectionForces& forces, const BendingResistance& resist
 }
 
 double shearReduction(const SectionRecord& section, double VzEd) {
-    return 0.5 * section.VzRd >= VzEd ? 0.0 : std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0);
+    return shearCounts(section, VzEd) ? std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0) : 0.0;
 }
 
 Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {

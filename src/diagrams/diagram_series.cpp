@@ -6,12 +6,10 @@
 #include <string_view>
 
 #include "base/number_text.h"
+#include "base/units.h"
 
 namespace borvik {
 namespace {
-
-constexpr double kPerKilo = 1000.0;          // N to kN
-constexpr double kPerKiloMetre = 1000000.0;  // Nmm to kNm
 
 std::string oneDecimal(double number) {
     return formatNumber(number, "0.0");

@@ -26,7 +26,7 @@ std::vector<Place> halfOutline(const SectionRecord& s) {
             outline.push_back({x + s.R * std::cos(angle), y + s.R * std::sin(angle)});
         }
     };
-    const bool rolled = s.Fab == "R" && s.R > 0.0;
+    const bool rolled = isRolled(s) && s.R > 0.0;
     if (rolled)
         addFillet(web + s.R, s.tf1 + s.R, -std::numbers::pi / 2.0, -std::numbers::pi);
     else

@@ -20,10 +20,6 @@ namespace borvik {
 
 namespace {
 
-bool isWelded(const SectionRecord& section) {
-    return section.Id == "Is" || section.Id == "Iu";
-}
-
 /// The first section of a family in the project's list; otherwise one to begin with.
 SectionRecord firstOf(const Project& project, const char* family, const SectionRecord& blank) {
     for (const SectionRecord& section : project.SectionList)

@@ -11,49 +11,10 @@ namespace borvik {
 
 namespace {
 
-/// A fatigue load carries no dead load.
-void ClearSpanLoad(const FatigueRun& run) {
-    for (int i = 1; i <= run.project.NofSpans; ++i) run.loads.SpanLoad(i) = 0.0;
-}
-
 CraneFactors factorsOf(int craneClass, int wheels, double PhiFat) {
     CraneFactors factors;
     watched("Fatigue factors of the crane class", 0, [&] { factors = craneFactors(craneClass, wheels, PhiFat); });
     return factors;
-}
-
-/// WheelV of wheels 1..4 or 5..8 from the entered loads of a crane, times its dynamic factor.
-void loadWheels(const FatigueRun& run, int firstSlot, int crane, double PhiFat) {
-    for (int i = 0; i < 4; ++i) {
-        run.loads.WheelV(firstSlot + i) = PhiFat * run.project.V((crane == 1 ? 1 : 5) + i);
-    }
-}
-
-void copyGaps(const FatigueRun& run) {
-    for (int i = 1; i <= 6; ++i) run.loads.WheelGap(i) = run.project.Avst(i);
-}
-
-/// Crane 1; with the wheels of crane 2 behind it when both form a train.
-void loadCrane1(const FatigueRun& run, double PhiFat, bool train) {
-    copyGaps(run);
-    loadWheels(run, 1, 1, PhiFat);
-    loadWheels(run, 5, 2, train ? PhiFat : 0.0);  // a train runs with the factor of crane 1
-    run.loads.NCranes = 1;                        // for all fatigue walks: the cranes never move apart
-}
-
-/// Crane 2 takes the places of the wheels of crane 1.
-void loadCrane2(const FatigueRun& run, double PhiFat) {
-    for (int i = 1; i <= 4; ++i) run.loads.WheelH(i) = 0.0;
-    for (int i = 1; i <= 3; ++i) run.loads.WheelGap(i) = run.project.Avst(i + 3);
-    loadWheels(run, 1, 2, PhiFat);
-}
-
-/// Both cranes at the distance MinAvst. The gaps stay as the walk of crane 2 left them, so that crane 1 rolls on the
-/// wheel distances of crane 2: note G22.
-void loadBoth(const FatigueRun& run, const FatigueFactors& factors) {
-    for (int i = 1; i <= 8; ++i) run.loads.WheelH(i) = 0.0;
-    loadWheels(run, 1, 1, factors.Cr1.PhiFat);
-    loadWheels(run, 5, 2, factors.Cr2.PhiFat);
 }
 
 StressSet walk(const FatigueRun& run, const History& history, const CraneFactors& factors) {
@@ -73,21 +34,21 @@ FatigueResults RunFatigueOverhead(const FatigueRun& run) {
 
     FatigueResults results;
     FatigueFactors& factors = results.Factors;
-    ClearSpanLoad(run);
+    ClearSpanLoad(project, run.loads);
     const int wheels1 = train ? countTrainWheels(project) : countWheels(project, 1);
     factors.Cr1 = factorsOf(project.CraneClass1, wheels1, dynamicFactor(project.PsiV1));
-    loadCrane1(run, factors.Cr1.PhiFat, train);
+    setFatigueCrane1(project, factors.Cr1.PhiFat, train, run.loads);
     results.Cr1 = walk(run, StressHistoryCr1, factors.Cr1);
 
     if (crane2Alone) {
         factors.Cr2 = factorsOf(project.CraneClass2, countWheels(project, 2), dynamicFactor(project.PsiV2));
-        loadCrane2(run, factors.Cr2.PhiFat);
+        setFatigueCrane2(project, factors.Cr2.PhiFat, run.loads);
         results.Cr2 = walk(run, StressHistoryCr2, factors.Cr2);
     }
     if (crane2Alone && project.TwoCraneMode == TwoCranes::Together) {
         results.ClassOfBoth = classOfBoth(project);
         factors.Cr12 = factorsOf(*results.ClassOfBoth, factors.Cr1.NofWheels + factors.Cr2.NofWheels, 0.0);
-        loadBoth(run, factors);
+        setFatigueBoth(project, factors.Cr1.PhiFat, factors.Cr2.PhiFat, run.loads);
         results.Cr12 = walk(run, StressHistoryCr12, factors.Cr12);
     }
 
@@ -107,9 +68,9 @@ FatigueResults RunFatigueMonorail(const FatigueRun& run) {
     const Project& project = run.project;
     FatigueResults results;
     FatigueFactors& factors = results.Factors;
-    ClearSpanLoad(run);
+    ClearSpanLoad(project, run.loads);
     factors.Cr1 = factorsOf(project.CraneClassR, countWheels(project, 1), dynamicFactor(project.PsiV1));
-    loadCrane1(run, factors.Cr1.PhiFat, false);
+    setFatigueCrane1(project, factors.Cr1.PhiFat, false, run.loads);
     results.Cr1 = walk(run, StressHistoryMonorail, factors.Cr1);
 
     const StressSet none(project.NofSpans);

@@ -35,7 +35,7 @@ double stiffenedWebArea(const Project& project, const SectionRecord& section, bo
     const double plates = static_cast<int>(project.StiffenerMode);  // one at a non-rigid end post, two at a rigid one
     if (project.W3 != kFilletWeld) return bearing * section.tw + DecimalValue(project.WS1t) * stiffener * plates;
 
-    const bool noWebWeld = rolledWhole && section.Fab == "R";
+    const bool noWebWeld = rolledWhole && isRolled(section);
     const double atWeb = noWebWeld ? bearing * section.tw : 2.0 * bearing * project.W3a;
     return atWeb + 2.0 * stiffener * plates * project.W3a;
 }

@@ -3,16 +3,12 @@
 #include <cmath>
 
 #include "checks/loaded_length.h"
+#include "project/loads.h"
 
 namespace borvik {
 
 double largestWheel(const Project& project, int crane) {
-    const int first = crane == 1 ? 1 : 5;
-    double largest = 0.0;
-    for (int i = first; i <= first + 3; ++i) {
-        if (project.V(i) > largest) largest = project.V(i);
-    }
-    return largest;
+    return std::fmax(heaviestWheel(project, crane), 0.0);
 }
 
 WheelSpread wheelSpread(const Project& project, const RailRecord& rail, const SectionRecord& section) {

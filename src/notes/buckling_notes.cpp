@@ -94,8 +94,8 @@ double ratioUnder(const Session& session, const Project& other, int span) {
                     negativeRatio(session, span, negativeReduction(other, span, support)));
 }
 
-/// The curve that belongs to the section: the general case for unequal flanges, and the values of rolled sections for
-/// those.
+/// The curve that belongs to the section: the general case for
+/// unequal flanges, and the values of rolled sections for those.
 std::optional<NoteFinding> curveOfSection(const Session& session) {
     const Project& project = session.project;
     if (project.LtbCurve == LtbCase::General) return std::nullopt;
@@ -114,7 +114,7 @@ std::optional<NoteFinding> curveOfSection(const Session& session) {
         const SectionRecord& section = project.SpanSection(span);
         if (hasUnequalFlanges(section)) {
             consider(span, general, ", general case");
-        } else if (section.Fab == "R") {
+        } else if (isRolled(section)) {
             consider(span, rolled, ", values of rolled sections");
         }
     }

@@ -74,7 +74,7 @@ std::optional<NoteFinding> bendingAtTopWeld(const Session& session) {
         scaleSpans(set->Sig1Range, [&](int span) {
             const SectionRecord& section = session.project.SpanSection(span);
             const double top = section.h - section.EzEl;
-            const double category = section.Fab == "R" ? 160.0 : 100.0;  // EN 1993-1-9 Tables 8.1, 8.2
+            const double category = isRolled(section) ? 160.0 : 100.0;  // EN 1993-1-9 Tables 8.1, 8.2
             return (top - section.tf1) / top * 100.0 / category;
         });
     const Detail bending{.name = "Bending stress at the top flange's weld",

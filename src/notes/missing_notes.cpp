@@ -4,6 +4,7 @@
 #include "base/number_text.h"
 #include "checks/loaded_length.h"
 #include "notes/note_rules.h"
+#include "project/steel.h"
 
 namespace borvik {
 
@@ -27,8 +28,8 @@ std::optional<NoteFinding> beyond(const Session& session, const char* what, doub
                    std::string(what) + " " + formatNumber(worst, "0.0") + unit + " in span " + std::to_string(at));
 }
 
-/// sigma_x, sigma_oz and tau at the web's top where My is largest, as part of the yield strength; spoken of from 0.8
-/// on.
+/// sigma_x, sigma_oz and tau at the web's top where My is
+/// largest, as part of the yield strength; spoken of from 0.8 on.
 std::optional<NoteFinding> stressUnderWheel(const Session& session) {
     constexpr double kWorthANote = 0.8;
     const Project& project = session.project;
@@ -62,12 +63,11 @@ std::optional<NoteFinding> slenderBottomFlange(const Session& session) {
 
 /// hw/tw over k (E/fyf) sqrt(Aw/Afc), as a multiple of it.
 std::optional<NoteFinding> flangeInducedBuckling(const Session& session) {
-    constexpr double kE = 210000;
     return beyond(session, "hw/tw over its limit", 1, [&](int, const SectionRecord& section) {
         const bool plastic = std::min(section.ClassPos, section.ClassNeg) <= 2;
         const double k = plastic ? 0.4 : 0.55;  // plastic or elastic moment resistance
         const double flange = std::min(section.b1 * section.tf1, section.b2 * section.tf2);
-        const double limit = k * kE / session.project.fyk * std::sqrt(section.Hw * section.tw / flange);
+        const double limit = k * steel::kE / session.project.fyk * std::sqrt(section.Hw * section.tw / flange);
         return section.Hw / section.tw / limit;
     });
 }

@@ -4,6 +4,7 @@
 #include "checks/loaded_length.h"
 #include "checks/local_checks.h"
 #include "notes/note_rules.h"
+#include "project/loads.h"
 
 namespace borvik {
 
@@ -93,17 +94,13 @@ std::optional<NoteFinding> closeWheels(const Session& session) {
     return worstOf(changes);
 }
 
-double heaviestOfHoist(const Project& project) {
-    return *std::max_element(project.V.begin(), project.V.begin() + 4);
-}
-
 /// Flange bending of every span of a monorail with another resistance.
 /// @param resistance  (span, section) -> kN
 template <class Resistance>
 std::optional<NoteFinding> withFlangeResistance(const Session& session, Resistance resistance) {
     if (overhead(session)) return std::nullopt;
     const Project& project = session.project;
-    const double Fz = heaviestOfHoist(project) * project.LfULS * project.PsiV1 / 2;
+    const double Fz = heaviestWheel(project, 1) * project.LfULS * project.PsiV1 / 2;
     std::vector<NoteChange> changes;
     for (int span = 1; span <= project.NofSpans; ++span) {
         const double FfRd = resistance(span, project.SpanSection(span));
@@ -128,9 +125,7 @@ std::optional<NoteFinding> atFreeEnd(const Session& session) {
 std::optional<NoteFinding> flangeStressOfBeam(const Session& session) {
     const Project& project = session.project;
     const UlsResults& uls = session.results->Uls;
-    double xw = 0;
-    for (int gap = 1; gap <= 3; ++gap)
-        if (project.Avst(gap) > 0) xw = xw == 0 ? double(project.Avst(gap)) : std::min<double>(xw, project.Avst(gap));
+    const double xw = smallestDistance(project);
     return withFlangeResistance(session, [&](int span, const SectionRecord& section) {
         double stress = 0;
         for (const Table<Single>* records : {&uls.MyMaxSpan, &uls.MyMinSpan}) {

@@ -1,6 +1,35 @@
 #include "project/loads.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace borvik {
+
+namespace {
+
+/// WheelV of four wheels from slot `first` on.
+void loadWheels(const Project& project, int crane, double factor, int first, RunLoads& loads) {
+    for (int i = 0; i < 4; ++i) loads.WheelV(first + i) = factor * project.V((crane == 1 ? 1 : 5) + i);
+}
+
+}  // namespace
+
+double heaviestWheel(const Project& project, int crane) {
+    const auto first = project.V.begin() + (crane == 1 ? 0 : 4);
+    return *std::max_element(first, first + 4);
+}
+
+double heaviestWheel(const Project& project) {
+    return *std::max_element(project.V.begin(), project.V.end());
+}
+
+double smallestDistance(const Project& project) {
+    double smallest = 0;
+    for (int i = 1; i <= 3; ++i)
+        if (project.Avst(i) != 0)
+            smallest = smallest == 0 ? double(project.Avst(i)) : std::fmin(smallest, project.Avst(i));
+    return smallest;
+}
 
 void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
     for (int i = 1; i <= project.NofSpans; ++i) {
@@ -21,6 +50,38 @@ void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads
         loads.WheelH(w) = (w <= 4 ? project.PsiH1 : project.PsiH2) * project.LfULS * project.H(w);
     }
     loads.WheelGap = project.Avst;
+}
+
+void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {
+    setDeadLoad(project, rail, project.LfSLS, loads);
+    for (int w = 1; w <= 8; ++w) {
+        loads.WheelV(w) = project.LfSLS * project.V(w);
+        loads.WheelH(w) = project.LfSLS * project.H(w);
+    }
+    loads.WheelGap = project.Avst;
+}
+
+void ClearSpanLoad(const Project& project, RunLoads& loads) {
+    for (int i = 1; i <= project.NofSpans; ++i) loads.SpanLoad(i) = 0.0;
+}
+
+void setFatigueCrane1(const Project& project, double PhiFat, bool train, RunLoads& loads) {
+    loads.WheelGap = project.Avst;
+    loadWheels(project, 1, PhiFat, 1, loads);
+    loadWheels(project, 2, train ? PhiFat : 0.0, 5, loads);
+    loads.NCranes = 1;
+}
+
+void setFatigueCrane2(const Project& project, double PhiFat, RunLoads& loads) {
+    for (int i = 1; i <= 4; ++i) loads.WheelH(i) = 0.0;
+    for (int i = 1; i <= 3; ++i) loads.WheelGap(i) = project.Avst(i + 3);
+    loadWheels(project, 2, PhiFat, 1, loads);
+}
+
+void setFatigueBoth(const Project& project, double PhiFat1, double PhiFat2, RunLoads& loads) {
+    for (int i = 1; i <= 8; ++i) loads.WheelH(i) = 0.0;
+    loadWheels(project, 1, PhiFat1, 1, loads);
+    loadWheels(project, 2, PhiFat2, 5, loads);
 }
 
 }  // namespace borvik

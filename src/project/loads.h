@@ -6,6 +6,13 @@
 
 namespace borvik {
 
+/// The largest vertical wheel load as entered, kN: of crane 1 or 2, and of both.
+[[nodiscard]] double heaviestWheel(const Project& project, int crane);
+[[nodiscard]] double heaviestWheel(const Project& project);
+
+/// The smallest distance between neighbouring wheels of crane 1, mm; 0 for a single wheel.
+[[nodiscard]] double smallestDistance(const Project& project);
+
 /// The loads of one run, set by its driver before the walk. Wheels: always eight, 1..4 of crane 1, 5..8 of crane 2.
 /// They survive from one run to the next until a driver rewrites them.
 struct RunLoads {
@@ -24,5 +31,23 @@ void setDeadLoad(const Project& project, const RailRecord& rail, double factor, 
 /// Loads of the ultimate limit state: dead load, and each wheel with the load factor and the dynamic factors of its
 /// crane, rounded once. NCranes is left alone.
 void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads);
+
+/// Loads of the serviceability limit state: dead load and wheels
+/// with the load factor, no dynamic factors. NCranes is left alone.
+void setSlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads);
+
+/// A fatigue load carries no dead load.
+void ClearSpanLoad(const Project& project, RunLoads& loads);
+
+/// Fatigue load of crane 1: its wheels as entered times `PhiFat`; in a train the wheels of crane 2 behind them, with
+/// the same factor. For this and all later fatigue walks NCranes is 1: the cranes never move apart.
+void setFatigueCrane1(const Project& project, double PhiFat, bool train, RunLoads& loads);
+
+/// Fatigue load of crane 2, which takes the places of the wheels of crane 1. The others are left alone.
+void setFatigueCrane2(const Project& project, double PhiFat, RunLoads& loads);
+
+/// Fatigue load of both cranes, each with its factor. The distances stay as they are: after the walk of crane 2, crane
+/// 1 rolls on the wheel distances of crane 2 (note G22).
+void setFatigueBoth(const Project& project, double PhiFat1, double PhiFat2, RunLoads& loads);
 
 }  // namespace borvik

@@ -4,12 +4,12 @@
 #include "diagrams/section_sketch.h"
 #include "diagrams/sketch_geometry.h"
 #include "project/load_combinations.h"
+#include "project/steel.h"
 #include "report/report_chapters.h"
 
 namespace borvik {
 namespace {
 
-constexpr double kElasticModulus = 210000.0;  // N/mm2
 constexpr TextStyle kBold{true};
 
 void heading(ReportPage& page, const char* text) {
@@ -181,7 +181,7 @@ void PrintGeneral(Report& report, bool withDeflections) {
     page.put(page.Col2.stop2, " = ");
     page.put(page.Col2.stop3, formatNumber(project.fyk, "###") + " MPa");
     page.put(page.Col3.stop1, "E = ");
-    page.put(page.Col3.stop3, formatNumber(kElasticModulus, "##.0") + " MPa");
+    page.put(page.Col3.stop3, formatNumber(steel::kE, "##.0") + " MPa");
     page.put(page.Col4.stop1, "gm0/gm1 =");
     page.put(page.Col4.stop2 + 6.0,
              formatNumber(project.GammaM0, "#.00") + "/" + formatNumber(project.GammaM1, "#.00"));

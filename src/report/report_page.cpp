@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/text.h"
 
 namespace borvik {
 namespace {
@@ -14,17 +15,11 @@ constexpr double kGap = 1.0;                                     // least distan
 constexpr std::size_t kLongestLine = 1000;                       // characters; no paper takes as many side by side
 constexpr std::size_t kLongestHead = 1000;                       // bytes of a title, which stands on every page
 
-/// Bytes of the UTF-8 character that begins with this byte.
-std::size_t lengthOfCharacter(char first) {
-    const auto byte = static_cast<unsigned char>(first);
-    return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-}
-
 /// A title that would leave no room on the page for anything else is cut between two characters.
 std::string headText(const std::string& text) {
     if (text.size() <= kLongestHead) return text;
     std::size_t end = kLongestHead;
-    while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+    while (continuesCharacter(text[end])) --end;
     return text.substr(0, end) + " ...";
 }
 
@@ -186,9 +181,9 @@ std::vector<std::string> ReportPage::wrapped(std::string_view text, double block
 }
 
 std::size_t ReportPage::fitting(std::string_view text, double blockWidth) const {
-    std::vector<std::size_t> ends{std::min(text.size(), lengthOfCharacter(text[0]))};
+    std::vector<std::size_t> ends{std::min(text.size(), bytesOfCharacter(text[0]))};
     while (ends.size() < kLongestLine && ends.back() < text.size())
-        ends.push_back(std::min(text.size(), ends.back() + lengthOfCharacter(text[ends.back()])));
+        ends.push_back(std::min(text.size(), ends.back() + bytesOfCharacter(text[ends.back()])));
     const auto tooWide = std::partition_point(ends.begin() + 1, ends.end(), [&](std::size_t end) {
         return surface().textWidth(text.substr(0, end)) <= blockWidth;
     });

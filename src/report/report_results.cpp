@@ -88,7 +88,7 @@ public:
         page_.putRight(ratio_, row.ratio, row.overLimit ? kFailed : kPlain);
         // A mark beside the colour, for paper without any.
         if (row.overLimit) page_.putBlock(ratio_ + 0.6, 3.0, "!!", kFailed);
-        page_.putBlock(reference_, referenceWidth, trimmed(row.reference));
+        page_.putBlock(reference_, referenceWidth, withoutIndent(row.reference));
         page_.PrintY = top + numbersDown;
         if (!row.numbers.empty()) page_.putBlock(equation_, numbersWidth, row.numbers);
         page_.PrintY = top + referenceLines;
@@ -107,7 +107,7 @@ public:
 private:
     static constexpr double kRowGap = 0.3;
 
-    static std::string trimmed(const std::string& text) {
+    static std::string withoutIndent(const std::string& text) {
         const auto first = text.find_first_not_of(' ');
         return first == std::string::npos ? "" : text.substr(first);
     }

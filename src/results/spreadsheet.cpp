@@ -13,6 +13,7 @@
 #include <map>
 #include <system_error>
 
+#include "base/text.h"
 #include "base/whole_file.h"
 
 namespace borvik {
@@ -32,12 +33,6 @@ std::string sheetName(const std::string& title) {
         if (std::string_view("[]:*?/\\'").find(c) == std::string_view::npos) name += c;
     if (name.size() > kLongest) name.resize(kLongest);
     return name.empty() ? "Table" : name;
-}
-
-/// Characters of a UTF-8 text.
-std::size_t characters(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 /// The number that shows as this text by its mask: what the sheet must hold for the format to show the same digits. The

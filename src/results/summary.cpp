@@ -4,6 +4,7 @@
 
 #include "base/number_text.h"
 #include "base/shown_text.h"
+#include "base/text.h"
 #include "results/ratios.h"
 
 namespace borvik {
@@ -15,19 +16,8 @@ constexpr const char* kGap = "   ";
 /// A longer text stands on a line of its own, so that the ratios stay within sight.
 constexpr std::size_t kWidest = 76;
 
-/// Characters of a UTF-8 text, not bytes.
-std::size_t lengthOf(const std::string& text) {
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
-std::string trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string shown(const TableCell& cell) {
-    return trimmed(cell.text) + (cell.emphasis == Emphasis::OverLimit ? kMark : "");
+    return std::string(trimmed(cell.text)) + (cell.emphasis == Emphasis::OverLimit ? kMark : "");
 }
 
 bool isHeading(const std::vector<TableCell>& row) {
@@ -54,8 +44,8 @@ std::string lineOf(const std::vector<TableCell>& row, const std::vector<std::siz
         line += (i == 0 ? "" : kGap) + text;
         const bool last = i + 1 == row.size() || isHeading(row);
         if (last) break;
-        if (lengthOf(text) > widths[i]) line += "\n" + std::string(widths[i], ' ');
-        if (lengthOf(text) < widths[i]) line += std::string(widths[i] - lengthOf(text), ' ');
+        if (characters(text) > widths[i]) line += "\n" + std::string(widths[i], ' ');
+        if (characters(text) < widths[i]) line += std::string(widths[i] - characters(text), ' ');
     }
     return line + "\n";
 }
@@ -71,7 +61,7 @@ std::string tableText(const ResultTable& table) {
     std::vector<std::size_t> widths(table.columns.size());
     for (const auto& line : lines)
         for (std::size_t i = 0; i < std::min(line.size(), widths.size()); ++i)
-            if (!isHeading(line)) widths[i] = std::max(widths[i], std::min(kWidest, lengthOf(shown(line[i]))));
+            if (!isHeading(line)) widths[i] = std::max(widths[i], std::min(kWidest, characters(shown(line[i]))));
 
     std::string text;
     for (const auto& line : lines) text += lineOf(line, widths);

@@ -5,13 +5,11 @@
 
 #include "base/shown_text.h"
 #include "base/text.h"
+#include "base/units.h"
 #include "results/table_cells.h"
 
 namespace borvik {
 namespace {
-
-constexpr double kPerKilo = 1000.0;          // N to kN
-constexpr double kPerKiloMetre = 1000000.0;  // Nmm to kNm
 
 /// "2 / 1250": span and position of point k in it.
 TableCell placeCell(const Project& project, int span, int k) {

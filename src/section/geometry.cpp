@@ -2,14 +2,11 @@
 
 #include <cmath>
 
+#include "project/steel.h"
+
 namespace borvik {
 
 namespace {
-
-constexpr double kDensity = 7.9e-6;       // kg/mm3
-constexpr double kElasticity = 210000.0;  // N/mm2
-// Above the 81000 N/mm2 of EN 1993-1-1, 3.2.6. Kept, since stored sections carry it; no check reads the product.
-constexpr double kShearModulus = 89100.0;  // N/mm2
 
 double areaBelow(std::span<const Strip> strips, double z) {
     double area = 0.0;
@@ -64,7 +61,7 @@ double SecondMomentZ(const SectionRecord& s) {
 }
 
 double WeightPerMetre(const SectionRecord& s) {
-    return (s.b2 * s.tf2 + s.b1 * s.tf1 + (s.h - s.tf1 - s.tf2) * s.tw) * 1000.0 * kDensity;
+    return (s.b2 * s.tf2 + s.b1 * s.tf1 + (s.h - s.tf1 - s.tf2) * s.tw) * 1000.0 * steel::kDensity;
 }
 
 double WarpingStiffness(const SectionRecord& s) {
@@ -72,18 +69,18 @@ double WarpingStiffness(const SectionRecord& s) {
     const double I2 = s.tf2 * cube(s.b2) / 12.0;
     const double hs = s.h - s.tf1 / 2.0 - s.tf2 / 2.0;
     const double a = hs * I2 / (I1 + I2);  // shear centre below the middle of the top flange
-    return (square(a) * I1 + square(hs - a) * I2) * kElasticity;
+    return (square(a) * I1 + square(hs - a) * I2) * steel::kE;
 }
 
 double TorsionStiffness(const SectionRecord& s) {
-    return kShearModulus * (s.b1 * cube(s.tf1) + s.b2 * cube(s.tf2) + (s.h - s.tf1 - s.tf2) * cube(s.tw)) / 3.0;
+    return steel::kStoredG * (s.b1 * cube(s.tf1) + s.b2 * cube(s.tf2) + (s.h - s.tf1 - s.tf2) * cube(s.tw)) / 3.0;
 }
 
 PlasticProperties PlasticAxis(const SectionRecord& s) {
     const double hw = s.h - s.tf1 - s.tf2;
     if (s.b1 == s.b2 && s.tf1 == s.tf2) {
-        // A quarter of the web, at the lever of the flanges: kept as the short way of equal flanges, not the exact
-        // modulus.
+        // A quarter of the web, at the lever of the flanges: kept
+        // as the short way of equal flanges, not the exact modulus.
         return {s.h / 2.0, (hw * s.tw / 4.0 + s.b1 * s.tf1) * (s.h - s.tf1 / 2.0 - s.tf2 / 2.0)};
     }
     const double A1 = s.b1 * s.tf1;

@@ -8,10 +8,6 @@ namespace borvik {
 
 namespace {
 
-bool isWelded(const SectionRecord& section) {
-    return section.Id == "Is" || section.Id == "Iu";
-}
-
 void update(const ReferenceTables& tables, const SectionSetting& setting, SectionRecord& section) {
     if (isWelded(section)) {
         WeldedProperties(setting, section);

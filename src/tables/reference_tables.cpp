@@ -133,6 +133,14 @@ int find(const Array<Row>& rows, std::string Row::*field, const std::string& nam
 
 }  // namespace
 
+bool isWelded(const SectionRecord& section) {
+    return section.Id == "Is" || section.Id == "Iu";
+}
+
+bool isRolled(const SectionRecord& section) {
+    return section.Fab == "R";
+}
+
 ReferenceTables LoadTables(const std::string& folder) {
     ReferenceTables tables;
     tables.SectionTable = loadTable(folder, kSectionFile, 4, kDefaultSection, &SectionRecord::TableName, sectionOf);

@@ -12,8 +12,8 @@ namespace borvik {
 /// One cross-section: its input and its computed properties. mm, mm2, mm3, mm4, mm6, kg/m; resistances in kN and kNm.
 /// The order of the fields is their order in the project file. Axes: y strong, z weak.
 struct SectionRecord {
-    std::string
-        Id;  ///< family: "HEA", "HEB", "HEM", "IPE", "IPN" rolled; "Is" welded, equal flanges; "Iu" welded, unequal
+    /// Family: "HEA", "HEB", "HEM", "IPE", "IPN" rolled; "Is" welded, equal flanges; "Iu" welded, unequal.
+    std::string Id;
     std::string Fab;              ///< "R" rolled, "W" welded
     std::string TableName;        ///< designation in the section table, such as "IPE 300"
     std::int16_t TableIndex = 0;  ///< row of the section table, from 0
@@ -25,8 +25,8 @@ struct SectionRecord {
     std::string DisplayName;  ///< the name shown everywhere; a span without one has no section
     bool InUse = false;       ///< in SectionList: assigned to a span
 
-    Single h, b1, b2, tw, tf1,
-        tf2;   ///< height, width of top and bottom flange, web, thickness of top and bottom flange
+    /// Height, width of top and bottom flange, web, thickness of top and bottom flange.
+    Single h, b1, b2, tw, tf1, tf2;
     Single R;  ///< root radius; for welded sections 0.4 tw
     FixedArray<Single, 1, 4> Spare2;
     Single ReinfD, ReinfB, ReinfT;  ///< depth, (unused) width and thickness of one reinforcement plate
@@ -70,6 +70,11 @@ struct SectionRecord {
 
     bool operator==(const SectionRecord&) const = default;
 };
+
+/// True for a section of the families that are welded of plates, "Is" and "Iu".
+[[nodiscard]] bool isWelded(const SectionRecord& section);
+/// True for a section of the table of rolled ones, reinforced or not.
+[[nodiscard]] bool isRolled(const SectionRecord& section);
 
 /// One steel grade.
 struct SteelGradeRow {
