@@ -32,7 +32,7 @@ struct PeakLabel {
     std::string text;       ///< "My=-66.2"
     /// Before and behind the position: "  L=", " mm". Both empty where the position isn't written.
     std::string before = {}, after = {};
-    bool inRow = false;  ///< below the deepest curve, in a row with the others
+    bool inRow = false;                     ///< below the deepest curve, in a row with the others
     std::array<CraneStand, 2> stands = {};  ///< where the cranes stand then
 };
 
@@ -42,7 +42,7 @@ struct Panel {
     Upwards upwards = Upwards::Positive;
     std::vector<Curve> curves;
     std::vector<PeakLabel> peaks;
-    bool oneSided = false;  ///< all curves stand on one side
+    bool oneSided = false;              ///< all curves stand on one side
     std::optional<Effect> effect = {};  ///< what is enveloped; a range has no value at a single position
 };
 
