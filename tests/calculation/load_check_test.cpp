@@ -35,7 +35,7 @@ void print(std::ostream& out, const Project& p, LoadForm form) {
 
 /// Every way in which wheels and distances can be there or not, and the limits of what fits: what is said, word for
 /// word, and what it asks for.
-TEST(LoadRefusals, AreThoseOfTheList) {
+TEST(LoadRefusals, areThoseOfTheList) {
     std::ostringstream said;
     for (const bool second : {false, true}) {
         const int wheel0 = second ? 4 : 0, gap0 = second ? 3 : 0, there = second ? 16 : 8;
@@ -76,7 +76,7 @@ TEST(LoadRefusals, AreThoseOfTheList) {
     EXPECT_EQ(testing_support::goldenDifference("load-refusals.txt", said.str()), "");
 }
 
-TEST(LoadRemarks, AreOfWhatTheFormWouldNotHaveLetPass) {
+TEST(LoadRemarks, areOfWhatTheFormWouldNotHaveLetPass) {
     Project p = soundProject();
     p.MinAvst = 0;
     EXPECT_EQ(loadRemark(p), "");
@@ -90,7 +90,7 @@ TEST(LoadRemarks, AreOfWhatTheFormWouldNotHaveLetPass) {
     EXPECT_EQ(loadRemark(p), "No wheel has a vertical load.") << "the second crane is not there";
 }
 
-TEST(SettledLoads, LoseTheHorizontalLoadsOfWheelsThatAreNotThere) {
+TEST(SettledLoads, loseTheHorizontalLoadsOfWheelsThatAreNotThere) {
     Project p = soundProject();
     p.NofCranes = 2;
     for (int i = 1; i <= 8; ++i) p.H(i) = i;
@@ -100,7 +100,7 @@ TEST(SettledLoads, LoseTheHorizontalLoadsOfWheelsThatAreNotThere) {
     EXPECT_TRUE(p.HasLoadsY);
 }
 
-TEST(SettledLoads, AHorizontalLoadOnWheelSixAloneDoesNotCount) {
+TEST(SettledLoads, aHorizontalLoadOnWheelSixAloneDoesNotCount) {
     for (int wheel = 1; wheel <= 8; ++wheel) {
         Project p = soundProject();
         p.NofCranes = 2;

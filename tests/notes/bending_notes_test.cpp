@@ -80,11 +80,11 @@ const NoteCase kCases[]{
     {"C7", heavyGangway, [](Session& session) { oneWheel(session, 2, 6000); }},
 };
 
-TEST(BendingNotes, SpeakWhereTheyMatter) {
+TEST(BendingNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 
-TEST(BendingNotes, RemarksOfTheProject) {
+TEST(BendingNotes, remarksOfTheProject) {
     const auto remarkOf = [](const char* key, const std::function<void(Session&)>& change) {
         const auto finding = findingOf(calculated(change), key);
         return finding ? finding->remark : "silent";

@@ -99,7 +99,7 @@ const NoteCase kCases[]{
     {"F7", [](Session& session) { session.project.CraneType = CraneKind::Monorail; }, {}},
 };
 
-TEST(BucklingNotes, SpeakWhereTheyMatter) {
+TEST(BucklingNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 

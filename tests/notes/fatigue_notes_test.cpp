@@ -274,7 +274,7 @@ const NoteCase kCases[]{
      monorail([](Project& p) { p.FatR5 = true; }), "fatigue detail 5, splice 1", 0.0, 1.9100},
 };
 
-TEST(FatigueNotes, SpeakWhereTheyMatter) {
+TEST(FatigueNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 
@@ -320,7 +320,7 @@ const FactorCase kFactors[]{
     {"G25", welded(200, 300), welded(300, 200), 1.9206},
 };
 
-TEST(FatigueNotes, GrowByKnownFactors) {
+TEST(FatigueNotes, growByKnownFactors) {
     for (const FactorCase& each : kFactors) {
         EXPECT_FALSE(findingOf(calculated(each.silent), each.key)) << each.key;
         const auto finding = findingOf(calculated(each.matters), each.key);

@@ -87,7 +87,7 @@ const NoteCase kCases[]{
     {"B15", [](Session& session) { welded(session, 20); }, oneWheelOnSixMetres, "bending, span 1", 0.9486, 0.9558},
 };
 
-TEST(LoadAndSectionNotes, SpeakWhereTheyMatter) {
+TEST(LoadAndSectionNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 
@@ -99,7 +99,7 @@ NoteChange changeOf(const std::optional<NoteFinding>& finding, const std::string
     return {};
 }
 
-TEST(LoadNotes, AWheelBetweenTheStepsIsFound) {
+TEST(LoadNotes, aWheelBetweenTheStepsIsFound) {
     // 5 m: the worst a step of 200 mm finds is a wheel at 2200 seen from 2250, 100 x 2.2 x 2.75/5 = 121 kNm; in the
     // middle it is 125.
     const auto finding = findingOf(calculated([](Session& session) { oneWheel(session, 1, 5000); }), "A3");
@@ -114,7 +114,7 @@ TEST(LoadNotes, AWheelBetweenTheStepsIsFound) {
         << "a crane that stands still";
 }
 
-TEST(LoadNotes, ACraneAloneCanBeWorse) {
+TEST(LoadNotes, aCraneAloneCanBeWorse) {
     const auto bending = [](const Session& session) {
         const auto& rows = session.results->Checks["Bend"].spans;
         return std::max(rows(1).Ratio, rows(2).Ratio);
@@ -159,7 +159,7 @@ TEST(LoadNotes, ACraneAloneCanBeWorse) {
     EXPECT_FALSE(findingOf(calculated(), "A2"));
 }
 
-TEST(LoadNotes, TheGangwayLoadsTheWorstSpans) {
+TEST(LoadNotes, theGangwayLoadsTheWorstSpans) {
     const auto gangway = [](int spans) {
         return [spans](Session& session) {
             oneWheel(session, spans, 6000);
@@ -174,7 +174,7 @@ TEST(LoadNotes, TheGangwayLoadsTheWorstSpans) {
     EXPECT_FALSE(findingOf(calculated(gangway(1)), "A5"));
 }
 
-TEST(SectionNotes, ANarrowBottomFlangeTwistsMore) {
+TEST(SectionNotes, aNarrowBottomFlangeTwistsMore) {
     const auto changeAt = [](double b2) {
         const auto finding = findingOf(calculated([b2](Session& session) {
                                            oneWheel(session, 1, 12000);
@@ -192,7 +192,7 @@ TEST(SectionNotes, ANarrowBottomFlangeTwistsMore) {
     EXPECT_EQ(changeAt(350).growth(), 0) << "a wide one is safe";
 }
 
-TEST(SectionNotes, AThickFlangeIsWeaker) {
+TEST(SectionNotes, aThickFlangeIsWeaker) {
     const auto finding = findingOf(calculated([](Session& session) { welded(session, 45); }), "B1");
     ASSERT_TRUE(finding && finding->changes.size() == 1);
     EXPECT_GE(finding->changes[0].other / finding->changes[0].shown, 1.02);
@@ -200,7 +200,7 @@ TEST(SectionNotes, AThickFlangeIsWeaker) {
     EXPECT_FALSE(findingOf(calculated([](Session& session) { welded(session, 20); }), "B1"));
 }
 
-TEST(SectionNotes, TheAxisInAThickTopFlange) {
+TEST(SectionNotes, theAxisInAThickTopFlange) {
     // Equal areas 26.875 below the top: Wpl = 10750 x 13.44 + 5250 x 6.56 + 3500 x 188.1 + 2000 x 368.1 = 1573.6e3 mm3,
     // 558.6 kNm; My = 150.
     const auto finding = findingOf(calculated([](Session& session) {

@@ -19,7 +19,7 @@ void lightHoist(Session& session) {
     session.project.CraneType = CraneKind::Monorail;
 }
 
-TEST(Notes, KeysAreUniqueAndFound) {
+TEST(Notes, keysAreUniqueAndFound) {
     std::set<std::string> keys;
     for (const NoteRule& rule : noteRules()) {
         EXPECT_TRUE(keys.insert(rule.key).second) << rule.key;
@@ -29,7 +29,7 @@ TEST(Notes, KeysAreUniqueAndFound) {
     EXPECT_EQ(findNoteRule("Z9"), nullptr);
 }
 
-TEST(Notes, TheLargestGrowthComesFirst) {
+TEST(Notes, theLargestGrowthComesFirst) {
     const Notes notes = projectNotes(calculated());
     ASSERT_GT(notes.notes.size(), 3u);
     double last = notes.notes[0].finding.changes.at(0).growth();
@@ -40,14 +40,14 @@ TEST(Notes, TheLargestGrowthComesFirst) {
     }
 }
 
-TEST(Notes, AreOneSentenceEachWithNumbersAndClause) {
+TEST(Notes, areOneSentenceEachWithNumbersAndClause) {
     const Note note{findNoteRule("D1"), {{{"patch load, span 3", 0.0571, 0.0842}}, "a remark"}};
     EXPECT_EQ(noteText(note),
               "The patch load check takes the wheel load as entered, without load factor and without dynamic factor. "
               "Here: a remark. With both, patch load, span 3: 0.084 instead of 0.057. (EN 1993-6 6.5, EN 1991-3 2.4)");
 }
 
-TEST(Notes, AProjectWithNothingToTellHasAssumptionsAlone) {
+TEST(Notes, aProjectWithNothingToTellHasAssumptionsAlone) {
     const Notes notes = projectNotes(calculated(lightHoist));
     for (const Note& note : notes.notes) ADD_FAILURE() << noteText(note);
     std::vector<std::string> keys;
@@ -55,7 +55,7 @@ TEST(Notes, AProjectWithNothingToTellHasAssumptionsAlone) {
     EXPECT_THAT(keys, testing::ElementsAre("A7", "A9", "E3b", "F7", "G14", "I1", "I5"));
 }
 
-TEST(Notes, WithoutResultsThereAreNone) {
+TEST(Notes, withoutResultsThereAreNone) {
     Session session = calculated();
     session.inputChanged();
     const Notes notes = projectNotes(session);

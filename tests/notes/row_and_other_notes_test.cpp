@@ -59,11 +59,11 @@ const NoteCase kCases[]{
     {"J1", [](Session& session) { session.project.GammaM0 = 0.1; }, {}},
 };
 
-TEST(RowAndOtherNotes, SpeakWhereTheyMatter) {
+TEST(RowAndOtherNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 
-TEST(InputNotes, NameEachValueThatCountsAndItsRange) {
+TEST(InputNotes, nameEachValueThatCountsAndItsRange) {
     const Session session = calculated([](Session& made) {
         made.project.GammaM0 = 0.1;
         made.project.PsiH1 = 0.9;
@@ -74,7 +74,7 @@ TEST(InputNotes, NameEachValueThatCountsAndItsRange) {
               "Setup: gammaM0 = 0.1 lies outside 0.5 to 1.5; Loads: Psi1H = 0.9 is not at least 1");
 }
 
-TEST(MissingNotes, NameTheThickestPlate) {
+TEST(MissingNotes, nameTheThickestPlate) {
     const Session session = calculated([](Session& made) {
         spanOf(made, 6000);
         weldedSection(made, "Is", 600, 300, 300, 12, 40);
@@ -83,7 +83,7 @@ TEST(MissingNotes, NameTheThickestPlate) {
     EXPECT_EQ(findingOf(session, "I8")->remark, "a thickness of 40.0 mm in span 1");
 }
 
-TEST(RowNotes, EveryCheckWithoutASoundRatioIsNamed) {
+TEST(RowNotes, everyCheckWithoutASoundRatioIsNamed) {
     Session session = calculated();
     session.results->Checks["Bend"].spans(2).Ratio = -0.1;
     session.results->Checks["DefZ"].spans(1).Ratio = session.results->Fatigue.FatResult(3)->Ratio = std::nan("");
@@ -94,7 +94,7 @@ TEST(RowNotes, EveryCheckWithoutASoundRatioIsNamed) {
     EXPECT_FALSE(findingOf(calculated(), "H8"));
 }
 
-TEST(RowNotes, ALargerRatioThatRanksLowerIsNamed) {
+TEST(RowNotes, aLargerRatioThatRanksLowerIsNamed) {
     const Session session = calculated([](Session& made) {
         oneWheel(made, 2, 18000);
         made.project.Span(2) = 9000;
@@ -111,7 +111,7 @@ TEST(RowNotes, ALargerRatioThatRanksLowerIsNamed) {
     EXPECT_FALSE(findingOf(calculated(), "H1"));
 }
 
-TEST(RowNotes, AnEarlierSpanWithMoreUnderAWheelIsNamed) {
+TEST(RowNotes, anEarlierSpanWithMoreUnderAWheelIsNamed) {
     const Session session = calculated([](Session& made) { made.project.SpanSection(1).TableName = "IPE 300"; });
     const auto& checks = session.results->Checks;
     const auto finding = findingOf(session, "H2");

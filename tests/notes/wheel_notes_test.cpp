@@ -112,11 +112,11 @@ const NoteCase kWheelCases[]{
      "bending, span 1", 0.8387, 1.147, 0.002},
 };
 
-TEST(WheelNotes, OfEveryOtherKind) {
+TEST(WheelNotes, ofEveryOtherKind) {
     for (const NoteCase& noteCase : kWheelCases) expectNote(noteCase);
 }
 
-TEST(WheelNotes, SpeakWhereTheyMatter) {
+TEST(WheelNotes, speakWhereTheyMatter) {
     for (const NoteCase& noteCase : kCases) expectNote(noteCase);
 }
 

@@ -32,7 +32,7 @@ protected:
     QTreeWidget* list = nullptr;
 };
 
-TEST_F(BeamForm, ShowsThirtyRowsAndTheFirstLength) {
+TEST_F(BeamForm, showsThirtyRowsAndTheFirstLength) {
     openBeam();
     EXPECT_EQ(focused(), "txtBeamLength");
     EXPECT_EQ(shown("txtBeamLength"), "4000");
@@ -44,7 +44,7 @@ TEST_F(BeamForm, ShowsThirtyRowsAndTheFirstLength) {
     EXPECT_EQ(cell(30, 1), "0");
 }
 
-TEST_F(BeamForm, ButtonsGiveLengthAndSectionToOneRow) {
+TEST_F(BeamForm, buttonsGiveLengthAndSectionToOneRow) {
     openBeam();
     enter("txtBeamLength", "7200");
     control<QComboBox>("cboProf").setCurrentIndex(2);
@@ -62,7 +62,7 @@ TEST_F(BeamForm, ButtonsGiveLengthAndSectionToOneRow) {
     EXPECT_GT(changes, 0);
 }
 
-TEST_F(BeamForm, RowsInUseReachToTheLastLengthOrToTheSelectedRow) {
+TEST_F(BeamForm, rowsInUseReachToTheLastLengthOrToTheSelectedRow) {
     const struct {
         const char* button;
         int selected, last;
@@ -89,7 +89,7 @@ TEST_F(BeamForm, RowsInUseReachToTheLastLengthOrToTheSelectedRow) {
     }
 }
 
-TEST_F(BeamForm, HeadsSelectRows) {
+TEST_F(BeamForm, headsSelectRows) {
     project.SpanSection(3) = SectionRecord();
     project.Span(7) = 1000;
     openBeam();
@@ -102,7 +102,7 @@ TEST_F(BeamForm, HeadsSelectRows) {
     EXPECT_EQ(selected(2), 2);
 }
 
-TEST_F(BeamForm, DeleteClearsARowAndAHoleIsRefusedOnClosing) {
+TEST_F(BeamForm, deleteClearsARowAndAHoleIsRefusedOnClosing) {
     openBeam();
     select(2);
     QTest::keyClick(list, Qt::Key_Delete);
@@ -133,7 +133,7 @@ void typeKeys(const char* text) {
     for (const char* each = text; *each != 0; ++each) QTest::keyClick(QApplication::focusWidget(), *each);
 }
 
-TEST_F(BeamForm, TwelveSpansWithThreeSectionsAreAMatterOfFewKeys) {
+TEST_F(BeamForm, twelveSpansWithThreeSectionsAreAMatterOfFewKeys) {
     openBeam();
     int keys = 0;
     const auto type = [&keys](const char* text) {
@@ -166,7 +166,7 @@ TEST_F(BeamForm, TwelveSpansWithThreeSectionsAreAMatterOfFewKeys) {
     EXPECT_TRUE(messages.texts.empty());
 }
 
-TEST_F(BeamForm, ACellTakesALengthOrASectionForAllSelectedRows) {
+TEST_F(BeamForm, aCellTakesALengthOrASectionForAllSelectedRows) {
     const struct {
         const char *text, *message;
         int length;
@@ -202,7 +202,7 @@ TEST_F(BeamForm, ACellTakesALengthOrASectionForAllSelectedRows) {
     }
 }
 
-TEST_F(BeamForm, APasteIsTakenAsAWholeOrNotAtAll) {
+TEST_F(BeamForm, aPasteIsTakenAsAWholeOrNotAtAll) {
     openBeam();
     const Project before = project;
     const std::pair<const char*, const char*> refused[] = {
@@ -229,7 +229,7 @@ TEST_F(BeamForm, APasteIsTakenAsAWholeOrNotAtAll) {
     EXPECT_EQ(project.Span(1), 4000);
 }
 
-TEST_F(BeamForm, SpansGoInAndOutAndSplicesStayInTheirSpans) {
+TEST_F(BeamForm, spansGoInAndOutAndSplicesStayInTheirSpans) {
     project.ChkFat5Sp(1) = project.ChkFat5Sp(2) = true;
     project.Fat5Span(1) = 2;
     project.Fat5Span(2) = 3;
@@ -251,7 +251,7 @@ TEST_F(BeamForm, SpansGoInAndOutAndSplicesStayInTheirSpans) {
     EXPECT_EQ(project.Fat5Span(2), Single(2));
 }
 
-TEST_F(BeamForm, SectionsThatStartAtAnotherRowAreShownFromTheFirst) {
+TEST_F(BeamForm, sectionsThatStartAtAnotherRowAreShownFromTheFirst) {
     for (const int first : {2, 31, 1000000}) {
         Array<SectionRecord> moved(first, first + 2);
         for (SectionRecord& section : moved) section = project.SectionList(0);
@@ -263,7 +263,7 @@ TEST_F(BeamForm, SectionsThatStartAtAnotherRowAreShownFromTheFirst) {
     }
 }
 
-TEST_F(BeamForm, OwnWeightFollowsItsBoxAndTheSectionFormBringsNewSections) {
+TEST_F(BeamForm, ownWeightFollowsItsBoxAndTheSectionFormBringsNewSections) {
     openBeam();
     click("chkDead");
     EXPECT_FALSE(project.SelfWeight);
@@ -289,7 +289,7 @@ protected:
     }
 };
 
-TEST_F(SectionForm, StartsWithTheFirstSectionOfTheProject) {
+TEST_F(SectionForm, startsWithTheFirstSectionOfTheProject) {
     current = SectionRecord();
     open(DialogKind::Profile);
     EXPECT_EQ(current.DisplayName, "HEA 300");
@@ -301,7 +301,7 @@ TEST_F(SectionForm, StartsWithTheFirstSectionOfTheProject) {
     EXPECT_EQ(property("  zs (shear center) ="), "");
 }
 
-TEST_F(SectionForm, PropertiesFollowADimensionAtOnce) {
+TEST_F(SectionForm, propertiesFollowADimensionAtOnce) {
     open(DialogKind::Profile);
     control<QTabWidget>("SSTab1").setCurrentIndex(1);
     EXPECT_EQ(current.Id, "Is");
@@ -317,7 +317,7 @@ TEST_F(SectionForm, PropertiesFollowADimensionAtOnce) {
     EXPECT_EQ(shown("isttf1"), "20.0");
 }
 
-TEST_F(SectionForm, DimensionsThatMakeNoSectionAreSaidInTheListOnly) {
+TEST_F(SectionForm, dimensionsThatMakeNoSectionAreSaidInTheListOnly) {
     open(DialogKind::Profile);
     control<QTabWidget>("SSTab1").setCurrentIndex(1);
     enter("isth", "50");
@@ -327,7 +327,7 @@ TEST_F(SectionForm, DimensionsThatMakeNoSectionAreSaidInTheListOnly) {
     EXPECT_EQ(property("  CoG ez(el) ="), "25.0");
 }
 
-TEST_F(SectionForm, TabsKeepTheWeldedSections) {
+TEST_F(SectionForm, tabsKeepTheWeldedSections) {
     open(DialogKind::Profile);
     auto& tabs = control<QTabWidget>("SSTab1");
     tabs.setCurrentIndex(2);
@@ -341,7 +341,7 @@ TEST_F(SectionForm, TabsKeepTheWeldedSections) {
     EXPECT_EQ(shown("iustb2"), "250");
 }
 
-TEST_F(SectionForm, AnEntryOfTheListIsShownOnItsTab) {
+TEST_F(SectionForm, anEntryOfTheListIsShownOnItsTab) {
     open(DialogKind::Profile);
     auto& list = control<QListWidget>("lstDatabase");
     list.setCurrentRow(1);
@@ -356,7 +356,7 @@ TEST_F(SectionForm, AnEntryOfTheListIsShownOnItsTab) {
     EXPECT_EQ(control<QTabWidget>("SSTab1").currentIndex(), 0);
 }
 
-TEST_F(SectionForm, ASectionIsAddedOnce) {
+TEST_F(SectionForm, aSectionIsAddedOnce) {
     open(DialogKind::Profile);
     click("addtoDBIu");
     EXPECT_EQ(lastMessage(), "The Section exists already");
@@ -375,7 +375,7 @@ TEST_F(SectionForm, ASectionIsAddedOnce) {
     EXPECT_EQ(control<QListWidget>("lstDatabase").count(), 4);
 }
 
-TEST_F(SectionForm, ASectionOfTheBeamStaysAndOthersCanGo) {
+TEST_F(SectionForm, aSectionOfTheBeamStaysAndOthersCanGo) {
     open(DialogKind::Profile);
     click("cmdX");
     EXPECT_EQ(lastMessage(), "Profile used in the Project, not able to remove");
@@ -387,7 +387,7 @@ TEST_F(SectionForm, ASectionOfTheBeamStaysAndOthersCanGo) {
     EXPECT_EQ(messages.texts.size(), 1u);
 }
 
-TEST_F(SectionForm, EntriesMoveUpAndDownWithinTheList) {
+TEST_F(SectionForm, entriesMoveUpAndDownWithinTheList) {
     open(DialogKind::Profile);
     auto& list = control<QListWidget>("lstDatabase");
     const auto order = [this] {
@@ -409,7 +409,7 @@ TEST_F(SectionForm, EntriesMoveUpAndDownWithinTheList) {
     EXPECT_EQ(list.currentRow(), 2);
 }
 
-TEST_F(SectionForm, EndPostAndLoadLevelAreSet) {
+TEST_F(SectionForm, endPostAndLoadLevelAreSet) {
     open(DialogKind::Profile);
     click("optStyv");
     EXPECT_EQ(project.StiffenerMode, EndPost::Rigid);
@@ -422,7 +422,7 @@ TEST_F(SectionForm, EndPostAndLoadLevelAreSet) {
     }
 }
 
-TEST_F(SectionForm, TheLoadedFlangeIsNamed) {
+TEST_F(SectionForm, theLoadedFlangeIsNamed) {
     open(DialogKind::Profile);
     EXPECT_NE(property("  MzRd = (Top flange)"), "");
     form.reset();
@@ -432,7 +432,7 @@ TEST_F(SectionForm, TheLoadedFlangeIsNamed) {
     EXPECT_EQ(property("  MzRd = (Top flange)"), "");
 }
 
-TEST_F(SectionForm, ATypedNameFindsItsSection) {
+TEST_F(SectionForm, aTypedNameFindsItsSection) {
     open(DialogKind::Profile);
     auto& table = control<QComboBox>("cboEuprofile");
     const std::pair<const char*, const char*> cases[] = {{"HEB 400", "HEB 400"},
@@ -450,7 +450,7 @@ TEST_F(SectionForm, ATypedNameFindsItsSection) {
     }
 }
 
-TEST_F(SectionForm, PlatesStayWithTheSectionForWhichTheyWereEntered) {
+TEST_F(SectionForm, platesStayWithTheSectionForWhichTheyWereEntered) {
     open(DialogKind::Profile);
     const auto choose = [this](const char* name) {
         auto& table = control<QComboBox>("cboEuprofile");
@@ -484,7 +484,7 @@ TEST_F(SectionForm, PlatesStayWithTheSectionForWhichTheyWereEntered) {
     EXPECT_EQ(current.DisplayName, "Is 700x300x15x25+PL100x10");
 }
 
-TEST_F(SectionForm, AnEntryIsReplacedInTheListAndInItsSpans) {
+TEST_F(SectionForm, anEntryIsReplacedInTheListAndInItsSpans) {
     open(DialogKind::Profile);
     const auto name = [this] { return control<QLabel>("lblName").text().toStdString(); };
     EXPECT_EQ(name(), "HEA 300\nin the list");
@@ -504,7 +504,7 @@ TEST_F(SectionForm, AnEntryIsReplacedInTheListAndInItsSpans) {
     EXPECT_EQ(control<QLabel>("lblWarning").text(), "Web height h - tf1 - tf2 <= 0");
 }
 
-TEST_F(SectionForm, ReinforcementNamesTheSectionAndGoesAgain) {
+TEST_F(SectionForm, reinforcementNamesTheSectionAndGoesAgain) {
     open(DialogKind::Profile);
     const double plain = current.Iy;
     for (const char* arrangement : {"PL1", "PL2"}) {

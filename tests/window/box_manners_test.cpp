@@ -16,7 +16,7 @@ QColor ground(const NumberBox& box) {
 
 class BoxManners : public FormTest {};
 
-TEST_F(BoxManners, SelectsOnEntryAndIsGreenWhileFocusedWithDarkTextOnBoth) {
+TEST_F(BoxManners, selectsOnEntryAndIsGreenWhileFocusedWithDarkTextOnBoth) {
     QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
     const QPalette before = QApplication::palette();
     QApplication::setPalette(dark);
@@ -33,7 +33,7 @@ TEST_F(BoxManners, SelectsOnEntryAndIsGreenWhileFocusedWithDarkTextOnBoth) {
     QApplication::setPalette(before);
 }
 
-TEST_F(BoxManners, ANumberTypedIsTheNumberUsed) {
+TEST_F(BoxManners, aNumberTypedIsTheNumberUsed) {
     open(DialogKind::Load);
     const struct {
         const char* text;
@@ -51,7 +51,7 @@ TEST_F(BoxManners, ANumberTypedIsTheNumberUsed) {
     EXPECT_EQ(plainNumber(QStringLiteral("\u22121,5e-3")), "-1,5e-3");
 }
 
-TEST_F(BoxManners, ACommaOfTheKeypadIsADecimalSign) {
+TEST_F(BoxManners, aCommaOfTheKeypadIsADecimalSign) {
     open(DialogKind::Load);
     NumberBox& box = control("txtV2");
     box.setFocus(Qt::TabFocusReason);
@@ -62,7 +62,7 @@ TEST_F(BoxManners, ACommaOfTheKeypadIsADecimalSign) {
     EXPECT_EQ(double(project.V(2)), 4.5);
 }
 
-TEST_F(BoxManners, LookingAtAValueKeepsTheDigitsThatItsMaskDoesNotShow) {
+TEST_F(BoxManners, lookingAtAValueKeepsTheDigitsThatItsMaskDoesNotShow) {
     project.V(2) = 40.125;
     open(DialogKind::Load);
     control("txtV2").setFocus(Qt::TabFocusReason);
@@ -72,7 +72,7 @@ TEST_F(BoxManners, LookingAtAValueKeepsTheDigitsThatItsMaskDoesNotShow) {
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(BoxManners, ATextThatIsNoNumberIsSaidKeptAndChangesNothing) {
+TEST_F(BoxManners, aTextThatIsNoNumberIsSaidKeptAndChangesNothing) {
     open(DialogKind::Setup);
     for (const char* text : {"abc", "-", " ", ".", "1 850,5", "1\u00a0850", "1.850,5", "12,5,5", "1.1 kN", "1.1abc",
                              "0x10", "1e999", "-4e38", "1e", "- 1", "\u0661", "inf", "nan"}) {
@@ -88,14 +88,14 @@ TEST_F(BoxManners, ATextThatIsNoNumberIsSaidKeptAndChangesNothing) {
     EXPECT_EQ(focused(), "frmSetup");
 }
 
-TEST_F(BoxManners, SectionAndBucklingFormsSayItWithoutTheBlank) {
+TEST_F(BoxManners, sectionAndBucklingFormsSayItWithoutTheBlank) {
     project.DefaultCfactor = false;
     open(DialogKind::Lateral);
     enter("txtC1EndPos", "x");
     EXPECT_EQ(lastMessage(), "Input string mismatch");
 }
 
-TEST_F(BoxManners, ARefusedBoxCarriesItsRangeInTheToolTipUntilItIsMended) {
+TEST_F(BoxManners, aRefusedBoxCarriesItsRangeInTheToolTipUntilItIsMended) {
     open(DialogKind::Setup);
     const QString meaning = control("ilamdaLT0").toolTip();
     EXPECT_TRUE(meaning.endsWith("\nAllowed: 0.1 to 0.8"));
@@ -105,7 +105,7 @@ TEST_F(BoxManners, ARefusedBoxCarriesItsRangeInTheToolTipUntilItIsMended) {
     EXPECT_EQ(control("ilamdaLT0").toolTip(), meaning + "\nHolds 0.755");
 }
 
-TEST_F(BoxManners, ARefusalDoesNotTestTheBoxThatTheFocusPassed) {
+TEST_F(BoxManners, aRefusalDoesNotTestTheBoxThatTheFocusPassed) {
     project.NofCranes = 2;
     project.MinAvst = 2000;
     open(DialogKind::Load);
@@ -127,7 +127,7 @@ struct BoxOnTop : Messages {
     }
 };
 
-TEST_F(BoxManners, AfterARefusalOneBoxIsGreen) {
+TEST_F(BoxManners, afterARefusalOneBoxIsGreen) {
     BoxOnTop onTop;
     form = makeDialog(
         DialogKind::Setup, session, onTop, [] {}, nullptr);
@@ -142,7 +142,7 @@ TEST_F(BoxManners, AfterARefusalOneBoxIsGreen) {
         EXPECT_EQ(ground(*box) == QColor(0, 255, 0), box->objectName() == "ineta") << box->objectName().toStdString();
 }
 
-TEST_F(BoxManners, WhatAFileBringsInOutsideItsLimitsIsMarked) {
+TEST_F(BoxManners, whatAFileBringsInOutsideItsLimitsIsMarked) {
     project.GammaM0 = 0.1;
     project.Fat5 = true;
     project.ChkFat5Sp(1) = true;
@@ -167,7 +167,7 @@ TEST_F(BoxManners, WhatAFileBringsInOutsideItsLimitsIsMarked) {
     EXPECT_EQ(messages.texts, std::vector<std::string>{"Input string mismatch "});
 }
 
-TEST_F(BoxManners, EnterGoesToTheNextBoxThatCanBeUsed) {
+TEST_F(BoxManners, enterGoesToTheNextBoxThatCanBeUsed) {
     open(DialogKind::Load);
     type("txtGangway", "0");
     std::vector<std::string> road;
@@ -183,7 +183,7 @@ TEST_F(BoxManners, EnterGoesToTheNextBoxThatCanBeUsed) {
     EXPECT_TRUE(messages.texts.empty());
 }
 
-TEST_F(BoxManners, EnterSkipsTheThroatOfAFullPenetrationWeld) {
+TEST_F(BoxManners, enterSkipsTheThroatOfAFullPenetrationWeld) {
     project.W1 = "FW";
     project.W2 = "FP";
     project.W3 = "FW";
@@ -194,7 +194,7 @@ TEST_F(BoxManners, EnterSkipsTheThroatOfAFullPenetrationWeld) {
     EXPECT_EQ(focused(), "txtW3a");
 }
 
-TEST_F(BoxManners, ArrowsWalkOverTheWheelsOfACrane) {
+TEST_F(BoxManners, arrowsWalkOverTheWheelsOfACrane) {
     open(DialogKind::Load);
     const struct {
         const char* from;
@@ -212,7 +212,7 @@ TEST_F(BoxManners, ArrowsWalkOverTheWheelsOfACrane) {
     }
 }
 
-TEST_F(BoxManners, NumbersBeyondTheirFieldStayAtItsEndAndAreRefused) {
+TEST_F(BoxManners, numbersBeyondTheirFieldStayAtItsEndAndAreRefused) {
     open(DialogKind::Fatigue1);
     enter("txtFat1C1", "99999");
     EXPECT_EQ(project.Fat1C1, 32767);
@@ -224,7 +224,7 @@ TEST_F(BoxManners, NumbersBeyondTheirFieldStayAtItsEndAndAreRefused) {
     EXPECT_EQ(lastMessage(), " 25 <= e <= 1000 ");
 }
 
-TEST_F(BoxManners, ClosingStoresTheBoxBeingEdited) {
+TEST_F(BoxManners, closingStoresTheBoxBeingEdited) {
     open(DialogKind::Setup);
     type("ineta", "1.05");
     QTest::keyClick(&control("ineta"), Qt::Key_Return, Qt::ControlModifier);
@@ -232,7 +232,7 @@ TEST_F(BoxManners, ClosingStoresTheBoxBeingEdited) {
     EXPECT_EQ(static_cast<float>(project.Eta), 1.05f);
 }
 
-TEST_F(BoxManners, ARefusalKeepsTheFormOpenOnceButLocksNobodyIn) {
+TEST_F(BoxManners, aRefusalKeepsTheFormOpenOnceButLocksNobodyIn) {
     open(DialogKind::Setup);
     type("ineta", "3");
     QTest::keyClick(form.get(), Qt::Key_Escape);
@@ -245,7 +245,7 @@ TEST_F(BoxManners, ARefusalKeepsTheFormOpenOnceButLocksNobodyIn) {
     EXPECT_EQ(double(project.Eta), 3.0);
 }
 
-TEST_F(BoxManners, ClosingAFormPutsTheResultsOutOfReach) {
+TEST_F(BoxManners, closingAFormPutsTheResultsOutOfReach) {
     for (const auto kind : {DialogKind::Setup, DialogKind::Beam, DialogKind::Load, DialogKind::Profile,
                             DialogKind::Rail, DialogKind::Lateral, DialogKind::Fatigue1, DialogKind::Fatigue2}) {
         open(kind);
@@ -257,7 +257,7 @@ TEST_F(BoxManners, ClosingAFormPutsTheResultsOutOfReach) {
     }
 }
 
-TEST_F(BoxManners, EveryFormFitsASmallScreenAndEveryBoxSaysWhatItIs) {
+TEST_F(BoxManners, everyFormFitsASmallScreenAndEveryBoxSaysWhatItIs) {
     for (const FormKind& kind : formKinds()) {
         open(kind.kind);
         EXPECT_LE(form->sizeHint().width(), 1024 - 8) << form->objectName().toStdString();
@@ -269,7 +269,7 @@ TEST_F(BoxManners, EveryFormFitsASmallScreenAndEveryBoxSaysWhatItIs) {
     }
 }
 
-TEST_F(BoxManners, EveryFormIsWalkedByKeysFromItsFirstBoxToClosing) {
+TEST_F(BoxManners, everyFormIsWalkedByKeysFromItsFirstBoxToClosing) {
     project.NofCranes = 2;
     project.MinAvst = 2000;
     project.V(5) = 20;

@@ -48,7 +48,7 @@ protected:
     FormBinder* binder = nullptr;
 };
 
-TEST_F(NumberBoxes, AreThoseOfTheTable) {
+TEST_F(NumberBoxes, areThoseOfTheTable) {
     std::string table;
     for (const FormKind& kind : formKinds()) {
         openAt(kind.kind);
@@ -66,7 +66,7 @@ TEST_F(NumberBoxes, AreThoseOfTheTable) {
     EXPECT_EQ(testing_support::goldenDifference("number-boxes.txt", table), "");
 }
 
-TEST_F(NumberBoxes, TakeWhatLiesWithinTheirLimitsAndRefuseTheRest) {
+TEST_F(NumberBoxes, takeWhatLiesWithinTheirLimitsAndRefuseTheRest) {
     for (const FormKind& kind : formKinds()) {
         openAt(kind.kind);
         for (const NumberRow* row : binder->rows()) {

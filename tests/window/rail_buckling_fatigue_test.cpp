@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(RailForm, FollowsTheProjectAndListsAFlatBar) {
+TEST_F(RailForm, followsTheProjectAndListsAFlatBar) {
     project.RailOn = true;
     project.RailFix = RailFixing::ResilientPad;
     open(DialogKind::Rail);
@@ -39,7 +39,7 @@ TEST_F(RailForm, FollowsTheProjectAndListsAFlatBar) {
     EXPECT_EQ(listed[5], "  Iy =|1.125E+5|mm4");  // 50 * 30^3 / 12
 }
 
-TEST_F(RailForm, ACraneRailHasTwoRowsMoreAndBecomesTheRailInUse) {
+TEST_F(RailForm, aCraneRailHasTwoRowsMoreAndBecomesTheRailInUse) {
     open(DialogKind::Rail);
     int row = 0;
     while (referenceTables().RailTable(row).Id != "A") ++row;
@@ -54,7 +54,7 @@ TEST_F(RailForm, ACraneRailHasTwoRowsMoreAndBecomesTheRailInUse) {
     EXPECT_GT(changes, 0);
 }
 
-TEST_F(RailForm, WeightAndFasteningAreSet) {
+TEST_F(RailForm, weightAndFasteningAreSet) {
     open(DialogKind::Rail);
     click("chkRail");
     EXPECT_TRUE(project.RailOn);
@@ -68,7 +68,7 @@ TEST_F(RailForm, WeightAndFasteningAreSet) {
 
 class BucklingForm : public FormTest {};
 
-TEST_F(BucklingForm, DefaultFactorsAreShownAndLocked) {
+TEST_F(BucklingForm, defaultFactorsAreShownAndLocked) {
     open(DialogKind::Lateral);
     EXPECT_TRUE(control<QCheckBox>("chkDefaultCfactor").isChecked());
     EXPECT_EQ(shown("txtC1EndPos"), "1.850");
@@ -86,7 +86,7 @@ TEST_F(BucklingForm, DefaultFactorsAreShownAndLocked) {
     EXPECT_EQ(shown("txtC1EndPos"), "1.850");
 }
 
-TEST_F(BucklingForm, TheCurveIsChosen) {
+TEST_F(BucklingForm, theCurveIsChosen) {
     open(DialogKind::Lateral);
     EXPECT_TRUE(control<QRadioButton>("optCurve3").isChecked());
     click("optCurve2");
@@ -135,7 +135,7 @@ std::string changed(const Project& before, const Project& after) {
     return all;
 }
 
-TEST_F(FatigueForms, EachControlWritesItsOwnField) {
+TEST_F(FatigueForms, eachControlWritesItsOwnField) {
     for (const bool overhead : {true, false}) {
         const std::string detail = overhead ? "Fat" : "FatR", weld = overhead ? "W" : "RW";
         const auto expect = [&](const std::string& button, const std::string& change) {
@@ -164,7 +164,7 @@ TEST_F(FatigueForms, EachControlWritesItsOwnField) {
     }
 }
 
-TEST_F(FatigueForms, DefaultButtonsSetWeldedAndRolledValues) {
+TEST_F(FatigueForms, defaultButtonsSetWeldedAndRolledValues) {
     const struct {
         DialogKind form;
         const char* button;
@@ -197,7 +197,7 @@ TEST_F(FatigueForms, DefaultButtonsSetWeldedAndRolledValues) {
     }
 }
 
-TEST_F(FatigueForms, SplicesTakeTheirSpanAndStayWithinIt) {
+TEST_F(FatigueForms, splicesTakeTheirSpanAndStayWithinIt) {
     for (const auto kind : {DialogKind::Fatigue1, DialogKind::Fatigue2}) {
         const bool overhead = kind == DialogKind::Fatigue1;
         auto& used = overhead ? project.ChkFat5Sp : project.ChkFatR5Sp;
@@ -222,7 +222,7 @@ TEST_F(FatigueForms, SplicesTakeTheirSpanAndStayWithinIt) {
     }
 }
 
-TEST_F(FatigueForms, WithoutAnySpliceTheMonorailFormClearsTheOverheadFlagOnOk) {
+TEST_F(FatigueForms, withoutAnySpliceTheMonorailFormClearsTheOverheadFlagOnOk) {
     for (const bool byOk : {true, false}) {
         project.Fat5 = project.FatR5 = true;
         for (int j = 1; j <= 4; ++j) project.ChkFatR5Sp(j) = false;
@@ -244,7 +244,7 @@ TEST_F(FatigueForms, WithoutAnySpliceTheMonorailFormClearsTheOverheadFlagOnOk) {
     EXPECT_TRUE(project.Fat5);
 }
 
-TEST_F(FatigueForms, EachPictureButtonOpensItsPicture) {
+TEST_F(FatigueForms, eachPictureButtonOpensItsPicture) {
     const auto expectPicture = [this](QAbstractButton& button, const char* name, const char* caption) {
         button.click();
         auto* info = form->findChild<QDialog*>(name);

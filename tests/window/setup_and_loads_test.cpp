@@ -13,7 +13,7 @@ namespace {
 
 class SetupForm : public FormTest {};
 
-TEST_F(SetupForm, TheVerticalLimitDecidesWhetherAHorizontalOneIsTaken) {
+TEST_F(SetupForm, theVerticalLimitDecidesWhetherAHorizontalOneIsTaken) {
     open(DialogKind::Setup);
     enter("txtDefY", "5");
     EXPECT_TRUE(messages.texts.empty());
@@ -27,7 +27,7 @@ TEST_F(SetupForm, TheVerticalLimitDecidesWhetherAHorizontalOneIsTaken) {
     }
 }
 
-TEST_F(SetupForm, TheCombinationsFollowTheFactorsAtOnce) {
+TEST_F(SetupForm, theCombinationsFollowTheFactorsAtOnce) {
     open(DialogKind::Setup);
     auto& list = control<QListWidget>("lstCombination");
     enter("iLfULS", "1.5");
@@ -47,7 +47,7 @@ protected:
     }
 };
 
-TEST_F(LoadForms, NumberOfCranesEnablesWhatBelongsToIt) {
+TEST_F(LoadForms, numberOfCranesEnablesWhatBelongsToIt) {
     twoCranes();
     project.MinDistConst = 1.0;
     open(DialogKind::Load);
@@ -69,7 +69,7 @@ TEST_F(LoadForms, NumberOfCranesEnablesWhatBelongsToIt) {
     EXPECT_GT(changes, 0);
 }
 
-TEST_F(LoadForms, TwoCranesActIndependentlyOrTogether) {
+TEST_F(LoadForms, twoCranesActIndependentlyOrTogether) {
     twoCranes();
     open(DialogKind::Load);
     EXPECT_TRUE(control<QRadioButton>("optIndepend").isChecked());
@@ -84,7 +84,7 @@ TEST_F(LoadForms, TwoCranesActIndependentlyOrTogether) {
     EXPECT_EQ(project.TwoCraneMode, TwoCranes::Independent);
 }
 
-TEST_F(LoadForms, AFixedCraneHasAPlaceAndAMovingOneHasNone) {
+TEST_F(LoadForms, aFixedCraneHasAPlaceAndAMovingOneHasNone) {
     for (const auto kind : {DialogKind::Load, DialogKind::LoadRunway}) {
         open(kind);
         EXPECT_FALSE(control("txtPosition").isEnabled());
@@ -101,7 +101,7 @@ TEST_F(LoadForms, AFixedCraneHasAPlaceAndAMovingOneHasNone) {
     }
 }
 
-TEST_F(LoadForms, ClassesGoToTheCraneTheyBelongTo) {
+TEST_F(LoadForms, classesGoToTheCraneTheyBelongTo) {
     twoCranes();
     open(DialogKind::Load);
     auto& first = control<QComboBox>("cboCraneClass1");
@@ -118,7 +118,7 @@ TEST_F(LoadForms, ClassesGoToTheCraneTheyBelongTo) {
     EXPECT_EQ(project.CraneClassR, 5);
 }
 
-TEST_F(LoadForms, TheSmallestDistanceIsOfferedAndTakenAtTheNextLeaving) {
+TEST_F(LoadForms, theSmallestDistanceIsOfferedAndTakenAtTheNextLeaving) {
     twoCranes();
     open(DialogKind::Load);
     enter("txtMinAvst", "100");
@@ -130,7 +130,7 @@ TEST_F(LoadForms, TheSmallestDistanceIsOfferedAndTakenAtTheNextLeaving) {
     EXPECT_EQ(messages.texts.size(), 1u);
 }
 
-TEST_F(LoadForms, CombinationsNameCraneLoadsOnly) {
+TEST_F(LoadForms, combinationsNameCraneLoadsOnly) {
     twoCranes();
     open(DialogKind::Load);
     enter("txtPsiV2", "1.3");
@@ -144,7 +144,7 @@ TEST_F(LoadForms, CombinationsNameCraneLoadsOnly) {
     EXPECT_EQ(control<QListWidget>("lstCombination").item(0)->text(), "ULS: 1.35*(1.10*Vk + 1.10*Hk)");
 }
 
-TEST_F(LoadForms, ARefusedLoadKeepsTheFormOpenByWhicheverWayItIsClosed) {
+TEST_F(LoadForms, aRefusedLoadKeepsTheFormOpenByWhicheverWayItIsClosed) {
     for (const auto kind : {DialogKind::Load, DialogKind::LoadRunway}) {
         project.Avst(1) = 0;
         project.V(2) = 40;
@@ -165,7 +165,7 @@ TEST_F(LoadForms, ARefusedLoadKeepsTheFormOpenByWhicheverWayItIsClosed) {
     }
 }
 
-TEST_F(LoadForms, ClosingWithOneCraneClearsTheSecond) {
+TEST_F(LoadForms, closingWithOneCraneClearsTheSecond) {
     twoCranes();
     project.H(5) = 2;
     project.Avst(4) = 1000;

@@ -99,7 +99,7 @@ void enterCranes(FormHands form) {
     form.choose("cboCraneClass2", "S2");
 }
 
-TEST_F(WholeWork, IsDoneSavedAndFoundAgain) {
+TEST_F(WholeWork, isDoneSavedAndFoundAgain) {
     const std::string path = folder.file("hall.brvk");
     std::vector<std::string> summary;
     Project made;
