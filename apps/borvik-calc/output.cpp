@@ -22,14 +22,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void writeText(const std::string& path, const std::string& text) {
-    try {
-        replaceFile(path, text);
-    } catch (const std::system_error& error) {
-        throw OutputError("can't write " + path + ": " + reasonOf(error));
-    }
-}
-
 void print(const std::string& text) {
     if (!(std::cout << text << std::flush)) throw OutputError("can't write to standard output");
 }
@@ -82,7 +74,7 @@ void Outputs::writeJson(const FinishedRun& run) {
     std::error_code notThere;
     for (const std::string& input : options_.files)
         if (fs::equivalent(file, input, notThere)) throw OutputError("would overwrite its input " + file);
-    writeText(file, text);
+    naming(file, [&] { replaceFile(file, text); });
 }
 
 /// With several projects, or where a folder is named: a file in that folder, named as the project. Projects of the same
@@ -113,9 +105,8 @@ void Outputs::writeTable(const FinishedRun& run) {
 
 void Outputs::writeSpreadsheet(const FinishedRun& run) {
     const TableEntry& entry = *findTable(options_.table);
-    const std::string failed =
-        saveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title);
-    if (!failed.empty()) throw OutputError("can't write " + options_.xlsx + ": " + failed);
+    naming(options_.xlsx,
+           [&] { saveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title); });
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {

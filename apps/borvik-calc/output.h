@@ -2,19 +2,26 @@
 
 #include <optional>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "base/whole_file.h"
 #include "calculation/session.h"
 #include "options.h"
 
 namespace borvik {
 
-/// A result file that can't be written; the text names it.
-class OutputError : public std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+/// Writes a file; a fault says that this file can't be written, and why.
+template <class Write>
+void naming(const std::string& file, Write write) {
+    try {
+        write();
+    } catch (const std::system_error& error) {
+        throw OutputError("can't write " + file + ": " + reasonOf(error));
+    } catch (const OutputError& error) {
+        throw OutputError("can't write " + file + ": " + error.what());
+    }
+}
 
 /// One project of the batch after its run.
 struct FinishedRun {

@@ -91,10 +91,11 @@ std::string savePictureOf(const Session& session, const std::string& name, const
         if (!onlySketch) diagrams.insert(diagrams.begin(), Diagram::Sketch);
     }
     needApplication();
-    const QString failed = savePicture(
-        file, [&](DrawingSurface& surface) { drawPicture(surface, diagrams, data); },
-        QSize(kPixelsAcross, qRound(pictureHeight(diagrams) * kPixelsPerUnit)), QString::fromStdString(name));
-    if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());
+    naming(file, [&] {
+        savePicture(
+            file, [&](DrawingSurface& surface) { drawPicture(surface, diagrams, data); },
+            QSize(kPixelsAcross, qRound(pictureHeight(diagrams) * kPixelsPerUnit)), QString::fromStdString(name));
+    });
     return remark;
 }
 

@@ -21,11 +21,12 @@ void saveReport(const Session& session, ReportScope scope, bool withNotes, const
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
-    const QString failed = savePdf(
-        file, [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
-        defaultPageLayout(),
-        {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
-    if (!failed.isEmpty()) throw OutputError("can't write " + file + ": " + failed.toStdString());
+    naming(file, [&] {
+        savePdf(
+            file, [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
+            defaultPageLayout(),
+            {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
+    });
 }
 
 #else

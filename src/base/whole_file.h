@@ -1,5 +1,6 @@
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <system_error>
 
@@ -26,6 +27,12 @@ enum class Readers { Usual, UserOnly };
 /// into as it is: it must never be replaced by a file.
 /// @throws std::system_error  with the system's reason; the file is then as it was, and nothing is left beside it
 void replaceFile(const std::string& path, const std::string& bytes, Readers readers = Readers::Usual);
+
+/// An output that could not be made or written; what() says why, in words for the user. Whoever names the file to the
+/// user adds its name.
+class OutputError : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
 
 /// Why a file could not be read or written, in words.
 [[nodiscard]] std::string reasonOf(const std::system_error& error);

@@ -103,9 +103,9 @@ private:
     std::map<std::string, lxw_format*> formats_;
 };
 
-std::string fill(Workbook& workbook, const ResultTable& table, const std::string& title) {
+void fill(Workbook& workbook, const ResultTable& table, const std::string& title) {
     lxw_worksheet* const sheet = workbook.addSheet(sheetName(title));
-    if (sheet == nullptr) return "no sheet can be made";
+    if (sheet == nullptr) throw OutputError("no sheet can be made");
     std::vector<std::size_t> widths(table.columns.size(), 0);
     const auto column = [](std::size_t number) { return static_cast<lxw_col_t>(number); };
     for (std::size_t c = 0; c < table.columns.size(); ++c) {
@@ -137,25 +137,23 @@ std::string fill(Workbook& workbook, const ResultTable& table, const std::string
     worksheet_repeat_rows(sheet, 0, 0);
     worksheet_set_landscape(sheet);
     worksheet_fit_to_pages(sheet, 1, 0);
-    return {};
 }
 
 }  // namespace
 
-std::string saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
+void saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
     try {
         const PrivateFolder folder;
         // The library tells of a file that can't be made on standard error only.
-        if (!std::ofstream(folder.file())) return std::strerror(errno);
+        if (!std::ofstream(folder.file())) throw OutputError(std::strerror(errno));
         Workbook workbook(folder.file());
-        if (!workbook.isOpen()) return "out of memory";
-        if (const std::string problem = fill(workbook, table, title); !problem.empty()) return problem;
-        if (const lxw_error error = workbook.close(); error != LXW_NO_ERROR) return lxw_strerror(error);
+        if (!workbook.isOpen()) throw OutputError("out of memory");
+        fill(workbook, table, title);
+        if (const lxw_error error = workbook.close(); error != LXW_NO_ERROR) throw OutputError(lxw_strerror(error));
         replaceFile(file, readFile(folder.file()));
     } catch (const std::system_error& error) {
-        return error.code().message();
+        throw OutputError(error.code().message());
     }
-    return {};
 }
 
 }  // namespace borvik

@@ -12,7 +12,7 @@ namespace borvik {
 /// alone. The old file stays until the new one is whole.
 /// @param file   path
 /// @param title  name of the sheet; what a sheet may not be called is left out
-/// @return an empty text, or what went wrong
-[[nodiscard]] std::string saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title);
+/// @throws OutputError  the file is then as it was
+void saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title);
 
 }  // namespace borvik

@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "base/fault.h"
+#include "base/whole_file.h"
 #include "diagrams/diagram_reading.h"
 #include "platform/qt/picture.h"
 #include "platform/qt/qt_surface.h"
@@ -423,9 +424,12 @@ void DiagramView::savePictureAs() {
                                                      "PNG (*.png);;SVG (*.svg)", "png");
     if (!path) return;
     const QSize size(kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size()));
-    const QString trouble = savePicture(
-        *path, [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
-    if (!trouble.isEmpty()) services_.messages.show(trouble.toStdString());
+    try {
+        savePicture(
+            *path, [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
+    } catch (const OutputError& error) {
+        services_.messages.show(error.what());
+    }
 }
 
 }  // namespace borvik

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 #include <ctime>
 
+#include "base/whole_file.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/saved_bytes.h"
@@ -66,10 +67,20 @@ void prepare(QPrinter& printer, const Session& session, ReportScope scope) {
     if (printer.outputFormat() == QPrinter::PdfFormat) printer.setOutputFileName(proposedFile(session, scope));
 }
 
+/// Writes a file; a fault begins with its name.
+template <class Write>
+void naming(const std::string& file, Write write) {
+    try {
+        write();
+    } catch (const OutputError& error) {
+        throw OutputError(file + ": " + error.what());
+    }
+}
+
 /// Sends the pages that were asked for, as often as was asked for. Each copy begins with page 1. What goes to a file is
 /// made in memory first and then saved with the same care as every other output.
-/// @return empty, or what went wrong
-QString send(QPrinter& printer, const Session& session, ReportScope scope, bool withNotes) {
+/// @throws OutputError  with the name of the file, where there is one
+void send(QPrinter& printer, const Session& session, ReportScope scope, bool withNotes) {
     const bool someOnly = printer.printRange() == QPrinter::PageRange;
     const int first = someOnly ? std::max(1, printer.fromPage()) : 1;
     const int last = someOnly ? printer.toPage() : 0;
@@ -86,34 +97,38 @@ QString send(QPrinter& printer, const Session& session, ReportScope scope, bool 
             if (!hasPages) return;
         }
     };
-    const QString noPage = QObject::tr("The report has no page %1.").arg(first);
+    const OutputError noPage(QObject::tr("The report has no page %1.").arg(first).toStdString());
     const QString file = printer.outputFileName();
     // A preview draws its pages on another engine, whatever the printer is.
     if (!file.isEmpty() && printer.paintEngine()->type() == QPaintEngine::Pdf) {
         const QByteArray bytes = renderPdf(draw, printer.pageLayout(), propertiesOf(session));
-        if (!hasPages) return noPage;
-        const QString failed = saveBytes(file.toStdString(), bytes);
-        return failed.isEmpty() ? failed : file + ": " + failed;
+        if (!hasPages) throw noPage;
+        naming(file.toStdString(), [&] { saveBytes(file.toStdString(), bytes); });
+        return;
     }
     printer.setDocName(QString::fromStdString(reportTitle(session)));
     QtPrinter pages(printer);
-    if (!pages.isActive()) return QObject::tr("The printer can't be started.");
+    if (!pages.isActive()) throw OutputError(QObject::tr("The printer can't be started.").toStdString());
     draw(pages);
     if (!hasPages) {
         printer.abort();
-        return noPage;
+        throw noPage;
     }
-    return pages.end() ? QString() : QObject::tr("The printer reports a failure.");
+    if (!pages.end()) throw OutputError(QObject::tr("The printer reports a failure.").toStdString());
 }
 
 void saveTo(const QString& from, QWidget* parent) {
     const auto chosen = QtQuestions().fileToSave("Results.xlsx", "*.xlsx", "xlsx");
     if (!chosen) return;
     QFile made(from);
-    const QString failed = made.open(QIODevice::ReadOnly) ? saveBytes(*chosen, made.readAll()) : made.errorString();
-    if (failed.isEmpty()) return;
-    QMessageBox::warning(parent, {},
-                         QObject::tr("%1 can't be written: %2").arg(QString::fromStdString(*chosen), failed));
+    try {
+        if (!made.open(QIODevice::ReadOnly)) throw OutputError(made.errorString().toStdString());
+        saveBytes(*chosen, made.readAll());
+    } catch (const OutputError& error) {
+        QMessageBox::warning(parent, {},
+                             QObject::tr("%1 can't be written: %2")
+                                 .arg(QString::fromStdString(*chosen), QString::fromStdString(error.what())));
+    }
 }
 
 /// False when the desktop knows no program for workbooks. A desktop that can't be asked counts as one that has.
@@ -150,8 +165,10 @@ std::string printReport(Session& session, int scope, bool withNotes, const Servi
     layout->addStretch();
     dialog.setOptionTabs({&chapters});
     if (dialog.exec() != QDialog::Accepted) return {};
-    if (const QString failed = send(printer, session, reportScope, notes.isChecked()); !failed.isEmpty()) {
-        services.messages.show(failed.toStdString());
+    try {
+        send(printer, session, reportScope, notes.isChecked());
+    } catch (const OutputError& error) {
+        services.messages.show(error.what());
         return {};
     }
     return printer.outputFileName().toStdString();
@@ -166,8 +183,11 @@ std::string previewReport(Session& session, int scope, bool withNotes, const Ser
     dialog.setWindowTitle(QObject::tr("Print preview"));
     if (parent != nullptr) dialog.resize(parent->window()->size());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
-        if (const QString failed = send(*target, session, reportScope, withNotes); !failed.isEmpty())
-            services.messages.show(failed.toStdString());
+        try {
+            send(*target, session, reportScope, withNotes);
+        } catch (const OutputError& error) {
+            services.messages.show(error.what());
+        }
     });
     dialog.exec();
     return {};
@@ -178,12 +198,17 @@ std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const S
     const auto reportScope = static_cast<ReportScope>(scope);
     const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
     if (!file) return {};
-    const QString failed = savePdf(
-        *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); },
-        defaultPageLayout(), propertiesOf(session));
-    if (failed.isEmpty()) return *file;
-    services.messages.show(*file + ": " + failed.toStdString());
-    return {};
+    try {
+        naming(*file, [&] {
+            savePdf(
+                *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); },
+                defaultPageLayout(), propertiesOf(session));
+        });
+    } catch (const OutputError& error) {
+        services.messages.show(error.what());
+        return {};
+    }
+    return *file;
 }
 
 void exportTable(const ResultTable& table, QWidget* parent) {
@@ -195,8 +220,10 @@ void exportTable(const ResultTable& table, QWidget* parent) {
         return;
     }
     const QString file = folder.filePath("Results.xlsx");
-    if (const std::string failed = saveSpreadsheet(file.toStdString(), table, "Results"); !failed.empty()) {
-        show(QObject::tr("The workbook can't be written: %1").arg(QString::fromStdString(failed)));
+    try {
+        saveSpreadsheet(file.toStdString(), table, "Results");
+    } catch (const OutputError& error) {
+        show(QObject::tr("The workbook can't be written: %1").arg(QString::fromStdString(error.what())));
         return;
     }
     if (hasSpreadsheetProgram() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {

@@ -55,9 +55,9 @@ QImage renderPicture(const PictureDrawing& drawing, QSize pixels) {
     return image;
 }
 
-QString savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title) {
+void savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title) {
     const bool svg = QByteArray::fromStdString(fileName).toLower().endsWith(".svg");
-    return saveBytes(fileName, svg ? asSvg(drawing, pixels, title) : asPng(drawing, pixels));
+    saveBytes(fileName, svg ? asSvg(drawing, pixels, title) : asPng(drawing, pixels));
 }
 
 }  // namespace borvik

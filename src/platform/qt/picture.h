@@ -18,8 +18,7 @@ using PictureDrawing = std::function<void(DrawingSurface&)>;
 
 /// Saves a picture as SVG where the file name ends in ".svg", as
 /// PNG otherwise. The old file stays until the new one is whole.
-/// @return an empty text, or what went wrong
-[[nodiscard]] QString savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels,
-                                  const QString& title);
+/// @throws OutputError  the file is then as it was
+void savePicture(const std::string& fileName, const PictureDrawing& drawing, QSize pixels, const QString& title);
 
 }  // namespace borvik

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "base/whole_file.h"
 #include "platform/qt/saved_bytes.h"
 
 #if __has_include(<pwd.h>)
@@ -118,10 +119,11 @@ QByteArray renderPdf(const PrintedDocument& document, const QPageLayout& layout,
     return withAuthor(bytes, plain(properties.author));
 }
 
-QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
-                const DocumentProperties& properties) {
+void savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
+             const DocumentProperties& properties) {
     const QByteArray bytes = renderPdf(document, layout, properties);
-    return bytes.isEmpty() ? QStringLiteral("The pages cannot be drawn") : saveBytes(fileName, bytes);
+    if (bytes.isEmpty()) throw OutputError("The pages cannot be drawn");
+    saveBytes(fileName, bytes);
 }
 
 }  // namespace borvik

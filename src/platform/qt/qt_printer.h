@@ -56,8 +56,8 @@ struct DocumentProperties {
                                    const DocumentProperties& properties);
 
 /// Saves a document as PDF. The old file stays until the new one is whole.
-/// @return an empty text, or what went wrong
-[[nodiscard]] QString savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
-                              const DocumentProperties& properties);
+/// @throws OutputError  the file is then as it was
+void savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,
+             const DocumentProperties& properties);
 
 }  // namespace borvik

@@ -6,13 +6,12 @@
 
 namespace borvik {
 
-QString saveBytes(const std::string& fileName, const QByteArray& bytes) {
+void saveBytes(const std::string& fileName, const QByteArray& bytes) {
     try {
         replaceFile(fileName, bytes.toStdString());
     } catch (const std::system_error& error) {
-        return QString::fromStdString(reasonOf(error));
+        throw OutputError(reasonOf(error));
     }
-    return {};
 }
 
 }  // namespace borvik
