@@ -41,6 +41,8 @@ public:
     [[nodiscard]] WalkPosition position() const { return cranes_->position(); }
     /// The result that is looked at; not known where the cranes were only driven.
     [[nodiscard]] const CraneStand& stand() const { return stands_[shown_]; }
+    /// Both positions of it, where it is a stress range.
+    [[nodiscard]] const std::array<CraneStand, 2>& stands() const { return stands_; }
     /// True where the cranes stand at the position of that result.
     [[nodiscard]] bool isThere() const {
         return stand().isKnown() && walk_ == stand().walk && position() == stand().at;

@@ -351,13 +351,35 @@ void addReactions(DiagramCanvas& canvas, const SketchKind& kind, double base, co
         label.anchor = {canvas.supportX(support), base};
         label.left = place.left;
         label.right = place.right;
-        label.spots = spotsInRow(kind.cranesAbove, kReactionRow);
+        label.spots = spotsInRow(kind.cranesAbove, kBelowSupports);  // between the span lengths, or under them
+        const std::vector<Spot> lower = spotsInRow(kind.cranesAbove, kReactionRow);
+        label.spots.insert(label.spots.end(), lower.begin(), lower.end());
         label.rank = kReactionRank + std::abs(reaction);
         label.inList = "Support " + std::to_string(support) + ": " + label.forms[0][0];
         label.colour = kMomentary;
         label.withLeader = false;
         canvas.labels.add(std::move(label));
     }
+}
+
+/// What stays in place under the cranes and is drawn with the beam: span lengths in the middle of their spans, and the
+/// legend at the foot.
+void keepOffStillTexts(DiagramCanvas& canvas, const SketchKind& kind, double base) {
+    const DrawingSurface& surface = canvas.surface;
+    const Em em = emOf(surface);
+    const DistinctSections sections(canvas.project);
+    const double away = kind.cranesAbove ? kBelowSupports * em.y : -(kBelowSupports + 1.2) * em.y;
+    for (int span = 1; span <= canvas.project.NofSpans; ++span) {
+        const double middle = canvas.x(span, 0.5 * canvas.project.Span(span));
+        const double half = 0.5 * surface.textWidth("(00) " + std::to_string(canvas.project.Span(span)));
+        canvas.labels.keepClear({middle - half, base + away, middle + half, base + away + 1.2 * em.y});
+    }
+    double width = 0.0;
+    for (const std::string& entry : legendOf(canvas, sections)) width += surface.textWidth(entry + "     ");
+    const Box& frame = canvas.labels.frame();
+    const double lines = std::ceil(width / kDiagramWidth);
+    canvas.labels.keepClear(
+        {canvas.X0, frame.bottom - 2.0 - lines * em.y, canvas.X0 + std::min(width, kDiagramWidth), frame.bottom});
 }
 
 /// What moves with the cranes: they themselves, where they stand in words, and the reactions.
@@ -371,6 +393,7 @@ void drawDriven(DiagramCanvas& canvas, const SketchKind& kind, const CraneDrive&
     surface.text({frame.right - surface.textWidth(text), frame.top + 1.0}, text);
     canvas.labels.keepClear({frame.left, frame.top, frame.right, frame.top + 1.0 + surface.textHeight()});
     canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
+    keepOffStillTexts(canvas, kind, base);
     const double legend = frame.bottom - 1.5 * surface.textHeight();
     drawCranes(canvas, kind, base, legend, drivenGeometry(canvas.project, drive).wheels, true);
     addReactions(canvas, kind, base, drive);

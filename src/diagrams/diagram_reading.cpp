@@ -76,6 +76,70 @@ std::optional<DiagramReading> readPicture(std::span<const Diagram> diagrams, con
     return reading;
 }
 
+std::array<CraneStand, 2> standsAt(std::span<const Diagram> diagrams, const DiagramData& data, Place place,
+                                   BeamPart part) {
+    constexpr double kReach = 16.0;       // units around an extreme, which its text begins in
+    constexpr double kTextHeight = 12.0;  // units, of the row of reactions
+    std::vector<double> starts{0.0};
+    for (int span = 1; span <= data.project.NofSpans; ++span) starts.push_back(starts.back() + data.project.Span(span));
+    if (part.isWhole()) part = {0.0, starts.back()};
+    const auto xOf = [&](double position) {
+        return kBeamStart + (position - part.from) / (part.to - part.from) * kBeamLength;
+    };
+    std::array<CraneStand, 2> found{};
+    double nearest = kReach;
+    const auto offer = [&](double away, const std::array<CraneStand, 2>& stands) {
+        if (away >= nearest || !stands[0].isKnown()) return;
+        nearest = away;
+        found = stands;
+    };
+    double top = 0.0;
+    for (const Diagram diagram : diagrams) {
+        const DiagramKind& kind = diagramKind(diagram);
+        const double origin = top - diagramArea(diagram, DiagramMode::Screen).top;
+        const std::vector<Panel> panels = diagramPanels(kind, data);
+        for (std::size_t i = 0; i < panels.size(); ++i) {
+            const double largest = largestOf(panels[i], data.project);
+            for (const PeakLabel& peak : panels[i].peaks) {
+                const double below = peak.inRow ? kAmplitude : offsetOf(panels[i], peak.value, largest);
+                const double x = xOf(starts[static_cast<std::size_t>(peak.span - 1)] + peak.position);
+                offer(std::hypot(place.x - x, place.y - origin - kind.screen.bases[i] - below), peak.stands);
+            }
+        }
+        const SupportTexts texts = supportTexts(kind, data);
+        const double row = place.y - origin - kind.screen.supportRow;
+        for (std::size_t i = 0; i < texts.size() && row >= 0.0 && row < kTextHeight; ++i)
+            offer(std::abs(place.x - xOf(starts[i])) / 2.0, {texts[i].stand});
+        top += diagramHeight(diagram, DiagramMode::Screen);
+    }
+    return found;
+}
+
+const char* pictureOf(const CraneStand& stand) {
+    const bool second = stand.walk == WalkOf::FatigueCrane2;
+    switch (stand.effect) {
+        case Effect::My:
+        case Effect::Vz:
+            return "MyVz";
+        case Effect::Mz:
+        case Effect::Vy:
+        case Effect::Ry:
+            return "MzVy";
+        case Effect::Rz:
+            return stand.walk == WalkOf::Uls ? "MyVz" : "CrRz";
+        case Effect::Uz:
+        case Effect::Uy:
+            return "Uz";
+        case Effect::TopFlange:
+            return second ? "Cr2Sp1" : "Cr1Sp1";
+        case Effect::BottomFlange:
+            return second ? "Cr2Sp2" : "Cr1Sp2";
+        case Effect::Web:
+            return second ? "Cr2Sp3" : "Cr1Sp3";
+    }
+    return "MyVz";
+}
+
 std::vector<double> readingStops(const Project& project, bool supportsOnly, BeamPart part) {
     constexpr int kParts = 20;
     double total = 0.0, start = 0.0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -36,6 +37,13 @@ struct DiagramReading {
 /// @return nothing left and right of the beam, or without results
 [[nodiscard]] std::optional<DiagramReading> readPicture(std::span<const Diagram> diagrams, const DiagramData& data,
                                                         Place place, double reach = 0.0, BeamPart part = {});
+
+/// The positions of the cranes behind the extreme that stands at a logical place of a picture, or behind the reactions
+/// written there; not known where there is none.
+[[nodiscard]] std::array<CraneStand, 2> standsAt(std::span<const Diagram> diagrams, const DiagramData& data,
+                                                 Place place, BeamPart part = {});
+/// The picture, by its name for pictureDiagrams, that shows what a position of the cranes makes extreme.
+[[nodiscard]] const char* pictureOf(const CraneStand& stand);
 
 /// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each
 /// span. Those outside the part that is shown lie outside the picture.

@@ -10,6 +10,7 @@ namespace borvik {
 namespace {
 
 constexpr double kDot = 3.0;           // units, radius
+constexpr double kTouchingDot = 5.0;
 constexpr double kTouching = 1e-6;     // of the largest value
 constexpr double kOnLargest = 0.9999;  // a share; of two that are nearly equal the first is taken
 
@@ -36,12 +37,13 @@ Point pointOf(const CraneDrive& drive, const SpanValues& values) {
     return largest;
 }
 
-void drawDot(DiagramCanvas& canvas, Place place, bool filled) {
+/// Of a value a ring; where the line touches an extreme a large disc.
+void drawDot(DiagramCanvas& canvas, Place place, bool touching) {
     DrawingSurface& surface = canvas.surface;
     surface.setColour(kMomentary);
     surface.setPenWidth(canvas.penWidth(1));
-    surface.setFill(filled ? kMomentary : colours::white);
-    surface.circle(place, canvas.mode == DiagramMode::Screen ? kDot : 0.5 * kDot);
+    surface.setFill(touching ? kMomentary : colours::white);
+    surface.circle(place, (touching ? kTouchingDot : kDot) * (canvas.mode == DiagramMode::Screen ? 1.0 : 0.5));
     surface.setFill(std::nullopt);
 }
 

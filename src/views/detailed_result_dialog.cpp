@@ -54,6 +54,11 @@ DetailedResultDialog::DetailedResultDialog(CalculationPtr calculation, QWidget* 
     layout->addWidget(splitter, 1);
     layout->addLayout(buttons);
     connect(tree_, &ResultTreeView::nodeChosen, this, &DetailedResultDialog::showNode);
+    connect(pane_->list(), &ResultTableView::cellChosen, this,
+            [this](int row, int column) { Q_EMIT standsChosen(standsOf(pane_->list()->table(), row, column)); });
+    connect(pane_->list(), &ResultTableView::rowChosen, this, [this](int row) {
+        if (standsOf(pane_->list()->table(), row, 0)[0].isKnown()) accept();  // the picture behind shows it
+    });
 
     // Wide enough for the widest table, where the screen is.
     constexpr int kTreeWidth = 220, kMargins = 40;

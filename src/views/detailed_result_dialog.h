@@ -16,6 +16,10 @@ class DetailedResultDialog : public QDialog {
 public:
     DetailedResultDialog(CalculationPtr calculation, QWidget* parent);
 
+Q_SIGNALS:
+    /// A cell has been chosen: where the cranes stand for it.
+    void standsChosen(const std::array<CraneStand, 2>& stands);
+
 private:
     void showNode(const TreeNode& node);
     [[nodiscard]] int widestTable(const TreeNode& node) const;

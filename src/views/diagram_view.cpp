@@ -53,8 +53,15 @@ void DiagramView::clear() {
     diagrams_.clear();
     project_ = nullptr;
     calculation_.reset();
+    drive_.reset();
     outOfDate_ = false;
     contentChanged();
+}
+
+void DiagramView::showDrive(std::shared_ptr<const CraneDrive> drive) {
+    if ((drive != nullptr) != (drive_ != nullptr)) drawn_ = {};
+    drive_ = std::move(drive);
+    update();
 }
 
 void DiagramView::setOutOfDate(bool outOfDate) {
@@ -123,8 +130,20 @@ double DiagramView::textScale() const {
     return std::max(1.0, QApplication::font().pointSizeF() / kDiagramPoints);
 }
 
-void DiagramView::draw(DrawingSurface& surface) const {
-    drawPicture(surface, diagrams_, {*project_, calculation_ ? &calculation_->results : nullptr}, part_);
+void DiagramView::draw(DrawingSurface& surface, std::span<const Diagram> diagrams, DiagramLayer layer) const {
+    const Results* results = calculation_ ? &calculation_->results : nullptr;
+    drawPicture(surface, diagrams, {*project_, results, drive_.get()}, part_, layer);
+}
+
+/// What a saved picture shows: above diagrams with driven cranes also where these stand.
+std::vector<Diagram> DiagramView::savedDiagrams() const {
+    std::vector<Diagram> diagrams = diagrams_;
+    if (drive_ && diagrams.front() != Diagram::Sketch) diagrams.insert(diagrams.begin(), Diagram::Sketch);
+    return diagrams;
+}
+
+QSize DiagramView::savedSize() const {
+    return {kSavedSize.width(), kSavedSize.height() * static_cast<int>(savedDiagrams().size())};
 }
 
 /// The words that results are out of date, in a box in the middle of the picture.
@@ -141,7 +160,7 @@ void DiagramView::drawNotice(DrawingSurface& surface) const {
 }
 
 void DiagramView::drawSaved(DrawingSurface& surface) const {
-    draw(surface);
+    draw(surface, savedDiagrams(), DiagramLayer::All);
     if (outOfDate_) drawNotice(surface);
 }
 
@@ -163,7 +182,7 @@ void DiagramView::paintEvent(QPaintEvent*) {
         onto.setRenderHint(QPainter::Antialiasing);
         try {
             QtSurface surface(onto, QRectF(rect()), textScale(), ground);
-            draw(surface);
+            draw(surface, diagrams_, DiagramLayer::Still);
         } catch (const RuntimeFault& fault) {
             onto.setPen(ground.ink);
             onto.drawText(rect().adjusted(8, 8, -8, -8), Qt::TextWordWrap, QString::fromUtf8(fault.what()));
@@ -175,6 +194,13 @@ void DiagramView::paintEvent(QPaintEvent*) {
     }
     painter.drawPixmap(0, 0, drawn_);
     painter.setOpacity(1.0);
+    if (drive_ && !outOfDate_) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        QtSurface surface(painter, QRectF(rect()), textScale(), ground);
+        draw(surface, diagrams_, DiagramLayer::Moving);
+        painter.restore();
+    }
     if (outOfDate_) {
         QtSurface surface(painter, QRectF(rect()), textScale(), ground);
         drawNotice(surface);
@@ -239,7 +265,7 @@ void DiagramView::mouseMoveEvent(QMouseEvent* event) {
         const double from = std::clamp(part_.from + moved, 0.0, beamLength() - shown);
         return showPart({from, from + shown});
     }
-    if (takesClicksAt(event->position())) {
+    if (takesClicksAt(event->position()) || extremeAt(event->position())[0].isKnown()) {
         setCursor(Qt::PointingHandCursor);
     } else {
         unsetCursor();
@@ -377,6 +403,12 @@ bool DiagramView::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+/// Where the cranes stand for the extreme under the pointer.
+std::array<CraneStand, 2> DiagramView::extremeAt(QPointF point) const {
+    if (!calculation_ || outOfDate_) return {};
+    return standsAt(diagrams_, {*project_, &calculation_->results}, toLogical(point), part_);
+}
+
 void DiagramView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     pressedAt_ = event->position();
@@ -386,7 +418,9 @@ void DiagramView::mousePressEvent(QMouseEvent* event) {
 void DiagramView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !pressedAt_) return;
     pressedAt_.reset();
-    if (!dragged_ && takesClicksAt(event->position())) Q_EMIT clicked();
+    if (dragged_) return;
+    if (takesClicksAt(event->position())) Q_EMIT clicked();
+    if (const auto stands = extremeAt(event->position()); stands[0].isKnown()) Q_EMIT extremeChosen(stands);
 }
 
 void DiagramView::mouseDoubleClickEvent(QMouseEvent*) {
@@ -414,8 +448,7 @@ void DiagramView::contextMenuEvent(QContextMenuEvent* event) {
 void DiagramView::copyPicture() const {
     if (diagrams_.empty()) return;
     QApplication::clipboard()->setImage(
-        renderPicture([this](DrawingSurface& surface) { drawSaved(surface); },
-                      {kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size())}));
+        renderPicture([this](DrawingSurface& surface) { drawSaved(surface); }, savedSize()));
 }
 
 void DiagramView::savePictureAs() {
@@ -423,10 +456,9 @@ void DiagramView::savePictureAs() {
     const auto path = services_.questions.fileToSave(std::string(diagramName(diagrams_.front())) + ".png",
                                                      "PNG (*.png);;SVG (*.svg)", "png");
     if (!path) return;
-    const QSize size(kSavedSize.width(), kSavedSize.height() * static_cast<int>(diagrams_.size()));
     try {
         savePicture(
-            *path, [this](DrawingSurface& surface) { drawSaved(surface); }, size, title());
+            *path, [this](DrawingSurface& surface) { drawSaved(surface); }, savedSize(), title());
     } catch (const OutputError& error) {
         services_.messages.show(error.what());
     }

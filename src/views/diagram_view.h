@@ -2,7 +2,10 @@
 
 #include <QPixmap>
 #include <QWidget>
+#include <array>
+#include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "diagrams/diagrams.h"
@@ -26,6 +29,9 @@ public:
     /// Diagrams of a calculation.
     void showResults(std::vector<Diagram> diagrams, CalculationPtr calculation);
     void clear();
+    /// Shows the cranes where they stand, and again wherever they are moved to; null: no more. Only they and what
+    /// follows them is drawn anew then.
+    void showDrive(std::shared_ptr<const CraneDrive> drive);
     /// Results that the input has left behind say so across the picture, saved pictures too.
     void setOutOfDate(bool outOfDate);
 
@@ -56,6 +62,8 @@ public:
 Q_SIGNALS:
     /// A click in the area for it, or Enter.
     void clicked();
+    /// A click on an extreme: where the cranes stand for it.
+    void extremeChosen(const std::array<CraneStand, 2>& stands);
     /// What stands under the mouse or was reached by the keys; empty where nothing does.
     void readingChanged(const QString& text);
     /// Another part of the beam is shown.
@@ -86,7 +94,10 @@ private:
     void stopReading();
     bool walk(int key, bool bySupports);
     [[nodiscard]] bool takesClicksAt(QPointF point) const;
-    void draw(DrawingSurface& surface) const;
+    [[nodiscard]] std::array<CraneStand, 2> extremeAt(QPointF point) const;
+    void draw(DrawingSurface& surface, std::span<const Diagram> diagrams, DiagramLayer layer) const;
+    [[nodiscard]] std::vector<Diagram> savedDiagrams() const;
+    [[nodiscard]] QSize savedSize() const;
     void drawNotice(DrawingSurface& surface) const;
     void drawSaved(DrawingSurface& surface) const;
     void drawReading(QPainter& painter) const;
@@ -97,6 +108,7 @@ private:
     std::vector<Diagram> diagrams_;
     const Project* project_ = nullptr;
     CalculationPtr calculation_;
+    std::shared_ptr<const CraneDrive> drive_;  ///< null where the cranes are not driven
     bool outOfDate_ = false;
     QPixmap drawn_;  ///< the picture without the read-out; null when it has to be drawn anew
     BeamPart part_;

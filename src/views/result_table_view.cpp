@@ -48,6 +48,9 @@ ResultTableView::ResultTableView(QWidget* parent) : QTableView(parent), model_(t
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionsMovable(false);
     buildFirstColumn();
+    for (const QTableView* part : {static_cast<const QTableView*>(this), static_cast<const QTableView*>(firstColumn_)})
+        connect(part, &QTableView::clicked, this,
+                [this](const QModelIndex& cell) { Q_EMIT cellChosen(cell.row(), cell.column()); });
     connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) { Q_EMIT rowChosen(cell.row()); });
 }
 
@@ -260,7 +263,10 @@ void ResultTableView::keyPressEvent(QKeyEvent* event) {
         Q_EMIT rowChosen(currentIndex().row());
         return;
     }
+    const QModelIndex before = currentIndex();
     QTableView::keyPressEvent(event);
+    if (currentIndex().isValid() && currentIndex() != before)
+        Q_EMIT cellChosen(currentIndex().row(), currentIndex().column());
 }
 
 void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {

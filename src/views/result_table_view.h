@@ -37,6 +37,8 @@ Q_SIGNALS:
     /// A double click on a row, or Enter on it. Counts from 0.
     void rowChosen(int row);
     void currentRowChanged(int row);
+    /// The user has gone to a cell, by mouse or keys.
+    void cellChosen(int row, int column);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

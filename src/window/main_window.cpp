@@ -180,18 +180,30 @@ QWidget* MainWindow::pictureFrame() {
     scrolled->setWidget(picRes_);
     auto* pictures = new QSplitter(Qt::Vertical);
     pictures->setObjectName("splitterPictures");
-    pictures->addWidget(picBalk_);
+    driveBar_ = new DriveBar;
+    connect(driveBar_, &DriveBar::moved, this, &MainWindow::driveTo);
+    connect(driveBar_, &DriveBar::backWanted, this, &MainWindow::backToGoverning);
+    connect(driveBar_, &DriveBar::endWanted, this, &MainWindow::stopDriving);
+    connect(picRes_, &DiagramView::extremeChosen, this, &MainWindow::showStands);
+    auto* sketch = new QWidget;
+    auto* underSketch = new QVBoxLayout(sketch);
+    underSketch->setContentsMargins(0, 0, 0, 0);
+    underSketch->setSpacing(0);
+    underSketch->addWidget(picBalk_, 1);
+    underSketch->addWidget(driveBar_);
+    pictures->addWidget(sketch);
     pictures->addWidget(scrolled);
     pictures->setStretchFactor(0, 2);
     pictures->setStretchFactor(1, 3);
     pictures->setChildrenCollapsible(false);
-    pictures->setSizes({140, 260});
+    pictures->setSizes({166, 260});
     return frameAround(pictures, "Beamdata and Results");
 }
 
 QWidget* MainWindow::resultFrame() {
     results_ = new ResultTablePane("lstViewDetailed");
     connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::goToCheckOf);
+    connect(results_->list(), &ResultTableView::cellChosen, this, &MainWindow::showStandsOfCell);
     QGroupBox* frame = frameAround(results_, "Results");
     frame->setObjectName("frmResults");
     return frame;
@@ -271,6 +283,8 @@ void MainWindow::showState() {
     cmdCalc_->setEnabled(!current);
     tree_->setResultsReachable(current);
     picRes_->setOutOfDate(!current && !looking);
+    driveBar_->setEnabled(current && drive_ != nullptr);
+    if (!current && !looking) stopDriving();
     results_->setOutOfDate(!current && !looking);
     stateUnsaved_->setText(!hasUnsavedChanges()     ? QString()
                            : copyTrouble_.isEmpty() ? tr("Unsaved changes")

@@ -18,6 +18,7 @@
 #include "project/project_history.h"
 #include "views/calculation_record.h"
 #include "views/diagram_view.h"
+#include "views/drive_bar.h"
 #include "views/printing.h"
 #include "views/result_table_view.h"
 #include "views/result_tree_view.h"
@@ -32,8 +33,8 @@ namespace borvik {
 inline constexpr const char* kExamplesPath = "examples";
 
 /// frmBorvik: the main window and the hub of all work. Commands are in main_window_projects.cpp (files),
-/// main_window_forms.cpp (input), main_window_calculation.cpp and main_window_results.cpp (what it shows), undo and
-/// recovery in main_window_history.cpp; menus are made in main_window_menus.cpp.
+/// main_window_forms.cpp (input), main_window_calculation.cpp, main_window_results.cpp and main_window_drive.cpp (what
+/// it shows), undo and recovery in main_window_history.cpp; menus are made in main_window_menus.cpp.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -152,6 +153,15 @@ private:
     void ShowTreeViewResults();
     void print(int scope, PrintCommand command);
 
+    // The cranes on the beam
+    void takeDrive();
+    void showStands(const std::array<CraneStand, 2>& stands);
+    void showStandsOfCell(int row, int column);
+    void showDrive();
+    void driveTo(int j, int k);
+    void backToGoverning();
+    void stopDriving();
+
     void showState();
     void showRanges();
     void showGoverning();
@@ -163,6 +173,8 @@ private:
     RecoveryCopies recovery_;
     QString copyTrouble_;  ///< why no copy of the unsaved changes is kept; empty where one is
     CalculationPtr calculation_;
+    std::shared_ptr<CraneDrive> drive_;  ///< of that calculation
+    bool driving_ = false;               ///< the pictures show where the cranes stand
     const InputDialog* form_ = nullptr;  ///< the one that is open
     bool splicesDropped_ = false;        ///< by the input check, since the last edit
     std::string loadFaultShown_;         ///< so that it is shown once
@@ -175,6 +187,7 @@ private:
     ResultTreeView* tree_ = nullptr;
     DiagramView* picBalk_ = nullptr;
     DiagramView* picRes_ = nullptr;
+    DriveBar* driveBar_ = nullptr;
     bool sketchChosen_ = false;  ///< picBalk has the focus, or had it before a menu took it
     QString chosenNode_;         ///< the tree's node of what was chosen last to be seen
     ResultTablePane* results_ = nullptr;

@@ -80,6 +80,7 @@ void MainWindow::showCalculation() {
         calculation_ = std::make_shared<const CalculationRecord>(
             CalculationRecord{session_.project, *session_.results, session_.notes});
     }
+    takeDrive();
     ShowTreeViewResults();
     showState();
     picBalk_->showSketch(session_.project);

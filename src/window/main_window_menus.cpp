@@ -167,9 +167,25 @@ void MainWindow::buildDiagramMenu() {
           }},
          {"mnuZoomIn", "Zoom &in", QKeySequence(Qt::CTRL | Qt::Key_Plus), {}, [this] { chosenPicture().zoom(1.25); }},
          {"mnuZoomOut", "Zoom &out", QKeySequence(Qt::CTRL | Qt::Key_Minus), {}, [this] { chosenPicture().zoom(0.8); }},
-         {"mnuWholeBeam", "&Whole beam", QKeySequence(Qt::CTRL | Qt::Key_0), {}, [this] {
-              chosenPicture().showWholeBeam();
-          }}});
+         {"mnuWholeBeam",
+          "&Whole beam",
+          QKeySequence(Qt::CTRL | Qt::Key_0),
+          {},
+          [this] { chosenPicture().showWholeBeam(); }},
+         {"mnuDrive",
+          "&Drive the cranes",
+          QKeySequence(Qt::CTRL | Qt::Key_D),
+          {},
+          [this] {
+              if (!driving_) backToGoverning();
+              driveBar_->takeFocus();
+          }},
+         {"mnuGoverning",
+          "Back to the &governing position",
+          QKeySequence(Qt::CTRL | Qt::Key_G),
+          {},
+          [this] { backToGoverning(); }},
+         {"mnuDriveEnd", "&End driving", {}, {}, [this] { stopDriving(); }}});
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
         const bool inMenu = now == menuBar() || qobject_cast<const QMenu*>(now) != nullptr;
         if (now != nullptr && !inMenu) sketchChosen_ = now == picBalk_;

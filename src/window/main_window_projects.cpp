@@ -136,6 +136,8 @@ void MainWindow::projectReplaced(const std::string& step) {
 /// Another project stands in the window, as it will be saved.
 void MainWindow::projectShown() {
     session_.inputChanged();
+    stopDriving();
+    drive_.reset();
     calculation_.reset();
     loadFaultShown_.clear();
     splicesDropped_ = false;

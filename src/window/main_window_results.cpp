@@ -47,13 +47,17 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
             break;
         case NodeOpens::Picture:
             picRes_->showResults(pictureDiagrams(node.name, calculation_->project), calculation_);
+            if (driving_) showDrive();
             break;
         case NodeOpens::Notes:
             showNotes();
             break;
-        case NodeOpens::DetailedResults:
-            DetailedResultDialog(calculation_, this).exec();
+        case NodeOpens::DetailedResults: {
+            DetailedResultDialog dialog(calculation_, this);
+            connect(&dialog, &DetailedResultDialog::standsChosen, this, &MainWindow::showStands);
+            dialog.exec();
             break;
+        }
         case NodeOpens::InputForm:
         case NodeOpens::Nothing:
             break;
@@ -83,7 +87,9 @@ void MainWindow::goToCheckOf(int note) {
     const bool ofSummary = std::string_view(table) == "SummaryAll";
     tree_->setCurrentItem(tree_->itemOf(ofSummary ? "ULS + SLS + FLS" : "Detailed Results"));
     showTable(table);
-    if (row >= 0) results_->list()->selectRow(row);
+    if (row < 0) return;
+    results_->list()->selectRow(row);
+    showStandsOfCell(row, 0);
 }
 
 void MainWindow::showGoverning() {

@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
@@ -403,6 +404,67 @@ TEST(Pictures, areSavedAsPngAndSvg) {
     EXPECT_FALSE(QImage(QString::fromStdString(folder.file("a.png"))).isNull());
     EXPECT_NE(testing_support::bytesOf(folder.file("a.svg")).find("Beam Data"), std::string::npos);
     EXPECT_EQ(messages.texts.size(), 1U);
+}
+
+TEST_F(ResultsTest, theCranesGoWhereAResultIsReachedAndAreDrivenFromThere) {
+    openExample("assembly-hall-two-cranes.brvk");
+    calculate();
+    auto& crane1 = control<QSlider>("driveCrane1");
+    auto& crane2 = control<QSlider>("driveCrane2");
+    const auto stand = [&](WalkPosition at) { return crane1.value() == at.j && crane2.value() == at.j + at.k; };
+    const auto chooseRow = [&](const char* formula) {
+        const auto& rows = list().table().rows;
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            if (rows[row][0].text.rfind(formula, 0) == 0) {
+                list().selectRow(static_cast<int>(row));
+                QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                                  list().visualRect(list().currentIndex()).center());
+                return;
+            }
+        FAIL() << formula;
+    };
+    const auto copiedHeight = [&] {
+        picRes().copyPicture();
+        return QApplication::clipboard()->image().height();
+    };
+    const int undriven = copiedHeight();
+    const CheckResults& checks = session.results->Checks;
+    chooseRow("IR = dz");
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("Uz", project()));
+    EXPECT_TRUE(stand(checks["DefZ"].governing.Stands[0].at));
+    chooseRow("IR = [My");
+    const WalkPosition bending = checks["Bend"].governing.Stands[0].at;
+    EXPECT_EQ(picRes().diagrams(), pictureDiagrams("MyVz", project()));
+    EXPECT_TRUE(stand(bending));
+    EXPECT_EQ(copiedHeight(), 2 * undriven) << "the sketch with the cranes stands above";
+
+    QTest::keyClick(&crane1, Qt::Key_Right);
+    QTest::keyClick(&crane1, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(&crane1, Qt::Key_Left);
+    EXPECT_EQ(crane1.value(), bending.j + 10);
+    crane2.setValue(0);
+    EXPECT_EQ(crane1.value(), 0) << "crane 2 stands right of crane 1";
+    QTest::keyClick(&crane1, Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return crane1.value() >= 3; }, 2000));
+    QTest::keyClick(&crane1, Qt::Key_Space);
+    const int stopped = crane1.value();
+    QTest::qWait(60);
+    EXPECT_EQ(crane1.value(), stopped);
+    QTest::keyClick(&crane1, Qt::Key_Backspace);
+    EXPECT_TRUE(stand(bending));
+
+    crane1.setValue(30);
+    const double total = project().BeamLength;
+    const UlsResults& uls = session.results->Uls;
+    const Place peak{50.0 + 900.0 * uls.MyMaxSpan(1, UlsResults::kPlaceSlot) / total, 76.0 + 40.0};
+    const Place pixel = pictureFrame(picRes().diagrams()).pointOf(peak, picRes().width(), picRes().height());
+    QTest::mouseClick(&picRes(), Qt::LeftButton, {}, QPointF(pixel.x, pixel.y).toPoint());
+    EXPECT_TRUE(stand(uls.At.MyMax(1, kWholeSpan)));
+
+    QTest::keyClick(&crane1, Qt::Key_Escape);
+    EXPECT_EQ(copiedHeight(), undriven);
+    window.projectChanged("Loads");
+    EXPECT_FALSE(crane1.isEnabled()) << "the results are out of date";
 }
 
 TEST_F(ResultsTest, theMouseReadsThePointThatIsDrawnUnderIt) {
