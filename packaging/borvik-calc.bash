@@ -18,7 +18,7 @@ _borvik_calc() {
         *)
             if [[ $current == -* ]]; then
                 mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --default --diagram --fail-above --from-json --help --json --notes --png --quiet --report
-                    --save --scope --summary --table --tables --version --walk --with-notes --xlsx" -- "$current")
+                    --save --scope --summary --table --tables --version --walk --with-notes --with-positions --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
             fi

@@ -51,7 +51,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     if (file)
         if (const int code = load(session, *file, !options.fromJson.empty(), console); code != kDone) return code;
     Calculate(session, console, console, options.walk);
-    if (session.Calculated && (options.notes || options.withNotes)) makeNotes(session);
+    if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
     int exitCode = outcome(session, options);
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.

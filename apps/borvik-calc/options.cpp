@@ -81,7 +81,10 @@ void addOptions(CLI::App& app, Options& options) {
             ->transform(CLI::Transformer(scopes))
             ->option_text("uls|uls-sls|all|compressed (default: all)")
             ->needs(report);
-        app.add_flag("--with-notes", options.withNotes, "The report ends with the notes for the checking engineer")
+        app.add_flag("--with-positions", options.extras.positions,
+                     "The report shows where the cranes stand for each governing check")
+            ->needs(report);
+        app.add_flag("--with-notes", options.extras.notes, "The report ends with the notes for the checking engineer")
             ->needs(report);
         CLI::Option* picture = app.add_option("--png", options.picture, "File of the diagram; .svg makes an SVG of it");
         picture->type_name("FILE");

@@ -27,7 +27,7 @@ struct Options {
     std::string xlsx;                      ///< spreadsheet file that takes the table instead; empty: none
     std::string report;                    ///< PDF file of the report; empty: none
     ReportScope scope = ReportScope::All;  ///< of the report
-    bool withNotes = false;                ///< the report has the notes as a last chapter
+    ReportExtras extras;                   ///< chapters of the report that are asked for
     std::string save;                      ///< project file to write; empty: none
     std::optional<double> failAbove;
     std::string craneLoads;  ///< file of crane data whose loads are printed, instead of projects; empty: none

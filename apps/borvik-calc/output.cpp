@@ -48,7 +48,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
     if (!options_.report.empty())
         attempt([&] {
             if (canReport(run.session))
-                saveReport(run.session, options_.scope, options_.withNotes, options_.report);
+                saveReport(run.session, options_.scope, options_.extras, options_.report);
             else
                 remarks.push_back("no report without results");
         });

@@ -16,14 +16,14 @@ namespace borvik {
 
 #ifdef BORVIK_PICTURES
 
-void saveReport(const Session& session, ReportScope scope, bool withNotes, const std::string& file) {
+void saveReport(const Session& session, ReportScope scope, ReportExtras extras, const std::string& file) {
     needApplication();
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
     naming(file, [&] {
         savePdf(
-            file, [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), withNotes); },
+            file, [&](Printer& printer) { PrintReport(printer, session, scope, reportTime(local), extras); },
             defaultPageLayout(),
             {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)});
     });
@@ -31,7 +31,7 @@ void saveReport(const Session& session, ReportScope scope, bool withNotes, const
 
 #else
 
-void saveReport(const Session&, ReportScope, bool, const std::string&) {
+void saveReport(const Session&, ReportScope, ReportExtras, const std::string&) {
     throw OutputError("this program was built without printing");
 }
 

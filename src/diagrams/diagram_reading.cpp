@@ -115,29 +115,38 @@ std::array<CraneStand, 2> standsAt(std::span<const Diagram> diagrams, const Diag
     return found;
 }
 
-const char* pictureOf(const CraneStand& stand) {
+Diagram diagramOf(const CraneStand& stand) {
     const bool second = stand.walk == WalkOf::FatigueCrane2;
     switch (stand.effect) {
         case Effect::My:
         case Effect::Vz:
-            return "MyVz";
+            return Diagram::UlsMyVz;
         case Effect::Mz:
         case Effect::Vy:
         case Effect::Ry:
-            return "MzVy";
+            return Diagram::UlsMzVy;
         case Effect::Rz:
-            return stand.walk == WalkOf::Uls ? "MyVz" : "CrRz";
+            return stand.walk == WalkOf::Uls ? Diagram::UlsMyVz : Diagram::FlsReactions;
         case Effect::Uz:
+            return Diagram::SlsUz;
         case Effect::Uy:
-            return "Uz";
+            return Diagram::SlsUy;
         case Effect::TopFlange:
-            return second ? "Cr2Sp1" : "Cr1Sp1";
+            return second ? Diagram::Cr2Top : Diagram::Cr1Top;
         case Effect::BottomFlange:
-            return second ? "Cr2Sp2" : "Cr1Sp2";
+            return second ? Diagram::Cr2Bottom : Diagram::Cr1Bottom;
         case Effect::Web:
-            return second ? "Cr2Sp3" : "Cr1Sp3";
+            return second ? Diagram::Cr2Shear : Diagram::Cr1Shear;
     }
-    return "MyVz";
+    return Diagram::UlsMyVz;
+}
+
+std::vector<Diagram> pictureOf(const CraneStand& stand, const Project& project) {
+    const Diagram diagram = diagramOf(stand);
+    for (const PictureKind& picture : pictureKinds())
+        if (std::find(picture.diagrams.begin(), picture.diagrams.end(), diagram) != picture.diagrams.end())
+            return pictureDiagrams(picture.name, project);
+    return {diagram};
 }
 
 std::vector<double> readingStops(const Project& project, bool supportsOnly, BeamPart part) {

@@ -42,8 +42,11 @@ struct DiagramReading {
 /// written there; not known where there is none.
 [[nodiscard]] std::array<CraneStand, 2> standsAt(std::span<const Diagram> diagrams, const DiagramData& data,
                                                  Place place, BeamPart part = {});
-/// The picture, by its name for pictureDiagrams, that shows what a position of the cranes makes extreme.
-[[nodiscard]] const char* pictureOf(const CraneStand& stand);
+/// The diagram that has the envelope of what a position of the cranes makes extreme. Both cranes together, as fatigue
+/// takes them, have none of their own: then that of crane 1.
+[[nodiscard]] Diagram diagramOf(const CraneStand& stand);
+/// The diagrams of the picture that it stands in.
+[[nodiscard]] std::vector<Diagram> pictureOf(const CraneStand& stand, const Project& project);
 
 /// Units across of the places that are calculated, from the left: the supports, and between them 19 points in each
 /// span. Those outside the part that is shown lie outside the picture.

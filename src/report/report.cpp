@@ -152,7 +152,8 @@ bool canReport(const Session& session) {
     return session.Calculated && session.results.has_value();
 }
 
-void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when, bool withNotes) {
+void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
+                 ReportExtras extras) {
     ReportPage page(printer, headOf(session, when));
     Report report{page, session.project, session.rail(), *session.results};
     const DiagramData data{session.project, &*session.results};
@@ -160,7 +161,10 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
         PrintFull(report, data);
     else
         PrintPartial(report, data, scope);
-    if (withNotes) PrintNotes(page, *session.notes);
+    if (extras.positions)
+        printPositions(report, scope != ReportScope::Uls,
+                       scope == ReportScope::All || scope == ReportScope::Compressed);
+    if (extras.notes) PrintNotes(page, *session.notes);
 }
 
 ReportTime reportTime(const std::tm& local) {

@@ -16,6 +16,12 @@ enum class ReportScope : int {
     Compressed = 4,  ///< input, a choice of diagrams, the checks, of fatigue the governing rows
 };
 
+/// Chapters that a report has where they are asked for, behind the others, which are the same with and without.
+struct ReportExtras {
+    bool positions = false;  ///< where the cranes stand for each governing check, as pictures
+    bool notes = false;      ///< the notes for the checking engineer
+};
+
 /// When a report is printed; the local date and clock time as they are to be shown.
 struct ReportTime {
     std::string date;
@@ -31,10 +37,9 @@ inline constexpr const char* kCalculateBeforePrint = "  Calculate before print  
 [[nodiscard]] bool canReport(const Session& session);
 
 /// Writes the whole report, from page 1, on paper whose first page is empty.
-/// @param withNotes  the notes for the checking engineer as a last chapter; the others are the same with and without
 /// @pre canReport(session); with notes, those that the session keeps
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
-                 bool withNotes = false);
+                 ReportExtras extras = {});
 
 /// "beam-a-ULS-SLS.pdf": a name for the file of a report, from the project's file or, where it has none, its title.
 [[nodiscard]] std::string reportFileName(const Session& session, ReportScope scope);

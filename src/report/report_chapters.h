@@ -40,6 +40,12 @@ void PrintFlsCrane1(Report& report);
 /// With two cranes: the stress ranges of crane 2 that the rows take in; nothing where crane 2 was not walked by itself.
 void PrintFlsCrane2(Report& report);
 
+/// "Governing positions of the cranes:" on a new page: for each governing check the sketch with the cranes where they
+/// stand then, and the forces, deflections or stresses of that position within their envelopes. Checks of one position
+/// share a picture; one that no position decides has none.
+/// @param withDeflections, withFatigue  those checks too
+void printPositions(Report& report, bool withDeflections, bool withFatigue);
+
 /// "Notes for the checking engineer:" on a new page: the notes in their order, then the assumptions.
 void PrintNotes(ReportPage& page, const Notes& notes);
 

@@ -197,12 +197,27 @@ void ReportPage::ruleAcross(Colour colour) {
     surface().line({ColLeft, PrintY}, {ColRight, PrintY});
 }
 
+namespace {
+
+/// Of a long beam with driven cranes only the strip with the place that they are put there for.
+bool shows(const BeamPart& part, const DiagramData& data) {
+    if (data.drive == nullptr || part.isWhole() || !data.drive->stand().isKnown()) return true;
+    const CraneStand& stand = data.drive->stand();
+    double x = 0.0;
+    for (int span = 1; span < stand.place; ++span) x += data.project.Span(span);
+    if (stand.point > 0) x += data.project.Span(stand.place) * (stand.point - 1) / 20.0;
+    return x >= part.from && (x < part.to || (x <= part.to && part.to >= data.project.BeamLength));
+}
+
+}  // namespace
+
 void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step) {
     const DiagramArea area = diagramArea(diagram, DiagramMode::Paper);
     const double linesPerUnit = LinesPerPage / pageUnits;
     const double unitsPerColumn = (kFrameRight - kFrameLeft) / width();
     std::vector<std::string> missed;
     for (const BeamPart& part : beamParts(data.project)) {
+        if (!shows(part, data)) continue;
         if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));
         surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
                         kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);

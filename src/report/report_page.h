@@ -78,6 +78,7 @@ public:
     /// A diagram as wide as the text, with its origin at PrintY, in a page scale of that many units from top to bottom;
     /// on a new page where it doesn't fit. A long beam takes several strips below each other, and values that found no
     /// room stand in a list under the diagram.
+    /// With driven cranes only the strip of the place that is looked at is drawn.
     /// @param step  part of the page that PrintY goes down
     void diagram(Diagram diagram, const DiagramData& data, double pageUnits, double step);
 

@@ -80,7 +80,7 @@ void naming(const std::string& file, Write write) {
 /// Sends the pages that were asked for, as often as was asked for. Each copy begins with page 1. What goes to a file is
 /// made in memory first and then saved with the same care as every other output.
 /// @throws OutputError  with the name of the file, where there is one
-void send(QPrinter& printer, const Session& session, ReportScope scope, bool withNotes) {
+void send(QPrinter& printer, const Session& session, ReportScope scope, ReportExtras extras) {
     const bool someOnly = printer.printRange() == QPrinter::PageRange;
     const int first = someOnly ? std::max(1, printer.fromPage()) : 1;
     const int last = someOnly ? printer.toPage() : 0;
@@ -92,7 +92,7 @@ void send(QPrinter& printer, const Session& session, ReportScope scope, bool wit
         for (int copy = 1; copy <= copies; ++copy) {
             if (copy > 1) pages.newPage();
             PageRange range(pages, first, last);
-            PrintReport(range, session, scope, when, withNotes);
+            PrintReport(range, session, scope, when, extras);
             hasPages = range.hasPages();
             if (!hasPages) return;
         }
@@ -145,7 +145,7 @@ bool hasSpreadsheetProgram() {
 
 }  // namespace
 
-std::string printReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent) {
+std::string printReport(Session& session, int scope, ReportExtras extras, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
@@ -159,14 +159,18 @@ std::string printReport(Session& session, int scope, bool withNotes, const Servi
     chapters.setWindowTitle(QObject::tr("Report"));  // the name of its tab
     QCheckBox notes(QObject::tr("Notes for the checking engineer"), &chapters);
     notes.setObjectName("chkPrintNotes");
-    notes.setChecked(withNotes);
+    notes.setChecked(extras.notes);
+    QCheckBox positions(QObject::tr("Governing positions of the cranes"), &chapters);
+    positions.setObjectName("chkPrintPositions");
+    positions.setChecked(extras.positions);
     auto* layout = new QVBoxLayout(&chapters);
+    layout->addWidget(&positions);
     layout->addWidget(&notes);
     layout->addStretch();
     dialog.setOptionTabs({&chapters});
     if (dialog.exec() != QDialog::Accepted) return {};
     try {
-        send(printer, session, reportScope, notes.isChecked());
+        send(printer, session, reportScope, {positions.isChecked(), notes.isChecked()});
     } catch (const OutputError& error) {
         services.messages.show(error.what());
         return {};
@@ -174,7 +178,7 @@ std::string printReport(Session& session, int scope, bool withNotes, const Servi
     return printer.outputFileName().toStdString();
 }
 
-std::string previewReport(Session& session, int scope, bool withNotes, const Services& services, QWidget* parent) {
+std::string previewReport(Session& session, int scope, ReportExtras extras, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
@@ -184,7 +188,7 @@ std::string previewReport(Session& session, int scope, bool withNotes, const Ser
     if (parent != nullptr) dialog.resize(parent->window()->size());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
         try {
-            send(*target, session, reportScope, withNotes);
+            send(*target, session, reportScope, extras);
         } catch (const OutputError& error) {
             services.messages.show(error.what());
         }
@@ -193,7 +197,7 @@ std::string previewReport(Session& session, int scope, bool withNotes, const Ser
     return {};
 }
 
-std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const Services& services, QWidget*) {
+std::string saveReportAsPdf(Session& session, int scope, ReportExtras extras, const Services& services, QWidget*) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
     const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
@@ -201,7 +205,7 @@ std::string saveReportAsPdf(Session& session, int scope, bool withNotes, const S
     try {
         naming(*file, [&] {
             savePdf(
-                *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), withNotes); },
+                *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), extras); },
                 defaultPageLayout(), propertiesOf(session));
         });
     } catch (const OutputError& error) {

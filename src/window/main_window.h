@@ -194,6 +194,7 @@ private:
     QPushButton* cmdCalc_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
+    QAction* printPositions_ = nullptr;
     QAction* printNotes_ = nullptr;
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;

@@ -31,8 +31,7 @@ void MainWindow::takeDrive() {
 void MainWindow::showStands(const std::array<CraneStand, 2>& stands) {
     if (!session_.Calculated || !drive_ || !drive_->goTo(stands)) return;
     driveBar_->stop();
-    const std::string name = pictureOf(drive_->stand());
-    const std::vector<Diagram> diagrams = pictureDiagrams(name, calculation_->project);
+    const std::vector<Diagram> diagrams = pictureOf(drive_->stand(), calculation_->project);
     if (!diagrams.empty() && diagrams != picRes_->diagrams()) picRes_->showResults(diagrams, calculation_);
     showDrive();
 }

@@ -198,6 +198,10 @@ void MainWindow::buildPrintMenu() {
                       {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
     printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
     printMenu->addSeparator();
+    printPositions_ = printMenu->addAction("With governing positions of the cranes");
+    printPositions_->setObjectName("mnuPrintPositions");
+    printPositions_->setCheckable(true);
+    printPositions_->setStatusTip(tr("The report, its preview and its PDF show where the cranes stand for each check"));
     printNotes_ = printMenu->addAction("With notes for the checking engineer");
     printNotes_->setObjectName("mnuPrintNotes");
     printNotes_->setCheckable(true);

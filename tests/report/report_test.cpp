@@ -21,11 +21,11 @@ using namespace testing_support;
 constexpr Extent kA4{200.0, 287.0};  // printable, mm
 constexpr Extent kLetter{206.0, 269.0};
 
-RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, bool withNotes = false) {
+RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, ReportExtras extras = {}) {
     RecordingPrinter printer(paper.width, paper.height);
     Session session = sessionOf(sample);
-    if (withNotes) makeNotes(session);
-    PrintReport(printer, session, scope, {"2026-03-01", "9:05"}, withNotes);
+    if (extras.notes) makeNotes(session);
+    PrintReport(printer, session, scope, {"2026-03-01", "9:05"}, extras);
     return printer;
 }
 
@@ -74,7 +74,7 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
     for (const Extent paper : {kA4, kLetter})
         for (const Sample sample : kPlain)
             for (const ReportScope scope : kScopes) {
-                const RecordingPrinter printer = printed(sample, scope, paper, true);
+                const RecordingPrinter printer = printed(sample, scope, paper, {true, true});
                 for (const auto& page : printer.pages) {
                     const auto inDiagram = [&page](const RecordingPage::Covered& text) {
                         return std::any_of(page->boxes.begin(), page->boxes.end(), [&text](const auto& box) {
@@ -182,13 +182,26 @@ TEST(Report, manySpansOfOneSectionStandAsARange) {
 TEST(Report, notesAreALastChapterAndChangeNoOther) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail}) {
         const std::string without = printed(sample, ReportScope::All).text();
-        const std::string with = printed(sample, ReportScope::All, kA4, true).text();
+        const std::string with = printed(sample, ReportScope::All, kA4, {false, true}).text();
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = with.substr(without.size());
         EXPECT_EQ(without.find("Notes for the checking engineer"), std::string::npos);
         EXPECT_NE(chapter.find("Notes for the checking engineer:\n"), std::string::npos);
         for (const Note& note : projectNotes(sessionOf(sample)).notes)
             EXPECT_NE(chapter.find(std::string(note.rule->says).substr(0, 40)), std::string::npos) << note.rule->key;
+    }
+}
+
+TEST(Report, governingPositionsAreAChapterOfTheirOwn) {
+    for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::ThirtySpans}) {
+        const std::string without = printed(sample, ReportScope::All).text();
+        const std::string with = printed(sample, ReportScope::All, kA4, {true, false}).text();
+        ASSERT_TRUE(with.starts_with(without));
+        const std::string chapter = with.substr(without.size());
+        const CheckResults& checks = sessionOf(sample).results->Checks;
+        for (const char* key : {"Bend", "Shear", "Ltb", "DefZ"})
+            EXPECT_NE(withoutBlanks(chapter).find(withoutBlanks(checks[key].governing(2))), std::string::npos) << key;
+        EXPECT_NE(chapter.find("Crane 1: span"), std::string::npos);
     }
 }
 
