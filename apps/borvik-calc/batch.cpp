@@ -12,6 +12,7 @@
 #include "output.h"
 #include "project/project_file.h"
 #include "results/ratios.h"
+#include "second_opinion/second_opinion.h"
 
 namespace borvik {
 
@@ -52,13 +53,16 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
         if (const int code = load(session, *file, !options.fromJson.empty(), console); code != kDone) return code;
     Calculate(session, console, console, options.walk);
     if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
+    std::optional<SecondOpinion> opinion;
+    if (session.Calculated && options.secondOpinion) opinion = secondOpinion(session, options.opinionOptions);
     int exitCode = outcome(session, options);
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.
     const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();
     if (!onLoads.empty()) console.show(onLoads);
     try {
-        for (const std::string& remark : outputs.write({session, messages, file})) console.show(remark);
+        for (const std::string& remark : outputs.write({session, messages, file, opinion ? &*opinion : nullptr}))
+            console.show(remark);
     } catch (const OutputError& error) {
         console.show(error.what());
         exitCode = kFileFault;

@@ -5,6 +5,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <filesystem>
 #include <map>
 #include <string_view>
@@ -39,6 +40,18 @@ std::string tableNames() {
     return listOf(names);
 }
 
+/// "2:3000" or "2:3000:150".
+std::optional<SpanSupport> lateralSupport(const std::string& text) {
+    SpanSupport support;
+    double z = 0;
+    char rest = 0;
+    const int found = std::sscanf(text.c_str(), "%d:%lf:%lf%c", &support.span, &support.a, &z, &rest);
+    if (found < 2 || found > 3 || (found == 2 && std::count(text.begin(), text.end(), ':') != 1)) return std::nullopt;
+    if (!std::isfinite(support.a) || !std::isfinite(z)) return std::nullopt;
+    if (found == 3) support.z = z;
+    return support;
+}
+
 void addOptions(CLI::App& app, Options& options) {
     const std::map<std::string, WalkMethod> walks{{"plain", WalkMethod::Plain}, {"fast", WalkMethod::Fast}};
     const std::map<std::string, ReportScope> scopes{{"uls", ReportScope::Uls},
@@ -62,6 +75,26 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--notes", options.notes,
                  "Print what the checks assume and leave out where it matters in the project, with the ratio it would "
                  "lead to");
+    CLI::Option* opinion = app.add_flag("--second-opinion", options.secondOpinion,
+                                        "Print torsion with warping and lateral torsional buckling by finite elements, "
+                                        "with EN 1993-6 Annex A; --json then holds them too");
+    app.add_option_function<std::vector<std::string>>(
+           "--lateral-supports",
+           [&options](const std::vector<std::string>& texts) {
+               for (const std::string& text : texts)
+                   options.opinionOptions.lateralSupports.push_back(*lateralSupport(text));
+           },
+           "Points held sideways for it: span, mm from its left support and, where it is not the middle of the top "
+           "flange, mm above the shear centre")
+        ->type_name("SPAN:MM[:Z],...")
+        ->delimiter(',')
+        ->needs(opinion)
+        ->check([](const std::string& text) {
+            return lateralSupport(text) ? std::string() : "a place such as 2:3000 is needed, not \"" + text + "\"";
+        });
+    app.add_flag("--warping-free", options.opinionOptions.freeWarping,
+                 "Girders jointed at the supports: their ends warp alone")
+        ->needs(opinion);
     app.add_option("--json", options.json,
                    "Write all results as JSON; \"-\" is standard output; with several projects a folder")
         ->type_name("FILE");

@@ -7,6 +7,7 @@
 
 #include "analysis/walk.h"
 #include "report/report.h"
+#include "second_opinion/second_opinion.h"
 
 namespace borvik {
 
@@ -18,7 +19,9 @@ struct Options {
     std::string tables;              ///< folder of the reference tables; empty: where programs look for them
     WalkMethod walk = WalkMethod::Fast;
     bool summary = false;
-    bool notes = false;                    ///< print the notes for the checking engineer
+    bool notes = false;          ///< print the notes for the checking engineer
+    bool secondOpinion = false;  ///< print torsion and buckling by finite elements, and put them into the JSON
+    SecondOpinionOptions opinionOptions;
     std::string json;                      ///< file, "-" for standard output, or folder; empty: none
     std::string table;                     ///< name of a result table to print; empty: none
     std::string diagram;                   ///< name of a picture to save as `picture`; empty: none
@@ -36,8 +39,8 @@ struct Options {
     [[nodiscard]] std::size_t projects() const { return useDefault || !fromJson.empty() ? 1 : files.size(); }
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
-        return summary ||
-               (json.empty() && save.empty() && table.empty() && diagram.empty() && report.empty() && !notes && !quiet);
+        return summary || (json.empty() && save.empty() && table.empty() && diagram.empty() && report.empty() &&
+                           !notes && !secondOpinion && !quiet);
     }
 };
 

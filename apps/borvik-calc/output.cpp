@@ -12,6 +12,7 @@
 #include "report_file.h"
 #include "results/json.h"
 #include "results/notes_text.h"
+#include "results/second_opinion_text.h"
 #include "results/spreadsheet.h"
 #include "results/summary.h"
 #include "results/tables.h"
@@ -60,12 +61,14 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
         });
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (options_.notes) attempt([&] { writeNotes(run); });
+    if (options_.secondOpinion) attempt([&] { writeSecondOpinion(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
 }
 
 void Outputs::writeJson(const FinishedRun& run) {
-    const std::string text = resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes);
+    const std::string text =
+        resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes, run.opinion);
     if (options_.json == "-") {
         print(text);
         return;
@@ -115,6 +118,10 @@ void Outputs::writeSummary(const FinishedRun& run) {
 
 void Outputs::writeNotes(const FinishedRun& run) {
     printText(run, notesText(run.session));
+}
+
+void Outputs::writeSecondOpinion(const FinishedRun& run) {
+    printText(run, secondOpinionText(run.session, run.opinion != nullptr ? *run.opinion : SecondOpinion{}));
 }
 
 void Outputs::printText(const FinishedRun& run, const std::string& text) {

@@ -27,7 +27,8 @@ void naming(const std::string& file, Write write) {
 struct FinishedRun {
     const Session& session;
     const std::vector<std::string>& messages;
-    std::optional<std::string> file;  ///< as given; nothing for the default project
+    std::optional<std::string> file;         ///< as given; nothing for the default project
+    const SecondOpinion* opinion = nullptr;  ///< where it was asked for and there are results
 };
 
 /// Writes what the options ask for, one project after the other.
@@ -47,6 +48,7 @@ private:
     void writeSpreadsheet(const FinishedRun& run);
     void writeSummary(const FinishedRun& run);
     void writeNotes(const FinishedRun& run);
+    void writeSecondOpinion(const FinishedRun& run);
     /// Texts of several projects stand apart, each under its name.
     void printText(const FinishedRun& run, const std::string& text);
 

@@ -18,11 +18,6 @@ bool isEndSpan(const Project& project, int span) {
 }
 
 /// For the largest positive moment: End in the first and the last span, Mid in others.
-CFactors positiveFactors(const Project& project, int span) {
-    if (isEndSpan(project, span)) return {project.C1EndPos, project.C2EndPos, project.C3EndPos};
-    return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
-}
-
 /// @param My,Mz    design moments, kNm
 /// @param records  where the wheels of rows 5 to 8 stand
 RowSet ltbRows(const Project& project, int span, bool positive, Single My, Single Mz, Single ChiLT,
@@ -63,6 +58,11 @@ RowSet negativeRows(const Project& project, int span, const UlsResults& uls) {
 
 }  // namespace
 
+CFactors positiveFactors(const Project& project, int span) {
+    if (isEndSpan(project, span)) return {project.C1EndPos, project.C2EndPos, project.C3EndPos};
+    return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
+}
+
 std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support) {
     const double MySupport = support(span, 1), MyField = support(span, 2), MyOther = support(span, 3);
     // The moment changes sign within the span: diagram and load as for the positive case.
@@ -78,16 +78,24 @@ std::optional<CFactors> negativeFactors(const Project& project, int span, const 
     return CFactors{1.77 - 1.04 * psi + 0.27 * std::pow(psi, 2), 0, project.C3MidNeg};
 }
 
-Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors) {
+Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors) {
     const SectionRecord& s = project.SpanSection(span);
     const double L = project.Span(span);
     const double t = factors.C2 * s.Zg - factors.C3 * (positive ? s.ZjPos : s.ZjNeg);
     const double Lt = (std::pow(L, 2) * steel::kE / steel::kEtoG * s.It) / steel::kE;
     const double root = std::sqrt(Lt / std::pow(kPi, 2) / s.Iz + s.Iw / s.Iz + std::pow(t, 2));
-    const Single Mcr = (std::pow(kPi, 2) * factors.C1 * steel::kE * s.Iz / std::pow(L, 2)) * (root - t);
-    const Single Kc = 1 / std::sqrt(factors.C1);
+    return (std::pow(kPi, 2) * factors.C1 * steel::kE * s.Iz / std::pow(L, 2)) * (root - t);
+}
+
+Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1) {
+    const SectionRecord& s = project.SpanSection(span);
+    const Single Kc = 1 / std::sqrt(C1);
     if (project.LtbCurve == LtbCase::General) return ReductionGeneral(project, s, positive, Mcr);
     return ReductionRolledWelded(project, s, positive, Mcr, Kc);
+}
+
+Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors) {
+    return ltbReduction(project, span, positive, criticalMoment(project, span, positive, factors), factors.C1);
 }
 
 Single positiveReduction(const Project& project, int span) {

@@ -12,6 +12,9 @@ struct CFactors {
     double C1, C2, C3;
 };
 
+/// The project's factors of a span for its largest positive moment: End in the first and the last span, Mid in others.
+[[nodiscard]] CFactors positiveFactors(const Project& project, int span);
+
 /// The factors for the most negative support moment. Where the moment in the span is positive they are those of the
 /// positive moment, which the project has for end and mid spans; else without a load (C2 = 0), with the project's C1 in
 /// an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
@@ -19,7 +22,12 @@ struct CFactors {
 /// @return         nullopt where no support moment is negative
 [[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support);
 
-/// chiLT by the curve of the project, with the whole span as unbraced length.
+/// Critical moment by the three factors, Nmm, with the whole span as unbraced length.
+/// @param positive  true: the top flange is in compression
+[[nodiscard]] Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors);
+/// chiLT of a critical moment by the curve of the project. @param C1  of the moment diagram, for kc
+[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1);
+/// The same of the critical moment by the factors.
 /// @param positive  true: the top flange is in compression
 [[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors);
 /// The same with the project's factors for the largest positive moment of the span, and with those of the most negative

@@ -6,6 +6,7 @@
 #include "exchange/input_json.h"
 #include "notes/notes.h"
 #include "results/ratios.h"
+#include "second_opinion/second_opinion.h"
 
 namespace borvik {
 
@@ -224,6 +225,82 @@ Json json(const Notes& notes) {
     return array;
 }
 
+/// Null where there is no such number: an infinite factor.
+Json finite(double value) {
+    return std::isfinite(value) ? Json(value) : Json(nullptr);
+}
+
+Json json(const AnnexA& annex) {
+    const AnnexAInput& in = annex.of;
+    return {{"My", in.My},
+            {"Mz", in.Mz},
+            {"B", in.B},
+            {"MbRd", in.MbRd},
+            {"MzRd", in.MzRd},
+            {"BRd", in.BRd},
+            {"CMz", in.CMz},
+            {"kw", annex.kw},
+            {"kzw", annex.kzw},
+            {"kalpha", finite(annex.kalpha)},
+            {"Ratio", finite(annex.ratio)}};
+}
+
+Json json(const PositionOpinion& p) {
+    const TorsionState& t = p.cut.torsion;
+    Json object{{"Extremes", p.extremes}, {"Wheel1", p.wheel1}, {"Eccentricity", p.eccentricity}};
+    object["Factor"] = p.factor ? Json(*p.factor) : Json(nullptr);
+    for (const auto& [key, of] : {std::pair("Sagging", p.sagging), std::pair("Hogging", p.hogging)})
+        object[key] = {{"My", of.My}, {"Mz", of.Mz}, {"Mcr", of.Mcr}, {"ChiLT", of.chi}, {"Ratio", of.ratio}};
+    object["Torsion"] = {{"Mz", p.Mz}, {"B", p.B}, {"Phi", p.phi}, {"Tw", p.Tw}, {"FlangeMoment", p.flangeMoment}};
+    object["Elastic"] = {{"X", t.x},
+                         {"My", p.cut.My},
+                         {"Vz", p.cut.Vz},
+                         {"Mz", p.cut.Mz},
+                         {"Vy", p.cut.Vy},
+                         {"B", t.B},
+                         {"Phi", t.phi},
+                         {"Tt", t.Tt},
+                         {"Tw", t.Tw()},
+                         {"Tips", p.stresses.tips},
+                         {"TauFlange", p.stresses.tauFlange},
+                         {"TauMiddle", p.stresses.tauMiddle},
+                         {"TauWeb", p.stresses.tauWeb},
+                         {"Equivalent", p.stresses.equivalent},
+                         {"Ratio", p.stresses.ratio}};
+    object["AnnexA"] = p.annex ? json(*p.annex) : Json(nullptr);
+    object["Ratio"] = finite(p.ratio());
+    return object;
+}
+
+Json json(const SecondOpinion& opinion) {
+    Json object{{"Fault", opinion.fault.empty() ? Json(nullptr) : Json(opinion.fault)},
+                {"NoAnnexA", opinion.noAnnex.empty() ? Json(nullptr) : Json(opinion.noAnnex)},
+                {"LowestFactor", opinion.lowestFactor > 0 ? Json(opinion.lowestFactor) : Json(nullptr)},
+                {"LargestRatio", finite(opinion.largestRatio())},
+                {"Spans", Json::array()},
+                {"Mode", Json::array()},
+                {"TorsionLine", Json::array()}};
+    for (const SpanOpinion& span : opinion.spans) {
+        const LineSection& s = span.section.line;
+        Json of{{"Iz", s.Iz}, {"It", s.It}, {"Iw", s.Iw}, {"Zj", s.zj}, {"Governing", span.governing}};
+        of["Checked"] = Json::array();
+        for (const auto& checked : span.checked)
+            of["Checked"].push_back(checked ? Json{{"My", checked->My},
+                                                   {"Mcr", checked->Mcr},
+                                                   {"ChiLT", checked->chi},
+                                                   {"Ratio", checked->ratio}}
+                                            : Json(nullptr));
+        of["Positions"] = Json::array();
+        for (const PositionOpinion& position : span.positions) of["Positions"].push_back(json(position));
+        object["Spans"].push_back(std::move(of));
+    }
+    for (const ModePoint& point : opinion.mode)
+        object["Mode"].push_back({{"X", point.x}, {"V", point.v}, {"Phi", point.phi}});
+    for (const TorsionState& t : opinion.torsion)
+        object["TorsionLine"].push_back({{"X", t.x}, {"Phi", t.phi}, {"B", t.B}, {"Tt", t.Tt}, {"Tw", t.Tw()}});
+    return object;
+}
+
 Json sections(const Project& project) {
     Json array = Json::array();
     for (int span = 1; span <= project.NofSpans; ++span) array.push_back(json(project.SpanSection(span)));
@@ -233,7 +310,8 @@ Json sections(const Project& project) {
 }  // namespace
 
 std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
-                        const std::optional<std::string>& file, const std::string& program, bool withNotes) {
+                        const std::optional<std::string>& file, const std::string& program, bool withNotes,
+                        const SecondOpinion* opinion) {
     Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
                            session.Calculated, "Messages", messages);
     document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
@@ -254,6 +332,7 @@ std::string resultsJson(const Session& session, const std::vector<std::string>& 
         document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }
     document["Input"] = Json::parse(inputJson(session.project));
+    if (opinion != nullptr) document["SecondOpinion"] = json(*opinion);
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -8,6 +8,8 @@
 
 namespace borvik {
 
+struct SecondOpinion;
+
 /// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends
 /// in a newline), for scripts and for comparison with other programs. Keys are the names of the code
 /// in a fixed order; docs/results-json.md describes them. Arrays hold their entries in index order
@@ -18,8 +20,9 @@ namespace borvik {
 /// @param file      path of the project as the user gave it; nothing for the default project
 /// @param program   name and version, such as "Borvik 1.2.3"
 /// @param withNotes  with the notes that the session keeps; else their key is null
+/// @param opinion    becomes the key SecondOpinion; null: no such key
 [[nodiscard]] std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                                       const std::optional<std::string>& file, const std::string& program,
-                                      bool withNotes = false);
+                                      bool withNotes = false, const SecondOpinion* opinion = nullptr);
 
 }  // namespace borvik

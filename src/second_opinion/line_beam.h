@@ -4,10 +4,12 @@
 #include <cstddef>
 #include <vector>
 
+#include "project/steel.h"
+
 namespace borvik {
 
-inline constexpr double kLineE = 210000;        ///< N/mm2
-inline constexpr double kLineG = kLineE / 2.6;  ///< N/mm2, as in the check of lateral torsional buckling
+inline constexpr double kLineE = steel::kE;              ///< N/mm2
+inline constexpr double kLineG = kLineE / steel::kEtoG;  ///< N/mm2
 
 /// What torsion and lateral bending ask of a section. mm4, mm6, mm.
 struct LineSection {

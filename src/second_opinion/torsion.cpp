@@ -115,30 +115,34 @@ std::vector<TorsionState> TorsionBeam::solve(const Torques& torques) const {
     return states;
 }
 
+TorsionBeam::Place TorsionBeam::placeAt(double x) const {
+    const std::size_t e = mesh_.elementAt(x);
+    const LineMesh::Element& element = mesh_.elements[e];
+    return {e, Cubic((x - element.x) / element.h, element.h).value};
+}
+
 TorsionBeam::Influence TorsionBeam::bimomentAt(double x) const {
     const std::size_t node = mesh_.nodeAt(x);
+    const bool atLeft = node < mesh_.elements.size();
     Influence line;
-    line.beam_ = this;
-    line.atLeft_ = node < mesh_.elements.size();
-    line.element_ = line.atLeft_ ? node : node - 1;
+    line.element_ = atLeft ? node : node - 1;
+    line.held_ = atLeft ? std::array<double, 4>{0, -1, 0, 0} : std::array<double, 4>{0, 0, 0, 1};
     const auto k = stiffness(line.element_);
-    line.u_.resize(static_cast<std::size_t>(factors_.size()));
+    std::vector<double> u(static_cast<std::size_t>(factors_.size()));
     for (std::size_t j = 0; j < 4; ++j) {
         const int freedom = freedoms_[line.element_][j];
-        if (freedom >= 0) line.u_[static_cast<std::size_t>(freedom)] = line.atLeft_ ? k[1][j] : -k[3][j];
+        if (freedom >= 0) u[static_cast<std::size_t>(freedom)] = atLeft ? k[1][j] : -k[3][j];
     }
-    factors_.solve(line.u_);
+    factors_.solve(u);
+    for (std::size_t e = 0; e < mesh_.elements.size(); ++e) line.u_.push_back(displacements(u, e));
     return line;
 }
 
-double TorsionBeam::Influence::at(double x) const {
-    const std::size_t e = beam_->mesh_.elementAt(x);
-    const LineMesh::Element& element = beam_->mesh_.elements[e];
-    const Cubic cubic((x - element.x) / element.h, element.h);
-    const auto of = beam_->displacements(u_, e);
+double TorsionBeam::Influence::at(const Place& place) const {
     double sum = 0;
-    for (std::size_t i = 0; i < 4; ++i) sum += of[i] * cubic.value[i];
-    if (e == element_) sum += atLeft_ ? -cubic.value[1] : cubic.value[3];
+    for (std::size_t i = 0; i < 4; ++i) sum += u_[place.element][i] * place.share[i];
+    if (place.element == element_)
+        for (std::size_t i = 0; i < 4; ++i) sum += held_[i] * place.share[i];
     return sum;
 }
 

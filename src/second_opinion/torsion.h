@@ -41,18 +41,26 @@ public:
     /// The states at both ends of each element, [2 e] left and [2 e + 1] right.
     [[nodiscard]] std::vector<TorsionState> solve(const Torques& torques) const;
 
-    /// Influence line of the bimoment at a node: what a torque of 1 at x makes of it.
+    /// A place on the beam, made ready for many influence lines.
+    struct Place {
+        std::size_t element;
+        std::array<double, 4> share;  ///< of a torque there, on the freedoms of the element
+    };
+    /// @param x  mm from the first support, on the beam
+    [[nodiscard]] Place placeAt(double x) const;
+
+    /// Influence line of the bimoment at a node: what a torque of 1 at a place makes of it.
     class Influence {
     public:
-        [[nodiscard]] double at(double x) const;
+        [[nodiscard]] double at(const Place& place) const;
 
     private:
         friend class TorsionBeam;
-        const TorsionBeam* beam_ = nullptr;
-        std::size_t element_ = 0;  ///< whose end forces give the bimoment
-        bool atLeft_ = true;
-        std::vector<double> u_;
+        std::size_t element_ = 0;               ///< whose end forces give the bimoment
+        std::array<double, 4> held_{};          ///< what loads in that element add as if it were held
+        std::vector<std::array<double, 4>> u_;  ///< of each element
     };
+    /// @param x  the node nearest to it counts
     [[nodiscard]] Influence bimomentAt(double x) const;
 
 private:

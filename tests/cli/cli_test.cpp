@@ -51,7 +51,8 @@ protected:
 TEST_F(CommandLine, wrongUseExitsWith2) {
     for (const char* arguments :
          {"", "--nonsense", "--default a.brvk", "--save x.brvk a.brvk b.brvk", "--default --fail-above much",
-          "--default --with-notes", "--default --fail-above -1", "--default --walk slow", "--json"}) {
+          "--default --with-notes", "--default --fail-above -1", "--default --walk slow", "--json",
+          "--default --lateral-supports 2:3000", "--default --second-opinion --lateral-supports 2"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments;
         EXPECT_NE(outcome.err, "") << arguments;
@@ -247,6 +248,21 @@ TEST_F(CommandLine, severalOutputsComeTogether) {
     EXPECT_THAT(outcome.out, HasSubstr("Largest ratio"));
     EXPECT_TRUE(nlohmann::json::parse(bytesOf(folder / "results.json"))["File"].is_null());
     EXPECT_TRUE(fs::exists(folder / "saved.brvk"));
+}
+
+TEST_F(CommandLine, printsTheSecondOpinion) {
+    const auto opinionOf = [&](const std::string& arguments) {
+        EXPECT_THAT(run("--default --json r.json " + arguments).out,
+                    StartsWith(arguments.empty() ? "" : "Second opinion: "));
+        return nlohmann::json::parse(bytesOf(folder / "r.json"));
+    };
+    EXPECT_FALSE(opinionOf("").contains("SecondOpinion"));
+    const double factor = opinionOf("--second-opinion")["SecondOpinion"]["LowestFactor"];
+    EXPECT_GT(opinionOf("--second-opinion --lateral-supports 3:2000,3:4000:100")["SecondOpinion"]["LowestFactor"],
+              1.2 * factor);
+    EXPECT_LT(opinionOf("--second-opinion --warping-free")["SecondOpinion"]["LowestFactor"], factor);
+    EXPECT_EQ(run("--default --second-opinion --lateral-supports 3:6000").out,
+              "No second opinion: a lateral support at 6000 mm in span 3 does not stand between the ends of a span\n");
 }
 
 TEST_F(CommandLine, printsTheNotes) {
