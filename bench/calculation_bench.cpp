@@ -7,6 +7,7 @@
 #include "calculation/calculation.h"
 #include "notes/notes.h"
 #include "runways.h"
+#include "second_opinion/second_opinion.h"
 
 namespace borvik {
 namespace {
@@ -46,6 +47,11 @@ void notes(benchmark::State& state, Session session) {
     for (auto _ : state) benchmark::DoNotOptimize(projectNotes(session));
 }
 
+void secondOpinions(benchmark::State& state, Session session) {
+    secondsOf(session, WalkMethod::Fast);
+    for (auto _ : state) benchmark::DoNotOptimize(secondOpinion(session));
+}
+
 constexpr auto kMs = benchmark::kMillisecond;
 
 BENCHMARK_CAPTURE(calculate, DefaultProject, defaultSession(), WalkMethod::Fast)->Unit(kMs);
@@ -62,6 +68,10 @@ BENCHMARK_CAPTURE(calculate, Slow_Independent_30x30m_plain, runway(30, 30000, Ru
 BENCHMARK_CAPTURE(notes, DefaultProject, defaultSession())->Unit(kMs);
 BENCHMARK_CAPTURE(notes, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))->Unit(kMs);
 BENCHMARK_CAPTURE(notes, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
+
+BENCHMARK_CAPTURE(secondOpinions, DefaultProject, defaultSession())->Unit(kMs);
+BENCHMARK_CAPTURE(secondOpinions, Independent_10x12m, runway(10, 12000, RunwayCranes::Independent))->Unit(kMs);
+BENCHMARK_CAPTURE(secondOpinions, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
 
 BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, RunwayCranes::Train))->UseManualTime()->Unit(kMs);
 BENCHMARK_CAPTURE(plainAgainstFast, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))

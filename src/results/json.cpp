@@ -249,6 +249,7 @@ Json json(const PositionOpinion& p) {
     const TorsionState& t = p.cut.torsion;
     Json object{{"Extremes", p.extremes}, {"Wheel1", p.wheel1}, {"Eccentricity", p.eccentricity}};
     object["Factor"] = p.factor ? Json(*p.factor) : Json(nullptr);
+    object["BucklingSpan"] = p.factor ? Json(p.bucklingSpan) : Json(nullptr);
     for (const auto& [key, of] : {std::pair("Sagging", p.sagging), std::pair("Hogging", p.hogging)})
         object[key] = {{"My", of.My}, {"Mz", of.Mz}, {"Mcr", of.Mcr}, {"ChiLT", of.chi}, {"Ratio", of.ratio}};
     object["Torsion"] = {{"Mz", p.Mz}, {"B", p.B}, {"Phi", p.phi}, {"Tw", p.Tw}, {"FlangeMoment", p.flangeMoment}};

@@ -61,13 +61,13 @@ std::string bucklingTable(const SpanOpinion& of) {
 
 std::string positionTable(const SpanOpinion& of) {
     std::vector<std::vector<std::string>> rows{{"Position of", "wheel 1 mm", "My kNm", "Mz kNm", "B kNm2", "flange kNm",
-                                                "phi mrad", "factor", "buckling", "Annex A", "elastic"}};
+                                                "phi mrad", "factor", "in span", "buckling", "Annex A", "elastic"}};
     for (const PositionOpinion& p : of.positions)
         rows.push_back({p.extremes, number(p.wheel1, "0"),
                         kNm(&p.larger() == &p.sagging ? p.sagging.My : -p.hogging.My), number(p.Mz / 1e6, "0.00"),
                         number(p.B / 1e9, "0.000"), number(p.flangeMoment / 1e6, "0.00"), number(p.phi * 1000, "0.00"),
-                        p.factor ? number(*p.factor, "0.00") : "-", number(p.bucklingRatio()),
-                        p.annex ? number(p.annex->ratio) : "-", number(p.stresses.ratio)});
+                        p.factor ? number(*p.factor, "0.00") : "-", p.factor ? std::to_string(p.bucklingSpan) : "-",
+                        number(p.bucklingRatio()), p.annex ? number(p.annex->ratio) : "-", number(p.stresses.ratio)});
     return aligned(rows);
 }
 

@@ -104,7 +104,10 @@ private:
         const auto i = static_cast<std::size_t>(span - 1);
         const double L = project_.Span(span);
         position.wheel1 = solved.wheel1;
-        if (solved.buckling) position.factor = solved.buckling->factor;
+        if (solved.buckling) {
+            position.factor = solved.buckling->factor;
+            position.bucklingSpan = spanOfMode(solved.buckling->mode);
+        }
         for (int k = 0; k < kPoints; ++k) {
             const double x = L * k / (kPoints - 1), My = solved.vertical[i].moment(x, L);
             BucklingOfSign& of = My > 0 ? position.sagging : position.hogging;
@@ -122,6 +125,15 @@ private:
             of.ratio = ltbRatio(LtbResistance(project_, span, positive), Single(of.My / 1e6), Single(of.Mz / 1e6),
                                 Single(of.chi));
         }
+    }
+
+    [[nodiscard]] int spanOfMode(const std::vector<ModePoint>& mode) const {
+        const auto most = std::max_element(mode.begin(), mode.end(), [](const ModePoint& a, const ModePoint& b) {
+            return std::abs(a.phi) < std::abs(b.phi);
+        });
+        int span = 1;
+        while (span < project_.NofSpans && most->x > solver_.beam().supportAt(static_cast<std::size_t>(span))) ++span;
+        return span;
     }
 
     /// @return  the side of the vertical loads that counts: 0 where they turn the top flange to +y
