@@ -20,6 +20,7 @@ constexpr double kAtBeam = 0.15;
 constexpr double kAboveName = 1.8;
 constexpr double kAtBridge = 0.7;
 constexpr double kReactionRow = 2.0;     // text heights below the beam: under the span lengths
+constexpr int kSpansWithNames = 8;       // beyond that many spans a reaction is a number alone
 constexpr double kSmallestLegend = 5.0;  // points
 
 // What stays where there is too little room for all: span lengths, loads, then names and distances.
@@ -27,7 +28,6 @@ constexpr double kSpanRank = 1e7;
 constexpr double kLoadRank = 1e6;
 constexpr double kDistanceRank = 2.0;
 constexpr double kNameRank = 1.0;
-constexpr double kReactionRank = 3.0;
 
 /// Crane by crane what the two sketches differ in.
 struct SketchKind {
@@ -339,47 +339,63 @@ double beamLine(const DiagramCanvas& canvas, const SketchKind& kind) {
     return canvas.Y0 + canvas.layout.area.top + (kind.cranesAbove ? above : 0.75 * above);
 }
 
-/// The reactions of the present position at their supports, kN.
-void addReactions(DiagramCanvas& canvas, const SketchKind& kind, double base, const CraneDrive& drive) {
-    for (int support = 1; support <= canvas.project.NofSpans + 1; ++support) {
-        const Stretch place = canvas.placeOfSupport(support);
-        if (!canvas.shows(canvas.supportX(support))) continue;
-        const double reaction = drive.reaction(support, false);
-        const std::string value = formatNumber(reaction, "0.0");
-        Label label;
-        label.forms = {{"Rz=" + value}, {value}};
-        label.anchor = {canvas.supportX(support), base};
-        label.left = place.left;
-        label.right = place.right;
-        label.spots = spotsInRow(kind.cranesAbove, kBelowSupports);  // between the span lengths, or under them
-        const std::vector<Spot> lower = spotsInRow(kind.cranesAbove, kReactionRow);
-        label.spots.insert(label.spots.end(), lower.begin(), lower.end());
-        label.rank = kReactionRank + std::abs(reaction);
-        label.inList = "Support " + std::to_string(support) + ": " + label.forms[0][0];
-        label.colour = kMomentary;
-        label.withLeader = false;
-        canvas.labels.add(std::move(label));
-    }
-}
-
-/// What stays in place under the cranes and is drawn with the beam: span lengths in the middle of their spans, and the
-/// legend at the foot.
-void keepOffStillTexts(DiagramCanvas& canvas, const SketchKind& kind, double base) {
-    const DrawingSurface& surface = canvas.surface;
-    const Em em = emOf(surface);
-    const DistinctSections sections(canvas.project);
-    const double away = kind.cranesAbove ? kBelowSupports * em.y : -(kBelowSupports + 1.2) * em.y;
+/// Where texts stand already that stay under the cranes, in the row of the span lengths: one for each span.
+/// @param digit  width of a digit
+std::vector<Stretch> spanTexts(const DiagramCanvas& canvas, double digit) {
+    std::vector<Stretch> texts;
     for (int span = 1; span <= canvas.project.NofSpans; ++span) {
         const double middle = canvas.x(span, 0.5 * canvas.project.Span(span));
-        const double half = 0.5 * surface.textWidth("(00) " + std::to_string(canvas.project.Span(span)));
-        canvas.labels.keepClear({middle - half, base + away, middle + half, base + away + 1.2 * em.y});
+        const double half = 0.5 * static_cast<double>(5 + std::to_string(canvas.project.Span(span)).size()) * digit;
+        texts.push_back({middle - half, middle + half});
     }
-    double width = 0.0;
-    for (const std::string& entry : legendOf(canvas, sections)) width += surface.textWidth(entry + "     ");
-    const Box& frame = canvas.labels.frame();
-    const double lines = std::ceil(width / kDiagramWidth);
-    canvas.labels.keepClear(
-        {canvas.X0, frame.bottom - 2.0 - lines * em.y, canvas.X0 + std::min(width, kDiagramWidth), frame.bottom});
+    return texts;
+}
+
+/// The reactions of the present position at their supports, kN, in one row: that of the span lengths, or below it where
+/// these leave no room. Where supports stand close the smaller ones are left out. Drawn anew with every step, so
+/// nothing is measured twice.
+void drawReactions(DiagramCanvas& canvas, const SketchKind& kind, double base, const CraneDrive& drive) {
+    struct Reaction {
+        std::string text;
+        Stretch place;
+        double magnitude;
+    };
+    DrawingSurface& surface = canvas.surface;
+    const Em em = emOf(surface);
+    const double digit = surface.textWidth("0");
+    const bool crowded = canvas.project.NofSpans > kSpansWithNames;
+    const std::string name = crowded ? "" : "Rz=";
+    const double nameWidth = surface.textWidth(name);
+    std::vector<Reaction> reactions;
+    for (int support = 1; support <= canvas.project.NofSpans + 1; ++support) {
+        const double x = canvas.supportX(support);
+        if (!canvas.shows(x)) continue;
+        const double reaction = drive.reaction(support, false);
+        const std::string value = formatNumber(reaction, "0.0");
+        const double half = 0.5 * (nameWidth + static_cast<double>(value.size()) * digit);
+        const Box& frame = canvas.labels.frame();
+        const double middle = std::clamp(x, frame.left + half, frame.right - half);
+        reactions.push_back({name + value, {middle - half, middle + half}, std::abs(reaction)});
+    }
+    std::stable_sort(reactions.begin(), reactions.end(),
+                     [](const Reaction& a, const Reaction& b) { return a.magnitude > b.magnitude; });
+    const auto meets = [&](const Stretch& place, const std::vector<Stretch>& others) {
+        return std::any_of(others.begin(), others.end(), [&](const Stretch& other) {
+            return place.left < other.right + 0.3 * em.x && other.left < place.right + 0.3 * em.x;
+        });
+    };
+    const std::vector<Stretch> lengths = spanTexts(canvas, digit);
+    const bool inRow = std::none_of(reactions.begin(), reactions.end(),
+                                    [&](const Reaction& reaction) { return meets(reaction.place, lengths); });
+    const double away = (inRow ? kBelowSupports : kReactionRow) * em.y;
+    const double top = kind.cranesAbove ? base + away : base - away - em.y;
+    std::vector<Stretch> taken;
+    surface.setColour(kMomentary);
+    for (const Reaction& reaction : reactions) {
+        if (meets(reaction.place, taken)) continue;
+        taken.push_back(reaction.place);
+        surface.text({reaction.place.left, top}, reaction.text);
+    }
 }
 
 /// What moves with the cranes: they themselves, where they stand in words, and the reactions.
@@ -393,11 +409,11 @@ void drawDriven(DiagramCanvas& canvas, const SketchKind& kind, const CraneDrive&
     surface.text({frame.right - surface.textWidth(text), frame.top + 1.0}, text);
     canvas.labels.keepClear({frame.left, frame.top, frame.right, frame.top + 1.0 + surface.textHeight()});
     canvas.labels.keepClear({canvas.left(), base, canvas.right(), base});
-    keepOffStillTexts(canvas, kind, base);
     const double legend = frame.bottom - 1.5 * surface.textHeight();
     drawCranes(canvas, kind, base, legend, drivenGeometry(canvas.project, drive).wheels, true);
-    addReactions(canvas, kind, base, drive);
     canvas.drawLabels();
+    surface.setFont(canvas.labelFont);
+    drawReactions(canvas, kind, base, drive);
 }
 
 }  // namespace

@@ -140,9 +140,9 @@ std::string standText(const Project& project, const CraneStand& stand) {
                                       "Ry",
                                       "Uz",
                                       "Uy",
-                                      "stress in top flange",
-                                      "stress in bottom flange",
-                                      "shear stress in web"};
+                                      "Stress in top flange",
+                                      "Stress in bottom flange",
+                                      "Shear stress in web"};
     if (!stand.isKnown()) return "";
     const std::string name = kNames[static_cast<std::size_t>(stand.effect)];
     if (stand.point == 0) return name + ", support " + std::to_string(stand.place);

@@ -8,12 +8,10 @@ namespace borvik {
 namespace {
 
 constexpr TextStyle kBold{true};
-// As of the other diagrams of the report.
+// As of the other diagrams of the report: units from top to bottom of the page, and between two diagrams.
 constexpr double kForceScale = 1400.0;
 constexpr double kFlatScale = 2000.0;
-constexpr double kSketchStep = 0.075;
-constexpr double kForceStep = 0.162;
-constexpr double kFlatStep = 0.052;
+constexpr double kGap = 6.0;
 
 /// A position of the cranes and the checks that it governs.
 struct GoverningPosition {
@@ -45,15 +43,24 @@ std::vector<GoverningPosition> governingPositions(const Report& report, bool wit
     return positions;
 }
 
+/// A diagram, the part of the page that it takes and its page scale.
+struct PositionDiagram {
+    Diagram diagram;
+    double pageUnits;
+    [[nodiscard]] double step() const { return (diagramHeight(diagram, DiagramMode::Paper) + kGap) / pageUnits; }
+};
+
 void printPosition(Report& report, CraneDrive& drive, const GoverningPosition& position) {
     ReportPage& page = report.page;
     drive.goTo({position.stands[0]});
+    std::vector<PositionDiagram> diagrams{{Diagram::Sketch, kForceScale}};
     const Diagram diagram = diagramOf(drive.stand());
-    const bool hasLine = walkOf(diagram) == drive.walk() && diagram != Diagram::FlsReactions;
     const bool forces = diagram == Diagram::UlsMyVz || diagram == Diagram::UlsMzVy;
-    const double step = forces ? kForceStep : kFlatStep;
-    page.need(page.LinesPerPage * (kSketchStep + (hasLine ? step : 0.0)) + 2.0 +
-              static_cast<double>(position.checks.size()));
+    if (walkOf(diagram) == drive.walk() && diagram != Diagram::FlsReactions)
+        diagrams.push_back({diagram, forces ? kForceScale : kFlatScale});
+    double steps = 0.0;
+    for (const PositionDiagram& each : diagrams) steps += each.step();
+    page.need(page.LinesPerPage * steps + 2.0 + static_cast<double>(position.checks.size()));
     page.put(page.ColLeft, standText(report.project, drive.stand()) + "; " + craneText(report.project, drive), kBold);
     page.advance(1.0);
     for (const std::string& check : position.checks)
@@ -63,8 +70,7 @@ void printPosition(Report& report, CraneDrive& drive, const GoverningPosition& p
         }
     page.advance(0.7);
     const DiagramData data{report.project, &report.results, &drive};
-    page.diagram(Diagram::Sketch, data, kForceScale, kSketchStep);
-    if (hasLine) page.diagram(diagram, data, forces ? kForceScale : kFlatScale, step);
+    for (const PositionDiagram& each : diagrams) page.diagram(each.diagram, data, each.pageUnits, each.step());
 }
 
 }  // namespace

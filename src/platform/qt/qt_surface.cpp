@@ -96,7 +96,12 @@ QColor Ground::line(Colour onPaper) const {
 }
 
 QtSurface::QtSurface(QPainter& painter, const QRectF& area, double textScale, Ground ground)
-    : painter_(painter), area_(area), textScale_(textScale), ground_(std::move(ground)), pen_(ground_.ink) {
+    : painter_(painter),
+      area_(area),
+      textScale_(textScale),
+      ground_(std::move(ground)),
+      pen_(ground_.ink),
+      metrics_(painter.font(), painter.device()) {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter_.setBrush(Qt::NoBrush);
     applyPen();
@@ -153,31 +158,35 @@ void QtSurface::circle(Place centre, double radius) {
 }
 
 void QtSurface::text(Place corner, std::string_view text, TextDirection direction) {
-    const QFontMetricsF metrics(painter_.font(), painter_.device());
     const QPointF at = toArea(corner);
     if (direction == TextDirection::Across) {
-        painter_.drawText(QPointF(at.x(), at.y() + metrics.ascent()), toQt(text));
+        painter_.drawText(QPointF(at.x(), at.y() + metrics_.ascent()), toQt(text));
         return;
     }
     painter_.save();
-    painter_.translate(at.x(), at.y() + metrics.horizontalAdvance(toQt(text)));
+    painter_.translate(at.x(), at.y() + metrics_.horizontalAdvance(toQt(text)));
     painter_.rotate(-90.0);
-    painter_.drawText(QPointF(0.0, metrics.ascent()), toQt(text));
+    painter_.drawText(QPointF(0.0, metrics_.ascent()), toQt(text));
     painter_.restore();
 }
 
 Extent QtSurface::extent(std::string_view text, TextDirection direction) const {
-    const QFontMetricsF metrics(painter_.font(), painter_.device());
-    const double wide = metrics.horizontalAdvance(toQt(text));
-    const double high = metrics.height();
+    const QString whole = toQt(text);
+    auto wide = advances_.find(whole);
+    if (wide == advances_.end()) wide = advances_.insert(whole, metrics_.horizontalAdvance(whole));
+    const double high = metrics_.height();
     const double unitsX = frame_.width() / area_.width();
     const double unitsY = frame_.height() / area_.height();
-    if (direction == TextDirection::Across) return {wide * unitsX, high * unitsY};
-    return {high * unitsX, wide * unitsY};
+    if (direction == TextDirection::Across) return {*wide * unitsX, high * unitsY};
+    return {high * unitsX, *wide * unitsY};
 }
 
 void QtSurface::setFont(const Font& font) {
-    painter_.setFont(toQt(font, textScale_));
+    const QFont wanted = toQt(font, textScale_);
+    if (wanted == painter_.font()) return;
+    painter_.setFont(wanted);
+    metrics_ = QFontMetricsF(painter_.font(), painter_.device());
+    advances_.clear();
 }
 
 void QtSurface::setColour(Colour colour) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QColor>
+#include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <QPalette>
 #include <QRectF>
@@ -61,6 +63,8 @@ private:
     Ground ground_;
     QRectF frame_{0.0, 0.0, 1.0, 1.0};
     QPen pen_;
+    QFontMetricsF metrics_;                    ///< of the present font
+    mutable QHash<QString, double> advances_;  ///< of texts measured in it: placing labels asks many times
 };
 
 }  // namespace borvik
