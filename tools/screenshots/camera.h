@@ -15,8 +15,11 @@ public:
     explicit Camera(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
     void take(QWidget& widget, const QString& name) {
         QApplication::processEvents();
+        save(widget.grab(), name);
+    }
+    void save(const QPixmap& picture, const QString& name) {
         const QString path = folder_.filePath(name + ".png");
-        if (!widget.grab().save(path)) std::cerr << "can't write " << path.toStdString() << '\n';
+        if (!picture.save(path)) std::cerr << "can't write " << path.toStdString() << '\n';
     }
 
     [[nodiscard]] std::string path(const char* file) const { return folder_.filePath(file).toStdString(); }

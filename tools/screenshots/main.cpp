@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPainter>
+#include <QSlider>
 #include <QStyleFactory>
 #include <iostream>
 
@@ -25,6 +27,8 @@
 namespace {
 
 using namespace borvik;
+
+constexpr int kBetweenFrames = 8;  // pixels
 
 QPalette darkPalette() {
     QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
@@ -67,6 +71,30 @@ void takeForms(Camera& camera, Session& session, Messages& messages) {
         info.show();
         camera.take(info, name);
     }
+}
+
+/// Four moments of the crane's drive over the beam, in two rows.
+void takeDrive(Camera& camera, MainWindow& window) {
+    auto* pictures = window.findChild<QWidget*>("splitterPictures");
+    auto* crane1 = window.findChild<QSlider*>("driveCrane1");
+    window.findChild<QAction*>("mnuGoverning")->trigger();
+    const int governing = crane1->value();
+    QPixmap frames;
+    int number = 0;
+    for (const int step : {governing, governing + 20, governing + 40, governing + 75}) {
+        crane1->setValue(step);
+        QApplication::processEvents();
+        const QPixmap frame = pictures->grab();
+        if (frames.isNull()) {
+            frames = QPixmap(frame.size() * 2 + QSize(kBetweenFrames, kBetweenFrames));
+            frames.fill(Qt::white);
+        }
+        QPainter(&frames).drawPixmap((number % 2) * (frame.width() + kBetweenFrames),
+                                     (number / 2) * (frame.height() + kBetweenFrames), frame);
+        ++number;
+    }
+    camera.save(frames, "crane-on-the-beam");
+    window.findChild<QAction*>("mnuDriveEnd")->trigger();
 }
 
 }  // namespace
@@ -125,6 +153,7 @@ int main(int argc, char** argv) {
         camera.take(*picRes, name);
     }
     camera.take(*window.findChild<QWidget*>("picBalk"), "diagram-sketch");
+    takeDrive(camera, window);
     choose(window, "Notes");
     camera.take(window, "notes");
 
