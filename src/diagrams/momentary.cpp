@@ -9,7 +9,7 @@
 namespace borvik {
 namespace {
 
-constexpr double kDot = 3.0;           // units, radius
+constexpr double kDot = 3.0;  // units, radius
 constexpr double kTouchingDot = 5.0;
 constexpr double kTouching = 1e-6;     // of the largest value
 constexpr double kOnLargest = 0.9999;  // a share; of two that are nearly equal the first is taken

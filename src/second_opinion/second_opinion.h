@@ -39,7 +39,7 @@ struct PositionOpinion {
     double wheel1 = 0;             ///< place of wheel 1, mm from the first support; beyond the beam too
     double eccentricity = 0;       ///< of the vertical loads, with its side
     std::optional<double> factor;  ///< on all loads at buckling; none where these loads can't make the beam buckle
-    int bucklingSpan = 0;  ///< the span, from 1, that twists most in that mode
+    int bucklingSpan = 0;          ///< the span, from 1, that twists most in that mode
     BucklingOfSign sagging, hogging;
     // Torsion
     double Mz = 0;                  ///< the largest magnitude in the span, twist included
