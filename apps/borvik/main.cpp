@@ -11,6 +11,7 @@
 #include "platform/data_folder.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_settings.h"
+#include "platform/version.h"
 #include "window/guarded_application.h"
 #include "window/help.h"
 #include "window/main_window.h"
@@ -48,7 +49,7 @@ int main(int argc, char** argv) {
     using namespace borvik;
     for (const std::string_view answered : {"--version", "--help", "-h"})
         if (argc == 2 && answered == argv[1]) {
-            std::cout << "Borvik " BORVIK_VERSION ", design of steel crane runway beams\n" << kUsage;
+            std::cout << kProgramAndVersion << ", design of steel crane runway beams\n" << kUsage;
             return 0;
         }
     QtMessages messages;
@@ -56,7 +57,7 @@ int main(int argc, char** argv) {
     const auto project = projectArgument(QApplication::arguments());
     if (!project) return 2;
     QApplication::setApplicationName(kApplicationTitle);
-    QApplication::setApplicationVersion(BORVIK_VERSION);
+    QApplication::setApplicationVersion(kVersion);
     QApplication::setDesktopFileName("borvik");
     QApplication::setWindowIcon(QIcon::fromTheme("borvik"));
     WheelGuard wheelGuard;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <string_view>
 
 #include "base/fault.h"
 #include "base/number_text.h"
@@ -64,12 +63,6 @@ std::vector<NoteRule> allRules() {
 std::span<const NoteRule> noteRules() {
     static const std::vector<NoteRule> rules = allRules();
     return rules;
-}
-
-const NoteRule* findNoteRule(std::string_view key) {
-    const auto rules = noteRules();
-    const auto rule = std::find_if(rules.begin(), rules.end(), [&](const NoteRule& each) { return key == each.key; });
-    return rule == rules.end() ? nullptr : &*rule;
 }
 
 const char* nameOf(NoteCheck check) {

@@ -3,7 +3,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "calculation/session.h"
@@ -67,8 +66,6 @@ struct Notes {
 
 /// Every rule, in the order of their keys.
 [[nodiscard]] std::span<const NoteRule> noteRules();
-/// The rule with that key; null where there is none.
-[[nodiscard]] const NoteRule* findNoteRule(std::string_view key);
 /// What the check is called on screen and in the report: "Wheel loads".
 [[nodiscard]] const char* nameOf(NoteCheck check);
 /// "unsafe", "either", "information".

@@ -13,6 +13,7 @@
 #include "pictures/fatigue_pictures.h"
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
+#include "platform/version.h"
 #include "sheet.h"
 #include "tutorial.h"
 #include "views/detailed_result_dialog.h"
@@ -107,7 +108,7 @@ int main(int argc, char** argv) {
     sinceStart.start();
     QApplication application(argc, argv);
     QApplication::setApplicationName(kApplicationTitle);
-    QApplication::setApplicationVersion(BORVIK_VERSION);
+    QApplication::setApplicationVersion(kVersion);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QStringList arguments = QApplication::arguments().mid(1);
     if (arguments.removeAll("--dark") > 0) QApplication::setPalette(darkPalette());
