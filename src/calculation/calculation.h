@@ -20,7 +20,7 @@ void turnReactionsUpward(UlsResults& uls);
 
 /// The whole run: input check, lengths, fit of the cranes, sections, ULS, SLS, checks, fatigue. What was entered is
 /// only read; of a refused or faulty run `settled` holds NofSpans, the splice flags and the lengths as far as it came,
-/// and the sections as entered. The user has been told of a refusal or a run-time fault.
+/// and the sections as entered. Of a refusal or a run-time fault a message has been shown.
 [[nodiscard]] Outcome Calculate(const Project& entered, const ReferenceTables& tables, Messages& messages,
                                 Progress& progress, WalkMethod method = WalkMethod::Fast);
 

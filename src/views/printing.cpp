@@ -40,7 +40,7 @@ void show(const QString& text) {
     QtMessages().show(text.toStdString());
 }
 
-/// True when there is something to print; else the user has been told.
+/// True when there is something to print; else a message has said so.
 bool isReady(const Session& session, const Services& services) {
     if (canReport(session)) return true;
     services.messages.show(kCalculateBeforePrint);

@@ -35,7 +35,7 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
     return true;  // given up, not to be offered to the parent as well
 }
 
-/// A fault that comes again with each repaint is told once.
+/// A fault that comes again with each repaint is shown once.
 void GuardedApplication::tell(const std::string& fault, const QEvent& event) {
     if (telling_ || (fault == lastFault_ && !isInput(event))) return;
     lastFault_ = fault;

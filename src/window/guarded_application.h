@@ -12,10 +12,10 @@ namespace borvik {
 /// the event is given up, and the program and all that was entered live on.
 class GuardedApplication : public QApplication {
 public:
-    /// @param messages  where faults are told; must outlive the application
+    /// @param messages  where faults are shown; must outlive the application
     GuardedApplication(int& argc, char** argv, Messages& messages) : QApplication(argc, argv), messages_(&messages) {}
 
-    /// @return where faults were told before
+    /// @return where faults were shown before
     Messages& tellFaultsTo(Messages& messages) { return *std::exchange(messages_, &messages); }
 
     bool notify(QObject* receiver, QEvent* event) override;

@@ -48,7 +48,7 @@ public:
     void WritefrmInput();
 
     /// Opens a project file and puts it on the list of recent files. A file that can't be read leaves the project as it
-    /// is; the user has been told.
+    /// is; a message has said so.
     /// @return false when nothing was opened
     bool openProject(const std::string& path);
 
@@ -124,7 +124,7 @@ private:
     void keepCopy();
     void undo();
     void redo();
-    void standAt(const ProjectStep& step, const QString& told, bool another);
+    void standAt(const ProjectStep& step, const QString& message, bool another);
     void bringBack(const LeftCopy& copy);
     void showHistory();
 

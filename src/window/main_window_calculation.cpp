@@ -45,7 +45,7 @@ void MainWindow::calculate() {
     }
 }
 
-/// @return false when there are no results; the user has been told
+/// @return false when there are no results; a message has said so
 bool MainWindow::run() {
     const int splices = splicesInUse(session_.project);
     const bool twoCranes = session_.project.NofCranes == 2;

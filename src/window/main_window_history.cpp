@@ -36,23 +36,23 @@ void MainWindow::keepCopy() {
 
 void MainWindow::undo() {
     if (running_ || !panel_->commit() || history_.undoName() == nullptr) return;
-    const QString told = tr("Undone: %1").arg(QString::fromStdString(*history_.undoName()));
+    const QString message = tr("Undone: %1").arg(QString::fromStdString(*history_.undoName()));
     const auto before = history_.present().document;
     const ProjectStep& step = history_.undo();
-    standAt(step, told, step.document != before);
+    standAt(step, message, step.document != before);
 }
 
 void MainWindow::redo() {
     if (running_ || !panel_->commit() || history_.redoName() == nullptr) return;
-    const QString told = tr("Done again: %1").arg(QString::fromStdString(*history_.redoName()));
+    const QString message = tr("Done again: %1").arg(QString::fromStdString(*history_.redoName()));
     const auto before = history_.present().document;
     const ProjectStep& step = history_.redo();
-    standAt(step, told, step.document != before);
+    standAt(step, message, step.document != before);
 }
 
 /// Puts the project of a step in place of the present one.
 /// @param another  the step is of another project than the one shown
-void MainWindow::standAt(const ProjectStep& step, const QString& told, bool another) {
+void MainWindow::standAt(const ProjectStep& step, const QString& message, bool another) {
     session_.project = step.project;
     session_.FileName = step.document->FileName;
     session_.FileTitle = step.document->FileTitle;
@@ -64,7 +64,7 @@ void MainWindow::standAt(const ProjectStep& step, const QString& told, bool anot
         settleInput();
     }
     keepCopy();
-    statusBar()->showMessage(told, 4000);
+    statusBar()->showMessage(message, 4000);
 }
 
 void MainWindow::showHistory() {

@@ -26,7 +26,7 @@ public:
     /// just being typed, and a refused strength with its mark, is left alone.
     void showProject();
     /// Stores what is just being typed, as leaving its box would.
-    /// @return false when it was refused; the user has been told
+    /// @return false when it was refused; a message has said so
     bool commit();
 
 Q_SIGNALS:

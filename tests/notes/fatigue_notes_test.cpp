@@ -238,7 +238,7 @@ const NoteCase kCases[]{
      }),
      monorail([](Project& p) { p.FatR6 = true; }), "fatigue detail 6, span 1", 1.7827, 10.172},
 
-    // Crane 1 of two wheels 400 mm apart: 2 x 50 x 4.8/2 = 240 kNm, 190.58 MPa. Both: told on 4 m 150 kNm x 0.63 =
+    // Crane 1 of two wheels 400 mm apart: 2 x 50 x 4.8/2 = 240 kNm, 190.58 MPa. Both: on 4 m 150 kNm x 0.63 =
     // 75.04 MPa, right 120.07.
     {"G22",
      twoCranes(2,

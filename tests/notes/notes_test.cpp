@@ -14,7 +14,7 @@ using namespace borvik::testing_support;
 
 namespace {
 
-/// A hoist beam 20 m long under a light load: nothing grows, and only what always holds is told.
+/// A hoist beam 20 m long under a light load: nothing grows, and only what always holds is said.
 void lightHoist(Session& session) {
     oneWheel(session, 1, 20000);
     session.project.V(1) = 0.001;

@@ -194,9 +194,9 @@ TEST(ReportFile, hasEmbeddedFontsAndATitle) {
     const std::vector<std::string> fonts = linesOf(run("pdffonts '" + file + "'").output);
     ASSERT_GT(fonts.size(), 2U);
     for (std::size_t i = 2; i < fonts.size(); ++i) EXPECT_NE(fonts[i].find(" yes "), std::string::npos) << fonts[i];
-    const std::string told = run("pdfinfo '" + file + "'").output;
-    EXPECT_NE(told.find("Hall Åmål, Girder A   & <B>"), std::string::npos) << told;
-    EXPECT_NE(told.find("Author: "), std::string::npos) << told;
+    const std::string pdf = run("pdfinfo '" + file + "'").output;
+    EXPECT_NE(pdf.find("Hall Åmål, Girder A   & <B>"), std::string::npos) << pdf;
+    EXPECT_NE(pdf.find("Author: "), std::string::npos) << pdf;
     const std::string archived = run("pdfinfo -meta '" + file + "'").output;
     EXPECT_NE(archived.find("Girder A   &amp; &lt;B&gt;"), std::string::npos) << archived;
     EXPECT_NE(archived.find("<dc:creator>"), std::string::npos);

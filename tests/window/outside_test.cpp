@@ -95,15 +95,15 @@ TEST(QtSettings, keepTextsBySectionAndKey) {
 
 TEST(GuardedApplication, makesAFaultOfAnEventAMessageAndGoesOn) {
     auto& application = dynamic_cast<GuardedApplication&>(*QApplication::instance());
-    MessageList told;
-    Messages& usual = application.tellFaultsTo(told);
+    MessageList shown;
+    Messages& usual = application.tellFaultsTo(shown);
     bool reached = false;
     for (int i = 0; i < 2; ++i) QTimer::singleShot(0, [] { throw RuntimeFault("index 7 out of bounds"); });
     QTimer::singleShot(1, [&] { reached = true; });
     while (!reached) QApplication::processEvents();
     application.tellFaultsTo(usual);
-    ASSERT_EQ(told.texts.size(), 1U) << "a fault that repeats itself is told once";
-    EXPECT_NE(told.texts.front().find("index 7 out of bounds"), std::string::npos);
+    ASSERT_EQ(shown.texts.size(), 1U) << "a fault that repeats itself is shown once";
+    EXPECT_NE(shown.texts.front().find("index 7 out of bounds"), std::string::npos);
 }
 
 }  // namespace
