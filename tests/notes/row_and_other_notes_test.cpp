@@ -68,7 +68,8 @@ TEST(InputNotes, nameEachValueThatCountsAndItsRange) {
         made.project.GammaM0 = 0.1;
         made.project.PsiH1 = 0.9;
         made.project.DefaultCfactor = true;
-        made.project.C1EndNeg = made.project.PsiH2 = 0;  // not read: factors by default, one crane
+        // Not read: factors by default, one crane, no support of a monorail.
+        made.project.C1EndNeg = made.project.PsiH2 = made.project.RWS1d = 0;
     });
     EXPECT_EQ(findingOf(session, "J1")->remark,
               "Setup: gammaM0 = 0.1 lies outside 0.5 to 1.5; Loads: Psi1H = 0.9 is not at least 1");
