@@ -10,15 +10,16 @@ _borvik_calc() {
     case $previous in
         --table) mapfile -t COMPREPLY < <(compgen -W "$(_borvik_calc_names --table '?')" -- "$current") ;;
         --diagram) mapfile -t COMPREPLY < <(compgen -W "$(_borvik_calc_names --png - --diagram '?')" -- "$current") ;;
+        --decimal) mapfile -t COMPREPLY < <(compgen -W "point comma" -- "$current") ;;
         --walk) mapfile -t COMPREPLY < <(compgen -W "plain fast" -- "$current") ;;
         --scope) mapfile -t COMPREPLY < <(compgen -W "uls uls-sls all compressed" -- "$current") ;;
         --tables) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-        --crane-loads | --from-json | --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+        --crane-loads | --csv | --workbook | --from-json | --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
         --fail-above) COMPREPLY=(1.0) ;;
         *)
             if [[ $current == -* ]]; then
-                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --default --diagram --fail-above --from-json --help --json --notes --png --quiet --report
-                    --save --scope --summary --table --tables --version --walk --with-notes --with-positions --xlsx" -- "$current")
+                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --csv --decimal --default --diagram --fail-above --fingerprint --from-json --help --json --notes --png --quiet --report
+                    --save --scope --summary --table --tables --version --walk --with-notes --with-positions --workbook --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
             fi

@@ -51,6 +51,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     Session session(tables);
     if (file)
         if (const int code = load(session, *file, !options.fromJson.empty(), console); code != kDone) return code;
+    const std::string fingerprint = options.fingerprint ? fingerprintOf(session.project) : "";
     Calculate(session, console, console, options.walk);
     if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
     std::optional<SecondOpinion> opinion;
@@ -61,7 +62,8 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();
     if (!onLoads.empty()) console.show(onLoads);
     try {
-        for (const std::string& remark : outputs.write({session, messages, file, opinion ? &*opinion : nullptr}))
+        for (const std::string& remark :
+             outputs.write({session, messages, file, opinion ? &*opinion : nullptr, fingerprint}))
             console.show(remark);
     } catch (const OutputError& error) {
         console.show(error.what());

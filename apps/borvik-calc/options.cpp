@@ -54,6 +54,7 @@ std::optional<SpanSupport> lateralSupport(const std::string& text) {
 
 void addOptions(CLI::App& app, Options& options) {
     const std::map<std::string, WalkMethod> walks{{"plain", WalkMethod::Plain}, {"fast", WalkMethod::Fast}};
+    const std::map<std::string, DecimalSign> decimals{{"point", DecimalSign::Point}, {"comma", DecimalSign::Comma}};
     const std::map<std::string, ReportScope> scopes{{"uls", ReportScope::Uls},
                                                     {"uls-sls", ReportScope::UlsSls},
                                                     {"all", ReportScope::All},
@@ -106,6 +107,19 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_option("--xlsx", options.xlsx, "Write the table to a spreadsheet instead")
         ->type_name("FILE")
         ->needs("--table");
+    app.add_option("--csv", options.csv, "Write the table as comma-separated values instead; \"-\" is standard output")
+        ->type_name("FILE")
+        ->needs("--table")
+        ->excludes("--xlsx");
+    app.add_option("--decimal", options.decimal, "Decimal sign of --csv; with a comma, semicolons part the cells")
+        ->type_name("point|comma")
+        ->transform(CLI::Transformer(decimals))
+        ->option_text("point|comma (default: point)")
+        ->needs("--csv");
+    app.add_option("--workbook", options.workbook, "Write all tables to a spreadsheet, a sheet each")
+        ->type_name("FILE");
+    app.add_flag("--fingerprint", options.fingerprint,
+                 "Print the fingerprint of the input: the first digits of the SHA-256 of its file");
     if (kHasPictures) {
         CLI::Option* report = app.add_option("--report", options.report, "Write the report as PDF");
         report->type_name("FILE");
@@ -186,10 +200,9 @@ void checkOutputs(const Options& options) {
         const char* option;
         const std::string& file;
     };
-    const Output outputs[] = {{"--json", options.json},
-                              {"--xlsx", options.xlsx},
-                              {"--report", options.report},
-                              {"--png", options.picture},
+    const Output outputs[] = {{"--json", options.json},     {"--xlsx", options.xlsx},
+                              {"--csv", options.csv},       {"--workbook", options.workbook},
+                              {"--report", options.report}, {"--png", options.picture},
                               {"--save", options.save}};
     for (const Output& output : outputs) {
         if (output.file.empty() || output.file == "-") continue;
@@ -222,6 +235,10 @@ void checkTogether(const Options& options) {
         throw CLI::ValidationError("--report", "takes the report of a single project");
     if (options.projects() > 1 && !options.xlsx.empty())
         throw CLI::ValidationError("--xlsx", "takes the table of a single project");
+    if (options.projects() > 1 && !options.workbook.empty())
+        throw CLI::ValidationError("--workbook", "takes the tables of a single project");
+    if (options.projects() > 1 && !options.csv.empty() && options.csv != "-")
+        throw CLI::ValidationError("--csv", "takes the table of a single project");
     if (options.projects() > 1 && !options.picture.empty())
         throw CLI::ValidationError("--png", "takes the diagram of a single project");
     checkOutputs(options);

@@ -1,5 +1,7 @@
 #include "output.h"
 
+#include <array>
+#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -22,6 +24,14 @@ namespace borvik {
 namespace fs = std::filesystem;
 
 namespace {
+
+WorkbookHead headOf(const FinishedRun& run) {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, sizeof "2026-01-31"> date{};
+    std::strftime(date.data(), date.size(), "%Y-%m-%d", std::localtime(&now));
+    return {run.session.project.Proj, run.session.project.Ident, run.file.value_or(""), date.data(),
+            kProgramAndVersion};
+}
 
 void print(const std::string& text) {
     if (!(std::cout << text << std::flush)) throw OutputError("can't write to standard output");
@@ -46,6 +56,9 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
         });
     if (!options_.json.empty()) attempt([&] { writeJson(run); });
     if (!options_.table.empty()) attempt([&] { writeTable(run); });
+    if (!options_.workbook.empty()) attempt([&] { writeWorkbook(run); });
+    if (options_.fingerprint)
+        attempt([&] { print(run.fingerprint + "  " + withoutControls(run.file.value_or("default project")) + "\n"); });
     if (!options_.report.empty())
         attempt([&] {
             if (canReport(run.session))
@@ -102,14 +115,30 @@ void Outputs::writeTable(const FinishedRun& run) {
         writeSpreadsheet(run);
         return;
     }
-    std::string text = options_.projects() > 1 ? run.file.value_or("") + "\n" : "";
-    print(text + tabSeparated(findTable(options_.table)->fill(run.session.project, *run.session.results)));
+    const ResultTable table = findTable(options_.table)->fill(run.session.project, *run.session.results);
+    if (!options_.csv.empty() && options_.csv != "-") {
+        naming(options_.csv, [&] { replaceFile(options_.csv, csvText(table, options_.decimal)); });
+        return;
+    }
+    const std::string text = options_.projects() > 1 ? run.file.value_or("") + "\n" : "";
+    print(text + (options_.csv.empty() ? tabSeparated(table) : csvText(table, options_.decimal)));
 }
 
 void Outputs::writeSpreadsheet(const FinishedRun& run) {
     const TableEntry& entry = *findTable(options_.table);
-    naming(options_.xlsx,
-           [&] { saveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title); });
+    naming(options_.xlsx, [&] {
+        saveSpreadsheet(options_.xlsx, entry.fill(run.session.project, *run.session.results), entry.title, headOf(run));
+    });
+}
+
+void Outputs::writeWorkbook(const FinishedRun& run) {
+    const Session& session = run.session;
+    if (!session.Calculated || !session.results) return;
+    std::vector<NamedTable> tables;
+    for (const TableEntry& entry : tableEntries())
+        if (entry.isAvailable(session.project))
+            tables.push_back({entry.title, entry.fill(session.project, *session.results)});
+    naming(options_.workbook, [&] { saveWorkbook(options_.workbook, tables, headOf(run)); });
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {

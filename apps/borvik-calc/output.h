@@ -29,6 +29,7 @@ struct FinishedRun {
     const std::vector<std::string>& messages;
     std::optional<std::string> file;         ///< as given; nothing for the default project
     const SecondOpinion* opinion = nullptr;  ///< where it was asked for and there are results
+    std::string fingerprint;                 ///< of the input as it was read
 };
 
 /// Writes what the options ask for, one project after the other.
@@ -46,6 +47,7 @@ private:
     std::string jsonFile(const FinishedRun& run);
     void writeTable(const FinishedRun& run);
     void writeSpreadsheet(const FinishedRun& run);
+    void writeWorkbook(const FinishedRun& run);
     void writeSummary(const FinishedRun& run);
     void writeNotes(const FinishedRun& run);
     void writeSecondOpinion(const FinishedRun& run);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/sha256.h"
 #include "base/whole_file.h"
 #include "base/windows1252.h"
 #include "project/project_fields.h"
@@ -181,6 +182,12 @@ std::string projectBytes(const Project& project, bool& lost) {
     Writer writer(lost);
     visitProject(writer, project);
     return writer.take();
+}
+
+std::string fingerprintOf(const Project& project) {
+    constexpr std::size_t kDigits = 12;
+    bool lost = false;
+    return sha256(projectBytes(project, lost)).substr(0, kDigits);
 }
 
 void readProjectBytes(const std::string& bytes, Project& project) {

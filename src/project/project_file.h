@@ -22,6 +22,10 @@ private:
 /// @param lost  set to true where a character of some text has no place in the code page and was written as "?"
 [[nodiscard]] std::string projectBytes(const Project& project, bool& lost);
 
+/// Twelve hexadecimal digits that tell one input from another: the first of the SHA-256 of the bytes of its project
+/// file.
+[[nodiscard]] std::string fingerprintOf(const Project& project);
+
 /// Reads a record from the bytes of a project file; bytes behind the record are not looked at. Lengths and counts in
 /// the bytes are never trusted. Then names that an earlier layout of the file did not have are mended: a section
 /// without a DisplayName takes its TableName. On a fault the record holds what was read so far.

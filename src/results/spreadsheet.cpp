@@ -79,6 +79,17 @@ public:
         return workbook_add_worksheet(workbook_, name.c_str());
     }
 
+    /// The document's properties.
+    void describe(const WorkbookHead& head) {
+        std::string title = head.project + (head.identification.empty() ? "" : ", " + head.identification);
+        std::string comments = head.file, keywords = head.program;
+        lxw_doc_properties properties = {};
+        properties.title = title.data();
+        properties.comments = comments.data();
+        properties.keywords = keywords.data();
+        workbook_set_properties(workbook_, &properties);
+    }
+
     /// One format for each kind of cell.
     lxw_format* format(const std::string& mask, bool centred, bool bold, bool red) {
         const auto key = mask + (centred ? "|c" : "|") + (bold ? "b" : "") + (red ? "r" : "");
@@ -103,15 +114,20 @@ private:
     std::map<std::string, lxw_format*> formats_;
 };
 
-void fill(Workbook& workbook, const ResultTable& table, const std::string& title) {
+std::string headerOf(const TableColumn& column, bool withUnit) {
+    if (!withUnit) return column.header;
+    return std::string(trimmed(column.header)) + (column.unit.empty() ? "" : " (" + column.unit + ")");
+}
+
+void fill(Workbook& workbook, const ResultTable& table, const std::string& title, bool withUnits) {
     lxw_worksheet* const sheet = workbook.addSheet(sheetName(title));
     if (sheet == nullptr) throw OutputError("no sheet can be made");
     std::vector<std::size_t> widths(table.columns.size(), 0);
     const auto column = [](std::size_t number) { return static_cast<lxw_col_t>(number); };
     for (std::size_t c = 0; c < table.columns.size(); ++c) {
-        worksheet_write_string(sheet, 0, column(c), table.columns[c].header.c_str(),
-                               workbook.format("", c == 0, true, false));
-        widths[c] = characters(table.columns[c].header);
+        const std::string header = headerOf(table.columns[c], withUnits);
+        worksheet_write_string(sheet, 0, column(c), header.c_str(), workbook.format("", c == 0, true, false));
+        widths[c] = characters(header);
     }
     for (std::size_t r = 0; r < table.rows.size(); ++r) {
         const std::vector<TableCell>& row = table.rows[r];
@@ -139,21 +155,75 @@ void fill(Workbook& workbook, const ResultTable& table, const std::string& title
     worksheet_fit_to_pages(sheet, 1, 0);
 }
 
-}  // namespace
+/// Where the numbers come from, and what stands in the columns.
+void fillAbout(Workbook& workbook, const std::vector<NamedTable>& tables, const WorkbookHead& head) {
+    lxw_worksheet* const sheet = workbook.addSheet("About");
+    if (sheet == nullptr) throw OutputError("no sheet can be made");
+    lxw_row_t line = 0;
+    const auto write = [&](lxw_col_t column, const std::string& text, bool bold = false) {
+        if (!text.empty())
+            worksheet_write_string(sheet, line, column, text.c_str(), workbook.format("", false, bold, false));
+    };
+    const std::pair<const char*, const std::string&> origin[] = {{"Project", head.project},
+                                                                 {"Identification", head.identification},
+                                                                 {"File", head.file},
+                                                                 {"Date", head.date},
+                                                                 {"Program", head.program}};
+    for (const auto& [name, text] : origin) {
+        if (text.empty()) continue;
+        write(0, name, true);
+        write(1, text);
+        ++line;
+    }
+    for (const NamedTable& each : tables) {
+        ++line;
+        write(0, each.title, true);
+        write(1, each.table.note);
+        ++line;
+        for (const TableColumn& column : each.table.columns) {
+            write(0, std::string(trimmed(column.header)));
+            write(1, column.help);
+            write(2, column.unit);
+            ++line;
+        }
+    }
+    worksheet_set_column(sheet, 0, 0, 24.0, nullptr);
+    worksheet_set_column(sheet, 1, 1, 70.0, nullptr);
+}
 
-void saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title) {
+/// Makes a workbook beside the file and puts it in its place when it is whole.
+template <class Body>
+void save(const std::string& file, const WorkbookHead& head, Body&& sheets) {
     try {
         const PrivateFolder folder;
         // The library tells of a file that can't be made on standard error only.
         if (!std::ofstream(folder.file())) throw OutputError(std::strerror(errno));
         Workbook workbook(folder.file());
         if (!workbook.isOpen()) throw OutputError("out of memory");
-        fill(workbook, table, title);
+        workbook.describe(head);
+        sheets(workbook);
         if (const lxw_error error = workbook.close(); error != LXW_NO_ERROR) throw OutputError(lxw_strerror(error));
         replaceFile(file, readFile(folder.file()));
     } catch (const std::system_error& error) {
         throw OutputError(error.code().message());
     }
+}
+
+}  // namespace
+
+void saveSpreadsheet(const std::string& file, const ResultTable& table, const std::string& title,
+                     const WorkbookHead& head) {
+    save(file, head, [&](Workbook& workbook) {
+        fill(workbook, table, title, false);
+        fillAbout(workbook, {{title, table}}, head);
+    });
+}
+
+void saveWorkbook(const std::string& file, const std::vector<NamedTable>& tables, const WorkbookHead& head) {
+    save(file, head, [&](Workbook& workbook) {
+        fillAbout(workbook, tables, head);
+        for (const NamedTable& each : tables) fill(workbook, each.table, each.title, true);
+    });
 }
 
 }  // namespace borvik

@@ -24,6 +24,7 @@
 #include "platform/qt/saved_bytes.h"
 #include "platform/version.h"
 #include "report/report.h"
+#include "results/csv.h"
 #include "results/spreadsheet.h"
 
 namespace borvik {
@@ -225,7 +226,10 @@ void exportTable(const ResultTable& table, QWidget* parent) {
     }
     const QString file = folder.filePath("Results.xlsx");
     try {
-        saveSpreadsheet(file.toStdString(), table, "Results");
+        WorkbookHead head;
+        head.date = QDate::currentDate().toString(Qt::ISODate).toStdString();
+        head.program = kProgramAndVersion;
+        saveSpreadsheet(file.toStdString(), table, "Results", head);
     } catch (const OutputError& error) {
         show(QObject::tr("The workbook can't be written: %1").arg(QString::fromStdString(error.what())));
         return;
@@ -238,6 +242,19 @@ void exportTable(const ResultTable& table, QWidget* parent) {
                     QMessageBox::Save | QMessageBox::Cancel, parent);
     box.setInformativeText(QObject::tr("The table can be saved as a workbook (.xlsx) instead."));
     if (box.exec() == QMessageBox::Save) saveTo(file, parent);
+}
+
+void saveTableAsCsv(const ResultTable& table, QWidget* parent) {
+    const auto file = QtQuestions().fileToSave("Results.csv", "*.csv", "csv");
+    if (!file) return;
+    const DecimalSign sign = QLocale().decimalPoint() == QLatin1String(",") ? DecimalSign::Comma : DecimalSign::Point;
+    try {
+        saveBytes(*file, QByteArray::fromStdString(csvText(table, sign)));
+    } catch (const OutputError& error) {
+        QMessageBox::warning(parent, {},
+                             QObject::tr("%1 can't be written: %2")
+                                 .arg(QString::fromStdString(*file), QString::fromStdString(error.what())));
+    }
 }
 
 }  // namespace borvik

@@ -38,4 +38,7 @@ using PrintCommand = std::string (*)(Session& session, int scope, ReportExtras e
 /// Where no such program is found a box says so and offers to save the file.
 void exportTable(const ResultTable& table, QWidget* parent);
 
+/// Asks for a file and writes the table into it as comma-separated values, with the decimal sign of the desktop.
+void saveTableAsCsv(const ResultTable& table, QWidget* parent);
+
 }  // namespace borvik

@@ -282,7 +282,10 @@ void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {
     menu.addSeparator();
     QAction* exportAll = menu.addAction(tr("Export to Excel"));
     exportAll->setEnabled(model_.columnCount() > 0 && !outOfDate_);
+    QAction* saveAsCsv = menu.addAction(tr("Save as CSV..."));
+    saveAsCsv->setEnabled(exportAll->isEnabled());
     const QAction* chosen = menu.exec(event->globalPos());
+    if (chosen == saveAsCsv && chosen != nullptr) saveTableAsCsv(model_.table(), this);
     if (chosen == copySelection) copy(selectionText(false));
     if (chosen == copyWithHeaders) copy(selectionText(true));
     if (chosen == copyAll) copy(wholeText());

@@ -12,7 +12,7 @@
 
 namespace borvik {
 
-AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
+AboutDialog::AboutDialog(const QString& fingerprint, QWidget* parent) : QDialog(parent) {
     setObjectName("frmabout");
     setWindowTitle("About Borvik");
     auto* title = new QLabel(kApplicationTitle);
@@ -30,22 +30,27 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
     link->setTextInteractionFlags(Qt::TextBrowserInteraction);
     auto* build = new QLabel(tr("Qt %1, %2").arg(QLatin1String(qVersion()), QSysInfo::prettyProductName()));
 
+    auto* input = new QLabel(fingerprint.isEmpty() ? QString() : tr("Fingerprint of the input: %1").arg(fingerprint));
+    input->setObjectName("lblFingerprint");
+    input->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    input->setToolTip(tr("The same for the same project file: first digits of its SHA-256"));
+
     auto* copy = new QPushButton(tr("Copy to clipboard"));
     copy->setAutoDefault(false);
     auto* cmdOK = new QPushButton("OK");
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(copy, &QPushButton::clicked, this, [version, build] {
+    connect(copy, &QPushButton::clicked, this, [version, build, input] {
         QApplication::clipboard()->setText(QString::fromLatin1(kApplicationTitle) + "\n" + version->text() + "\n" +
-                                           build->text());
+                                           build->text() + "\n" + input->text());
     });
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(copy);
     buttons->addStretch();
     buttons->addWidget(cmdOK);
     auto* layout = new QVBoxLayout(this);
-    for (QLabel* label : {title, version, purpose, link, build}) layout->addWidget(label);
+    for (QLabel* label : {title, version, purpose, link, build, input}) layout->addWidget(label);
     layout->addSpacing(12);
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);

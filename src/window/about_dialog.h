@@ -9,7 +9,8 @@ class AboutDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit AboutDialog(QWidget* parent);
+    /// @param fingerprint  of the input at hand; empty: not shown
+    AboutDialog(const QString& fingerprint, QWidget* parent);
 };
 
 }  // namespace borvik

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "boxes/undo_keys.h"
+#include "project/project_file.h"
 #include "views/icons.h"
 #include "views/printing.h"
 #include "window/about_dialog.h"
@@ -221,7 +222,7 @@ void MainWindow::buildHelpMenu() {
           {"mnuTheory", "Theory Manual", {}, {}, [this] { showHelp(HelpPage::Theory, services_.messages); }},
           {"mnuHjalpLinje1"},
           {"mnuAbout", "&About Borvik", {}, themeIcon("help-about", QStyle::SP_MessageBoxInformation), [this] {
-               AboutDialog(this).exec();
+               AboutDialog(QString::fromStdString(fingerprintOf(session_.project)), this).exec();
            }}});
 }
 

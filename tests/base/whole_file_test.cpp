@@ -8,6 +8,7 @@
 #include <string>
 #include <system_error>
 
+#include "base/sha256.h"
 #include "support/full_disk.h"
 #include "support/temp_folder.h"
 
@@ -171,6 +172,15 @@ TEST(ReadFile, readsEveryByte) {
     EXPECT_EQ(readFile(folder.file("a")), bytes);
     EXPECT_THROW((void)readFile(folder.path().string()), std::system_error) << "a folder";
     EXPECT_THROW((void)readFile(folder.file("none")), std::system_error);
+}
+
+// FIPS 180-4's examples, and lengths on both sides of where another block begins.
+TEST(Sha256, hasThePublishedDigests) {
+    EXPECT_EQ(sha256(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+    EXPECT_EQ(sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(sha256("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
+              "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
+    EXPECT_EQ(sha256(std::string(1000000, 'a')), "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
 }
 
 }  // namespace

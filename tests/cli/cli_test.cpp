@@ -134,6 +134,8 @@ TEST_F(CommandLine, exitCodesTellWhatHappened) {
         {"--from-json wrong.json", 3, "wrong.json: there is no \"Spam\""},
         {"--from-json none.json", 5, "none.json: can't be read"},
         {"--from-json beam.json good.brvk", 2, "borvik-calc: "},
+        {"--table MyVz --csv x.brvk good.brvk", 2, "borvik-calc: --csv: would overwrite"},
+        {"--csv x.csv good.brvk", 2, "borvik-calc: --csv requires --table"},
         {"cut.brvk", 5, "cut.brvk: "},
         {"empty.brvk", 5, "empty.brvk: "},
         {".", 5, ".: "},

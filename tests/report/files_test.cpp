@@ -63,7 +63,7 @@ TEST(SpreadsheetFile, holdsTheTextsOfTheTableWithNumbersAsNumbers) {
     for (const TableEntry& entry : tableEntries()) {
         const ResultTable table = entry.fill(session.project, *session.results);
         const std::string file = folder.file(std::string(entry.name) + ".xlsx");
-        ASSERT_NO_THROW(saveSpreadsheet(file, table, entry.title));
+        ASSERT_NO_THROW(saveSpreadsheet(file, table, entry.title, {}));
         const Answer read = readBack(file);
         ASSERT_EQ(read.exitCode, 0) << read.output;
         std::vector<std::string> lines = linesOf(read.output);
@@ -100,7 +100,7 @@ TEST(SpreadsheetFile, emptyTableGivesItsHeaders) {
     const TempFolder folder;
     ResultTable table;
     table.columns = {{"Support", "", ""}, {"Rz - max", "kN", ""}};
-    ASSERT_NO_THROW(saveSpreadsheet(folder.file("empty.xlsx"), table, "a/b:[c]"));
+    ASSERT_NO_THROW(saveSpreadsheet(folder.file("empty.xlsx"), table, "a/b:[c]", {}));
     const std::vector<std::string> lines = linesOf(readBack(folder.file("empty.xlsx")).output);
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[1], "1\t2\ts\tGeneral\t'Rz - max'");
@@ -108,7 +108,7 @@ TEST(SpreadsheetFile, emptyTableGivesItsHeaders) {
 
 TEST(SpreadsheetFile, failureLeavesTheOldFileAndNothingElse) {
     const TempFolder folder;
-    EXPECT_THROW(saveSpreadsheet(folder.file("no/such/folder.xlsx"), {}, "T"), OutputError);
+    EXPECT_THROW(saveSpreadsheet(folder.file("no/such/folder.xlsx"), {}, "T", {}), OutputError);
     EXPECT_EQ(folder.count(), 0);
 }
 
@@ -120,6 +120,25 @@ TEST(SpreadsheetFile, commandLineWritesIt) {
     EXPECT_EQ(made.exitCode, 0) << made.output;
     EXPECT_EQ(made.output, "");
     EXPECT_EQ(linesOf(readBack(folder.file("r.xlsx")).output).size(), 5U + 4U * 5U + 2U);
+}
+
+TEST(SpreadsheetFile, aWorkbookHasAllTablesWithTheirUnits) {
+    const TempFolder folder;
+    calculatedAndSaved(Sample::OneCrane, folder.file("p.brvk"));
+    const Answer made =
+        run(std::string(BORVIK_CALC) + " --quiet " + folder.file("p.brvk") + " --workbook " + folder.file("all.xlsx"));
+    EXPECT_EQ(made.exitCode, 0) << made.output;
+    const Answer read =
+        run("/usr/bin/python3 -c '\n"
+            "import openpyxl, sys\n"
+            "book = openpyxl.load_workbook(sys.argv[1])\n"
+            "print(*book.sheetnames, sep=\"|\")\n"
+            "print(book[\"MyVz maxmin\"][\"B1\"].value, book[\"About\"][\"B1\"].value)\n"
+            "' '" +
+            folder.file("all.xlsx") + "'");
+    EXPECT_EQ(read.output,
+              "About|ULS|ULS + SLS|ULS + SLS + FLS|Summary|MyVz maxmin|MzVy maxmin|Reactions|UzUy|Static|Fatigue|"
+              "FLS - Crane 1|Intermediate steps\nMy-max (kNm) Hall Åmål\n");
 }
 
 #ifdef BORVIK_PDF

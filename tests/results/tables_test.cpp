@@ -8,7 +8,9 @@
 #include "base/number_text.h"
 #include "calculation/crane_drive.h"
 #include "project/project_file.h"
+#include "results/csv.h"
 #include "results/result_tree.h"
+#include "results/table_cells.h"
 #include "support/golden.h"
 #include "support/samples.h"
 
@@ -135,6 +137,16 @@ TEST(TableText, isTabSeparatedWithAllColumns) {
     table.rows = {{{"Heading", Emphasis::Heading, {}, {}}}, {{"x", {}, {}, {}}, {"1.0", {}, 1.0, "0.0"}}};
     EXPECT_EQ(tabSeparated(table), "A \tB\nHeading\t\nx\t1.0\n");
     EXPECT_EQ(tabSeparated(table, false), "Heading\t\nx\t1.0\n");
+}
+
+TEST(Csv, hasUnitsAndPlacesToPlotByAndEitherDecimalSign) {
+    ResultTable table;
+    table.columns = {{"Beam/Pos(mm) ", "", ""}, {"My-max", "kNm", ""}, {"Remark", "", ""}};
+    table.rows = {{textCell("1 / 500"), numberCell(12.5, "0.0"), textCell("a, \"b\"; 1.5")}, {textCell("Note:")}};
+    EXPECT_EQ(csvText(table, DecimalSign::Point),
+              "Beam,Pos (mm),My-max (kNm),Remark\r\n1,500,12.5,\"a, \"\"b\"\"; 1.5\"\r\nNote:,\r\n");
+    EXPECT_EQ(csvText(table, DecimalSign::Comma),
+              "Beam;Pos (mm);My-max (kNm);Remark\r\n1;500;12,5;\"a, \"\"b\"\"; 1.5\"\r\nNote:;\r\n");
 }
 
 }  // namespace

@@ -161,7 +161,7 @@ TEST_F(HelpInTheProgram, f1InEachInputFormOpensItsOwnPage) {
     }
     CranePositionsDialog steps(nullptr, nullptr);
     expectOwnPage(steps, "crane-positions.md");
-    AboutDialog about(nullptr);
+    AboutDialog about("0123456789ab", nullptr);
     expectOwnPage(about, "index.md");
 }
 

@@ -14,6 +14,7 @@
 #include "pictures/info_pictures.h"
 #include "platform/messages.h"
 #include "platform/version.h"
+#include "project/project_file.h"
 #include "sheet.h"
 #include "tutorial.h"
 #include "views/detailed_result_dialog.h"
@@ -169,7 +170,7 @@ int main(int argc, char** argv) {
     CranePositionsDialog steps(window.calculation(), &window);
     steps.show();
     camera.take(steps, "steps");
-    AboutDialog about(&window);
+    AboutDialog about(QString::fromStdString(fingerprintOf(session.project)), &window);
     about.show();
     camera.take(about, "about");
 
