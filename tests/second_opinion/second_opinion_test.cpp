@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "analysis/steps.h"
+#include "calculation/calculation.h"
 #include "second_opinion/interaction.h"
 #include "second_opinion/solved_positions.h"
 #include "support/samples.h"
@@ -81,6 +82,62 @@ TEST(SecondOpinion, looksAtEveryProjectAndChangesNothing) {
             }
         }
     }
+}
+
+/// One wheel of 100 kN and 10 kN sideways in the middle of HEA 300 over 6 m, rail Pl 50x30.
+TEST(SecondOpinion, oneWheelByHand) {
+    Session session(LoadTables(BORVIK_SOURCE_DIR "/data"));
+    Project& project = session.project;
+    for (int span = 2; span <= 3; ++span) {
+        project.Span(span) = 0;
+        project.SpanSection(span) = {};
+    }
+    project.Span(1) = 6000;
+    project.V = project.H = {};
+    project.V(1) = 100;
+    project.H(1) = 10;
+    project.SelfWeight = project.RailOn = false;
+    project.Gangway = 0;
+    project.PsiV1 = project.PsiH1 = project.LfULS = 1;
+    project.Fixerad = true;
+    project.Position = 3000;
+    MessageList messages;
+    Progress progress;
+    ASSERT_TRUE(Calculate(session, messages, progress));
+    const SecondOpinion opinion = secondOpinion(session);
+    ASSERT_EQ(opinion.spans.front().positions.size(), 1u) << "all extremes at the only position";
+    const PositionOpinion& only = opinion.spans.front().positions.front();
+
+    const double T = 10e3 * (30 + 145) + 100e3 * 50 / 4;
+    const LineSection line{6310e4, 85.6e4, 1.2e12, 0};
+    const double k = std::sqrt(kLineG * line.It / (kLineE * line.Iw));
+    const double B = T / (2 * k) * std::tanh(k * 3000);
+    const double phi = T / (2 * kLineG * line.It) * (3000 - std::tanh(k * 3000) / k);
+    EXPECT_NEAR(only.B, B, 1e-4 * B);
+    EXPECT_NEAR(only.phi, phi, 1e-4 * phi);
+    EXPECT_NEAR(only.Tw, T / 2, 1e-4 * T) << "beside the wheel";
+    const double My = 100e3 * 1500, Mz = 10e3 * 1500 + My * phi;
+    EXPECT_NEAR(only.Mz, Mz, 1e-4 * Mz);
+    const double tip = My * 145 / 18260e4 + 150 * (Mz / line.Iz + 138 * B / line.Iw);
+    EXPECT_NEAR(-only.stresses.tips[1], tip, 2e-4 * tip) << "top flange, on the side that the load comes from";
+    ASSERT_TRUE(only.annex);
+    EXPECT_NEAR(only.annex->of.BRd, 355 * 300.0 * 300 * 14 / 4 / 1.5 * 276 / project.GammaM1, 1) << "class 3";
+    EXPECT_NEAR(only.sagging.Mcr, *only.factor * My, 1e-5 * only.sagging.Mcr);
+    EXPECT_EQ(only.hogging.My, 0);
+}
+
+/// Narrow strips of the section added up.
+TEST(WarpingSection, monosymmetryIsTheIntegral) {
+    const SectionRecord& section = sessionOf(Sample::Together).project.SpanSection(2);
+    ASSERT_NE(section.b1, section.b2);
+    double sum = 0;
+    constexpr int kStrips = 20000;
+    for (int i = 0; i < kStrips; ++i) {
+        const double above = (i + 0.5) * section.h / kStrips, z = above - section.EzEl;
+        const double b = above < section.tf2 ? section.b2 : above > section.h - section.tf1 ? section.b1 : section.tw;
+        sum += z * (z * z + b * b / 12) * b * section.h / kStrips;
+    }
+    EXPECT_NEAR(WarpingSection(section).line.zj, section.Zs - sum / (2 * section.Iy), 0.1);
 }
 
 TEST(SecondOpinion, lateralSupportsRaiseTheFactorAndSenselessInputIsAWord) {
