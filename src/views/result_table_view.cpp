@@ -331,7 +331,7 @@ ResultTablePane::ResultTablePane(const QString& listName, QWidget* parent) : QWi
     split->setChildrenCollapsible(false);
     auto* head = new QHBoxLayout;
     head->addWidget(title_);
-    head->addWidget(outOfDate_);
+    head->addWidget(outOfDate_, 1);
     head->addWidget(note_, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -358,6 +358,8 @@ void ResultTablePane::clear() {
 void ResultTablePane::setOutOfDate(bool outOfDate) {
     const bool marked = outOfDate && list_->model()->rowCount() > 0;
     outOfDate_->setVisible(marked);
+    // The warning takes the hint's room: side by side in a narrow pane they would be broken into many lines.
+    note_->setVisible(!marked && !note_->text().isEmpty());
     list_->setOutOfDate(marked);
 }
 
