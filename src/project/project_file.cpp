@@ -184,6 +184,12 @@ std::string projectBytes(const Project& project, bool& lost) {
     return writer.take();
 }
 
+bool sameRecord(const Project& one, const Project& other) {
+    if (one == other) return true;
+    bool lost = false;
+    return projectBytes(one, lost) == projectBytes(other, lost) && !lost;
+}
+
 std::string fingerprintOf(const Project& project) {
     constexpr std::size_t kDigits = 12;
     bool lost = false;

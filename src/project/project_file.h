@@ -22,6 +22,10 @@ private:
 /// @param lost  set to true where a character of some text has no place in the code page and was written as "?"
 [[nodiscard]] std::string projectBytes(const Project& project, bool& lost);
 
+/// Whether two records hold the same: like ==, but a number that is none (a damaged file may hold one) is the same as
+/// itself, so that a project that nobody touched does not count as changed.
+[[nodiscard]] bool sameRecord(const Project& one, const Project& other);
+
 /// Twelve hexadecimal digits that tell one input from another: the first of the SHA-256 of the bytes of its project
 /// file.
 [[nodiscard]] std::string fingerprintOf(const Project& project);

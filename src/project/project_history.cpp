@@ -2,14 +2,20 @@
 
 #include <utility>
 
+#include "project/project_file.h"
+
 namespace borvik {
 
 ProjectHistory::ProjectHistory(const Project& project, const std::string& fileName) {
     replaced("", project, fileName);
 }
 
+bool ProjectHistory::unsaved(const Project& project) const {
+    return !sameRecord(project, present().document->saved);
+}
+
 bool ProjectHistory::changed(const std::string& what, const Project& project) {
-    if (project == present().project) return false;
+    if (sameRecord(project, present().project)) return false;
     steps_.add({what, project, present().document});
     return true;
 }

@@ -42,7 +42,7 @@ public:
     /// The project has been written to that file.
     void saved(const Project& project, const std::string& path);
 
-    [[nodiscard]] bool unsaved(const Project& project) const { return !(project == present().document->saved); }
+    [[nodiscard]] bool unsaved(const Project& project) const;
     [[nodiscard]] const ProjectStep& present() const { return steps_.present(); }
 
     /// The change that undo would take back and that redo would make again; null where there is none.

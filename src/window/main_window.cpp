@@ -14,6 +14,7 @@
 
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
+#include "project/project_file.h"
 #include "views/detailed_result_dialog.h"
 #include "window/help.h"
 
@@ -249,7 +250,7 @@ void MainWindow::keepInside() {
 /// What the window derives from an input that has arrived: a file's, an earlier step's, a form's. It belongs to the
 /// step that stands and is no change of the user's.
 void MainWindow::settleInput() {
-    const bool asRemembered = session_.project == history_.present().project;
+    const bool asRemembered = sameRecord(session_.project, history_.present().project);
     session_.project.BeamChecked = true;
     keepInside();
     if (asRemembered) history_.settled(session_.project);

@@ -4,6 +4,7 @@
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
 #include "project/input_ranges.h"
+#include "project/project_file.h"
 #include "results/tables.h"
 #include "window/main_window.h"
 
@@ -27,7 +28,7 @@ bool MainWindow::inputIsCalculated() const {
     Project input = session_.project;
     input.Proj = calculation_->project.Proj;
     input.Ident = calculation_->project.Ident;
-    return input == calculation_->project;
+    return sameRecord(input, calculation_->project);
 }
 
 /// After a change that may have led back to what was calculated.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace borvik {
 namespace {
 
@@ -50,6 +52,15 @@ TEST_F(History, knowsTheSavedStateOfEachProject) {
     history.settled(project);
     EXPECT_FALSE(history.unsaved(project)) << "what the program derives is no change";
     EXPECT_EQ(*history.redoName(), "to b") << "and no step";
+}
+
+TEST_F(History, takesANumberThatIsNoneForWhatItIs) {
+    project.GammaM0 = std::numeric_limits<double>::quiet_NaN();
+    history.replaced("Open", project, "damaged.brvk");
+    EXPECT_FALSE(history.unsaved(project)) << "opened, not changed";
+    EXPECT_FALSE(history.changed("Setup", project));
+    change("a");
+    EXPECT_TRUE(history.unsaved(project));
 }
 
 TEST_F(History, isBounded) {
