@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fault.h"
 #include "base/whole_file.h"
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
@@ -11,6 +12,7 @@
 #include "notes/notes.h"
 #include "output.h"
 #include "project/project_file.h"
+#include "reactions/support_reactions.h"
 #include "results/ratios.h"
 #include "second_opinion/second_opinion.h"
 
@@ -56,14 +58,21 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
     std::optional<SecondOpinion> opinion;
     if (session.Calculated && options.secondOpinion) opinion = secondOpinion(session, options.opinionOptions);
+    std::optional<SupportReactions> reactions;
     int exitCode = outcome(session, options);
+    if (session.Calculated && options.wantsReactions()) try {
+            reactions = supportReactions(session.project, *session.results);
+        } catch (const RuntimeFault& fault) {
+            console.show(std::string("no reactions for supports: ") + fault.what());
+            exitCode = std::max<int>(exitCode, kFault);
+        }
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.
     const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();
     if (!onLoads.empty()) console.show(onLoads);
     try {
-        for (const std::string& remark :
-             outputs.write({session, messages, file, opinion ? &*opinion : nullptr, fingerprint}))
+        for (const std::string& remark : outputs.write({session, messages, file, opinion ? &*opinion : nullptr,
+                                                        reactions ? &*reactions : nullptr, fingerprint}))
             console.show(remark);
     } catch (const OutputError& error) {
         console.show(error.what());

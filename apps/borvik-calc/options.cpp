@@ -40,6 +40,11 @@ std::string tableNames() {
     return listOf(names);
 }
 
+std::string lowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
+}
+
 /// "2:3000" or "2:3000:150".
 std::optional<SpanSupport> lateralSupport(const std::string& text) {
     SpanSupport support;
@@ -96,6 +101,14 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--warping-free", options.opinionOptions.freeWarping,
                  "Girders jointed at the supports: their ends warp alone")
         ->needs(opinion);
+    app.add_flag("--reactions", options.reactions,
+                 "Print the reactions for the design of supports, by parts and by position of the cranes; --json then "
+                 "holds them too");
+    app.add_option("--reactions-csv", options.reactionsCsv,
+                   "Write each of their extremes with what acts at all supports then as comma-separated values")
+        ->type_name("FILE");
+    app.add_option("--reactions-xlsx", options.reactionsXlsx, "Write the same to a spreadsheet, a sheet each support")
+        ->type_name("FILE");
     app.add_option("--json", options.json,
                    "Write all results as JSON; \"-\" is standard output; with several projects a folder")
         ->type_name("FILE");
@@ -111,11 +124,11 @@ void addOptions(CLI::App& app, Options& options) {
         ->type_name("FILE")
         ->needs("--table")
         ->excludes("--xlsx");
-    app.add_option("--decimal", options.decimal, "Decimal sign of --csv; with a comma, semicolons part the cells")
+    app.add_option("--decimal", options.decimal,
+                   "Decimal sign of --csv and --reactions-csv; with a comma, semicolons part the cells")
         ->type_name("point|comma")
         ->transform(CLI::Transformer(decimals))
-        ->option_text("point|comma (default: point)")
-        ->needs("--csv");
+        ->option_text("point|comma (default: point)");
     app.add_option("--workbook", options.workbook, "Write all tables to a spreadsheet, a sheet each")
         ->type_name("FILE");
     app.add_flag("--fingerprint", options.fingerprint,
@@ -128,11 +141,10 @@ void addOptions(CLI::App& app, Options& options) {
             ->transform(CLI::Transformer(scopes))
             ->option_text("uls|uls-sls|all|compressed (default: all)")
             ->needs(report);
-        app.add_flag("--with-positions", options.extras.positions,
-                     "The report shows where the cranes stand for each governing check")
-            ->needs(report);
-        app.add_flag("--with-notes", options.extras.notes, "The report ends with the notes for the checking engineer")
-            ->needs(report);
+        for (const ExtraChapter& chapter : extraChapters())
+            app.add_flag("--with-" + lowerCase(chapter.name), options.extras.*chapter.wanted,
+                         std::string("The report tells ") + chapter.holds)
+                ->needs(report);
         CLI::Option* picture = app.add_option("--png", options.picture, "File of the diagram; .svg makes an SVG of it");
         picture->type_name("FILE");
         CLI::Option* diagram =
@@ -188,9 +200,8 @@ bool isDevice(const std::string& path) {
     return fs::is_other(path, unknown);
 }
 
-bool endsWith(std::string text, std::string_view ending) {
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
-    return text.ends_with(ending);
+bool endsWith(const std::string& text, std::string_view ending) {
+    return lowerCase(text).ends_with(ending);
 }
 
 /// An output must never take the place of a project, its own or another: a forgotten file name before "*.brvk" makes
@@ -200,9 +211,14 @@ void checkOutputs(const Options& options) {
         const char* option;
         const std::string& file;
     };
-    const Output outputs[] = {{"--json", options.json},     {"--xlsx", options.xlsx},
-                              {"--csv", options.csv},       {"--workbook", options.workbook},
-                              {"--report", options.report}, {"--png", options.picture},
+    const Output outputs[] = {{"--json", options.json},
+                              {"--xlsx", options.xlsx},
+                              {"--csv", options.csv},
+                              {"--workbook", options.workbook},
+                              {"--reactions-csv", options.reactionsCsv},
+                              {"--reactions-xlsx", options.reactionsXlsx},
+                              {"--report", options.report},
+                              {"--png", options.picture},
                               {"--save", options.save}};
     for (const Output& output : outputs) {
         if (output.file.empty() || output.file == "-") continue;
@@ -237,6 +253,10 @@ void checkTogether(const Options& options) {
         throw CLI::ValidationError("--xlsx", "takes the table of a single project");
     if (options.projects() > 1 && !options.workbook.empty())
         throw CLI::ValidationError("--workbook", "takes the tables of a single project");
+    if (options.projects() > 1 && !(options.reactionsCsv.empty() && options.reactionsXlsx.empty()))
+        throw CLI::ValidationError("--reactions-csv", "and --reactions-xlsx take the reactions of a single project");
+    if (options.decimal && options.csv.empty() && options.reactionsCsv.empty())
+        throw CLI::ValidationError("--decimal", "needs --csv or --reactions-csv");
     if (options.projects() > 1 && !options.csv.empty() && options.csv != "-")
         throw CLI::ValidationError("--csv", "takes the table of a single project");
     if (options.projects() > 1 && !options.picture.empty())

@@ -23,29 +23,34 @@ struct Options {
     bool notes = false;          ///< print the notes for the checking engineer
     bool secondOpinion = false;  ///< print torsion and buckling by finite elements, and put them into the JSON
     SecondOpinionOptions opinionOptions;
-    std::string json;                          ///< file, "-" for standard output, or folder; empty: none
-    std::string table;                         ///< name of a result table to print; empty: none
-    std::string diagram;                       ///< name of a picture to save as `picture`; empty: none
-    std::string picture;                       ///< file of the picture, .png or .svg
-    std::string at;                            ///< where the cranes of the diagram stand; empty: nowhere
-    std::string xlsx;                          ///< spreadsheet file that takes the table instead; empty: none
-    std::string csv;                           ///< CSV file that takes the table; empty: none
-    std::string workbook;                      ///< spreadsheet file that takes all tables; empty: none
-    DecimalSign decimal = DecimalSign::Point;  ///< of CSV
-    bool fingerprint = false;                  ///< print the fingerprint of the input
-    std::string report;                        ///< PDF file of the report; empty: none
-    ReportScope scope = ReportScope::All;      ///< of the report
-    ReportExtras extras;                       ///< chapters of the report that are asked for
-    std::string save;                          ///< project file to write; empty: none
+    bool reactions = false;                ///< print the reactions for supports, and put them into the JSON
+    std::string reactionsCsv;              ///< CSV file of what acts together; empty: none
+    std::string reactionsXlsx;             ///< workbook of it, a sheet for each support; empty: none
+    std::string json;                      ///< file, "-" for standard output, or folder; empty: none
+    std::string table;                     ///< name of a result table to print; empty: none
+    std::string diagram;                   ///< name of a picture to save as `picture`; empty: none
+    std::string picture;                   ///< file of the picture, .png or .svg
+    std::string at;                        ///< where the cranes of the diagram stand; empty: nowhere
+    std::string xlsx;                      ///< spreadsheet file that takes the table instead; empty: none
+    std::string csv;                       ///< CSV file that takes the table; empty: none
+    std::string workbook;                  ///< spreadsheet file that takes all tables; empty: none
+    std::optional<DecimalSign> decimal;    ///< of CSV; none: a point
+    bool fingerprint = false;              ///< print the fingerprint of the input
+    std::string report;                    ///< PDF file of the report; empty: none
+    ReportScope scope = ReportScope::All;  ///< of the report
+    ReportExtras extras;                   ///< chapters of the report that are asked for
+    std::string save;                      ///< project file to write; empty: none
     std::optional<double> failAbove;
     std::string craneLoads;  ///< file of crane data whose loads are printed, instead of projects; empty: none
     bool quiet = false;
 
+    [[nodiscard]] bool wantsReactions() const { return reactions || !reactionsCsv.empty() || !reactionsXlsx.empty(); }
     [[nodiscard]] std::size_t projects() const { return useDefault || !fromJson.empty() ? 1 : files.size(); }
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
-        return summary || (json.empty() && save.empty() && workbook.empty() && !fingerprint && table.empty() &&
-                           diagram.empty() && report.empty() && !notes && !secondOpinion && !quiet);
+        return summary || (!reactions && reactionsCsv.empty() && reactionsXlsx.empty() && json.empty() &&
+                           save.empty() && workbook.empty() && !fingerprint && table.empty() && diagram.empty() &&
+                           report.empty() && !notes && !secondOpinion && !quiet);
     }
 };
 

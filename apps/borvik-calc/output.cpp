@@ -14,6 +14,7 @@
 #include "report_file.h"
 #include "results/json.h"
 #include "results/notes_text.h"
+#include "results/reaction_tables.h"
 #include "results/second_opinion_text.h"
 #include "results/spreadsheet.h"
 #include "results/summary.h"
@@ -75,13 +76,14 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (options_.notes) attempt([&] { writeNotes(run); });
     if (options_.secondOpinion) attempt([&] { writeSecondOpinion(run); });
+    if (run.reactions != nullptr) attempt([&] { writeReactions(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
 }
 
 void Outputs::writeJson(const FinishedRun& run) {
-    const std::string text =
-        resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes, run.opinion);
+    const std::string text = resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes,
+                                         run.opinion, options_.reactions ? run.reactions : nullptr);
     if (options_.json == "-") {
         print(text);
         return;
@@ -117,11 +119,13 @@ void Outputs::writeTable(const FinishedRun& run) {
     }
     const ResultTable table = findTable(options_.table)->fill(run.session.project, *run.session.results);
     if (!options_.csv.empty() && options_.csv != "-") {
-        naming(options_.csv, [&] { replaceFile(options_.csv, csvText(table, options_.decimal)); });
+        naming(options_.csv,
+               [&] { replaceFile(options_.csv, csvText(table, options_.decimal.value_or(DecimalSign::Point))); });
         return;
     }
     const std::string text = options_.projects() > 1 ? run.file.value_or("") + "\n" : "";
-    print(text + (options_.csv.empty() ? tabSeparated(table) : csvText(table, options_.decimal)));
+    print(text +
+          (options_.csv.empty() ? tabSeparated(table) : csvText(table, options_.decimal.value_or(DecimalSign::Point))));
 }
 
 void Outputs::writeSpreadsheet(const FinishedRun& run) {
@@ -151,6 +155,20 @@ void Outputs::writeNotes(const FinishedRun& run) {
 
 void Outputs::writeSecondOpinion(const FinishedRun& run) {
     printText(run, secondOpinionText(run.session, run.opinion != nullptr ? *run.opinion : SecondOpinion{}));
+}
+
+void Outputs::writeReactions(const FinishedRun& run) {
+    const Session& session = run.session;
+    if (options_.reactions) printText(run, reactionsText(session.project, *session.results, *run.reactions));
+    if (!options_.reactionsCsv.empty())
+        naming(options_.reactionsCsv, [&] {
+            replaceFile(options_.reactionsCsv,
+                        csvText(actingTogether(*run.reactions, 0), options_.decimal.value_or(DecimalSign::Point)));
+        });
+    if (!options_.reactionsXlsx.empty())
+        naming(options_.reactionsXlsx, [&] {
+            saveWorkbook(options_.reactionsXlsx, sheetsOf(*run.reactions, session.project.NofSpans + 1), headOf(run));
+        });
 }
 
 void Outputs::printText(const FinishedRun& run, const std::string& text) {

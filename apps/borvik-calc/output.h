@@ -8,6 +8,7 @@
 #include "base/whole_file.h"
 #include "calculation/session.h"
 #include "options.h"
+#include "reactions/support_reactions.h"
 
 namespace borvik {
 
@@ -27,9 +28,10 @@ void naming(const std::string& file, Write write) {
 struct FinishedRun {
     const Session& session;
     const std::vector<std::string>& messages;
-    std::optional<std::string> file;         ///< as given; nothing for the default project
-    const SecondOpinion* opinion = nullptr;  ///< where it was asked for and there are results
-    std::string fingerprint;                 ///< of the input as it was read
+    std::optional<std::string> file;              ///< as given; nothing for the default project
+    const SecondOpinion* opinion = nullptr;       ///< where it was asked for and there are results
+    const SupportReactions* reactions = nullptr;  ///< the same
+    std::string fingerprint;                      ///< of the input as it was read
 };
 
 /// Writes what the options ask for, one project after the other.
@@ -51,6 +53,7 @@ private:
     void writeSummary(const FinishedRun& run);
     void writeNotes(const FinishedRun& run);
     void writeSecondOpinion(const FinishedRun& run);
+    void writeReactions(const FinishedRun& run);
     /// Texts of several projects stand apart, each under its name.
     void printText(const FinishedRun& run, const std::string& text);
 

@@ -83,6 +83,7 @@ void RunStatic(Run& run) {
     const RailRecord& rail = railOf(project, run.tables);
     UpdateSections(run.tables, project);
     run.loads.NCranes = project.NofCranes;
+    run.results.Rail = rail;
 
     setUlsLoads(project, rail, run.loads);
     UlsResults& uls = run.results.Uls;

@@ -18,6 +18,7 @@ struct Results {
     SlsResults Sls;
     CheckResults Checks;
     FatigueResults Fatigue;
+    RailRecord Rail;           ///< with which it was calculated
     PositionLog Steps;         ///< of the last walk that wrote one
     double SecondsStatic = 0;  ///< time of the ULS and SLS part
     double Seconds = 0;        ///< time of the whole run

@@ -148,6 +148,18 @@ const char* nameOf(ReportScope scope) {
 
 }  // namespace
 
+std::span<const ExtraChapter> extraChapters() {
+    static constexpr ExtraChapter kChapters[] = {
+        {&ReportExtras::positions, "Positions", "governing positions of the cranes",
+         "where the cranes stand for each governing check"},
+        {&ReportExtras::reactions, "Reactions", "reactions for supports",
+         "the reactions for the design of the supports, by parts and by position of the cranes"},
+        {&ReportExtras::notes, "Notes", "notes for the checking engineer",
+         "in its last chapter what the checks assume and leave out"},
+    };
+    return kChapters;
+}
+
 bool canReport(const Session& session) {
     return session.Calculated && session.results.has_value();
 }
@@ -164,6 +176,7 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
     if (extras.positions)
         printPositions(report, scope != ReportScope::Uls,
                        scope == ReportScope::All || scope == ReportScope::Compressed);
+    if (extras.reactions) printSupportReactions(report);
     if (extras.notes) PrintNotes(page, *session.notes);
 }
 

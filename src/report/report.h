@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ctime>
+#include <span>
 #include <string>
 
 #include "calculation/session.h"
@@ -19,8 +20,19 @@ enum class ReportScope : int {
 /// Chapters that a report has where they are asked for, behind the others, which are the same with and without.
 struct ReportExtras {
     bool positions = false;  ///< where the cranes stand for each governing check, as pictures
+    bool reactions = false;  ///< the reactions for the design of the supports
     bool notes = false;      ///< the notes for the checking engineer
 };
+
+/// A chapter that can be asked for: in the menu, in the print dialog and, by "--with-" and its name, in a terminal.
+struct ExtraChapter {
+    bool ReportExtras::*wanted;
+    const char* name;   ///< "Positions"
+    const char* title;  ///< "governing positions of the cranes"
+    const char* holds;  ///< what the report tells there
+};
+/// All of them, in the order of the report.
+[[nodiscard]] std::span<const ExtraChapter> extraChapters();
 
 /// When a report is printed; the local date and clock time as they are to be shown.
 struct ReportTime {

@@ -46,6 +46,10 @@ void PrintFlsCrane2(Report& report);
 /// @param withDeflections, withFatigue  those checks too
 void printPositions(Report& report, bool withDeflections, bool withFatigue);
 
+/// "Reactions for supports:" on a new page: every extreme by its parts, of the ultimate limit state with the wheels and
+/// what acts at all supports then.
+void printSupportReactions(Report& report);
+
 /// "Notes for the checking engineer:" on a new page: the notes in their order, then the assumptions.
 void PrintNotes(ReportPage& page, const Notes& notes);
 

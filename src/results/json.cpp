@@ -6,6 +6,7 @@
 #include "exchange/input_json.h"
 #include "notes/notes.h"
 #include "results/ratios.h"
+#include "results/reaction_tables.h"
 #include "second_opinion/second_opinion.h"
 
 namespace borvik {
@@ -302,6 +303,34 @@ Json json(const SecondOpinion& opinion) {
     return object;
 }
 
+Json json(const SupportForces& forces) {
+    Json array = Json::array();
+    for (const SupportForce& force : forces) array.push_back({{"Rz", force.Rz}, {"Ry", force.Ry}});
+    return array;
+}
+
+Json json(const SupportReactions& reactions) {
+    Json object{{"Eccentricity", reactions.eccentricity}, {"Sets", Json::array()}};
+    for (const ReactionSet& set : reactions.sets) {
+        Json of{{"Loads", nameOf(set)}, {"Extremes", Json::array()}};
+        for (const ReactionCase& each : set.cases) {
+            Json wheels = Json::array();
+            for (const PlacedWheel& wheel : each.wheels)
+                wheels.push_back({{"Wheel", wheel.number}, {"X", wheel.x}, {"V", wheel.V}, {"H", wheel.H}});
+            of["Extremes"].push_back({{"Support", each.support},
+                                      {"Extreme", nameOf(each)},
+                                      {"OfCranesAlone", each.ofCranesAlone},
+                                      {"Wheels", wheels},
+                                      {"Reactions", json(each.total)},
+                                      {"G", json(each.dead)},
+                                      {"Q", json(each.crane)},
+                                      {"QDynamic", json(each.craneDynamic)}});
+        }
+        object["Sets"].push_back(std::move(of));
+    }
+    return object;
+}
+
 Json sections(const Project& project) {
     Json array = Json::array();
     for (int span = 1; span <= project.NofSpans; ++span) array.push_back(json(project.SpanSection(span)));
@@ -312,7 +341,7 @@ Json sections(const Project& project) {
 
 std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                         const std::optional<std::string>& file, const std::string& program, bool withNotes,
-                        const SecondOpinion* opinion) {
+                        const SecondOpinion* opinion, const SupportReactions* reactions) {
     Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
                            session.Calculated, "Messages", messages);
     document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
@@ -334,6 +363,7 @@ std::string resultsJson(const Session& session, const std::vector<std::string>& 
     }
     document["Input"] = Json::parse(inputJson(session.project));
     if (opinion != nullptr) document["SecondOpinion"] = json(*opinion);
+    if (reactions != nullptr) document["SupportReactions"] = json(*reactions);
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -9,6 +9,7 @@
 namespace borvik {
 
 struct SecondOpinion;
+struct SupportReactions;
 
 /// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends
 /// in a newline), for scripts and for comparison with other programs. Keys are the names of the code
@@ -21,8 +22,10 @@ struct SecondOpinion;
 /// @param program   name and version, such as "Borvik 1.2.3"
 /// @param withNotes  with the notes that the session keeps; else their key is null
 /// @param opinion    becomes the key SecondOpinion; null: no such key
+/// @param reactions  becomes the key SupportReactions; null: no such key
 [[nodiscard]] std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                                       const std::optional<std::string>& file, const std::string& program,
-                                      bool withNotes = false, const SecondOpinion* opinion = nullptr);
+                                      bool withNotes = false, const SecondOpinion* opinion = nullptr,
+                                      const SupportReactions* reactions = nullptr);
 
 }  // namespace borvik

@@ -42,6 +42,7 @@ TreeNode mainTree(TreeNode input, const Project& project, bool withResults) {
              {table("Uls", "ULS", "SummaryULS"), table("UlsSLs", "ULS + SLS", "SummaryULSSLS"),
               table("UlsSlsFls", "ULS + SLS + FLS", "SummaryAll"), table("Sum", "Summary", "Summary")}));
     root.children.push_back(diagrams(project));
+    root.children.push_back(table("ReactSup", "Reactions for supports", "SupportReactions"));
     root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
     root.children.push_back({"Notes", "Notes", NodeOpens::Notes, "", false, {}});
     return root;

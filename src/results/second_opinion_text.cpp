@@ -1,10 +1,10 @@
 #include "results/second_opinion_text.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/number_text.h"
 #include "project/project.h"
+#include "results/text_columns.h"
 
 namespace borvik {
 
@@ -16,23 +16,6 @@ std::string number(double value, const char* picture = "0.000") {
 
 std::string kNm(double Nmm) {
     return number(Nmm / 1e6, "0.0");
-}
-
-/// A table of texts: each column as wide as its widest cell, all but the first to the right.
-std::string aligned(const std::vector<std::vector<std::string>>& rows) {
-    std::vector<std::size_t> widths(rows.front().size());
-    for (const auto& row : rows)
-        for (std::size_t c = 0; c < row.size(); ++c) widths[c] = std::max(widths[c], row[c].size());
-    std::string text;
-    for (const auto& row : rows) {
-        std::string line = "  ";
-        for (std::size_t c = 0; c < row.size(); ++c) {
-            const std::string blanks(widths[c] - row[c].size(), ' ');
-            line += c == 0 ? row[c] + blanks : "  " + blanks + row[c];
-        }
-        text += line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
-    }
-    return text;
 }
 
 std::string heading(const Session& session, const SpanOpinion& of, int span) {
@@ -56,7 +39,7 @@ std::string bucklingTable(const SpanOpinion& of) {
                         position.factor ? kNm(eigen.Mcr) : "-", number(check.chi), number(eigen.chi),
                         number(check.ratio), number(eigen.ratio)});
     }
-    return rows.size() > 1 ? aligned(rows) : "";
+    return rows.size() > 1 ? textColumns(rows) : "";
 }
 
 std::string positionTable(const SpanOpinion& of) {
@@ -68,7 +51,7 @@ std::string positionTable(const SpanOpinion& of) {
                         number(p.B / 1e9, "0.000"), number(p.flangeMoment / 1e6, "0.00"), number(p.phi * 1000, "0.00"),
                         p.factor ? number(*p.factor, "0.00") : "-", p.factor ? std::to_string(p.bucklingSpan) : "-",
                         number(p.bucklingRatio()), p.annex ? number(p.annex->ratio) : "-", number(p.stresses.ratio)});
-    return aligned(rows);
+    return textColumns(rows);
 }
 
 std::string annexLines(const AnnexA& annex) {

@@ -6,6 +6,7 @@
 #include "base/shown_text.h"
 #include "base/text.h"
 #include "base/units.h"
+#include "results/reaction_tables.h"
 #include "results/table_cells.h"
 
 namespace borvik {
@@ -98,7 +99,7 @@ ResultTable codeFatigueByCraneType(const Project& project, const Results& result
                                                     : TableCodeFatigue(project, results);
 }
 
-constexpr std::array<TableEntry, 13> kEntries{{
+constexpr std::array<TableEntry, 14> kEntries{{
     {"SummaryULS", "ULS", ShowSummaryULS},
     {"SummaryULSSLS", "ULS + SLS", ShowSummaryULSSLS},
     {"SummaryAll", "ULS + SLS + FLS", ShowSummaryAll},
@@ -106,6 +107,7 @@ constexpr std::array<TableEntry, 13> kEntries{{
     {"MyVz", "MyVz max/min", TableMyVz},
     {"MzVy", "MzVy max/min", TableMzVy},
     {"Reactions", "Reactions", TableReactions},
+    {"SupportReactions", "Reactions for supports", TableSupportReactions},
     {"Deflection", "Uz/Uy", TableDeflection},
     {"CodeStatic", "Static", TableCodeStatic},
     {"CodeFatigue", "Fatigue", codeFatigueByCraneType},

@@ -158,20 +158,21 @@ std::string printReport(Session& session, int scope, ReportExtras extras, const 
     if (auto* reverse = dialog.findChild<QWidget*>("reverse")) reverse->hide();
     QWidget chapters;
     chapters.setWindowTitle(QObject::tr("Report"));  // the name of its tab
-    QCheckBox notes(QObject::tr("Notes for the checking engineer"), &chapters);
-    notes.setObjectName("chkPrintNotes");
-    notes.setChecked(extras.notes);
-    QCheckBox positions(QObject::tr("Governing positions of the cranes"), &chapters);
-    positions.setObjectName("chkPrintPositions");
-    positions.setChecked(extras.positions);
     auto* layout = new QVBoxLayout(&chapters);
-    layout->addWidget(&positions);
-    layout->addWidget(&notes);
+    for (const ExtraChapter& chapter : extraChapters()) {
+        QString title = QString::fromLatin1(chapter.title);
+        auto* box = new QCheckBox(title.replace(0, 1, title[0].toUpper()));
+        box->setObjectName(QString("chkPrint%1").arg(chapter.name));
+        box->setChecked(extras.*chapter.wanted);
+        QObject::connect(box, &QCheckBox::toggled, &chapters,
+                         [&extras, wanted = chapter.wanted](bool on) { extras.*wanted = on; });
+        layout->addWidget(box);
+    }
     layout->addStretch();
     dialog.setOptionTabs({&chapters});
     if (dialog.exec() != QDialog::Accepted) return {};
     try {
-        send(printer, session, reportScope, {positions.isChecked(), notes.isChecked()});
+        send(printer, session, reportScope, extras);
     } catch (const OutputError& error) {
         services.messages.show(error.what());
         return {};

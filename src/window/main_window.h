@@ -194,8 +194,7 @@ private:
     QPushButton* cmdCalc_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
-    QAction* printPositions_ = nullptr;
-    QAction* printNotes_ = nullptr;
+    ReportExtras reportExtras_;  ///< chapters chosen in the menu
     QAction* recentSeparator_ = nullptr;
     QList<QAction*> recentEntries_;
     QLabel* stateRemark_ = nullptr;

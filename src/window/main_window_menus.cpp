@@ -199,14 +199,14 @@ void MainWindow::buildPrintMenu() {
                       {"Print ULS ", "Print ULS+SLS", "Print ULS+SLS+FLS", "Print Compressed"}, printReport);
     printMenu->actions().at(2)->setShortcut(QKeySequence::Print);
     printMenu->addSeparator();
-    printPositions_ = printMenu->addAction("With governing positions of the cranes");
-    printPositions_->setObjectName("mnuPrintPositions");
-    printPositions_->setCheckable(true);
-    printPositions_->setStatusTip(tr("The report, its preview and its PDF show where the cranes stand for each check"));
-    printNotes_ = printMenu->addAction("With notes for the checking engineer");
-    printNotes_->setObjectName("mnuPrintNotes");
-    printNotes_->setCheckable(true);
-    printNotes_->setStatusTip(tr("The report, its preview and its PDF end with a chapter of notes"));
+    for (const ExtraChapter& chapter : extraChapters()) {
+        QAction* action = printMenu->addAction(QString("With %1").arg(chapter.title));
+        action->setObjectName(QString("mnuPrint%1").arg(chapter.name));
+        action->setCheckable(true);
+        action->setStatusTip(tr("The report, its preview and its PDF tell %1").arg(chapter.holds));
+        connect(action, &QAction::toggled, this,
+                [this, wanted = chapter.wanted](bool on) { reportExtras_.*wanted = on; });
+    }
 }
 
 void MainWindow::buildHelpMenu() {

@@ -119,8 +119,7 @@ void MainWindow::print(int scope, PrintCommand command) {
         services_.messages.show("  Calculate before print  ");
         return;
     }
-    const std::string file =
-        command(session_, scope, {printPositions_->isChecked(), printNotes_->isChecked()}, services_, this);
+    const std::string file = command(session_, scope, reportExtras_, services_, this);
     if (!file.empty()) statusBar()->showMessage(tr("Saved: %1").arg(QString::fromStdString(file)), 10000);
 }
 
