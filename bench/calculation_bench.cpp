@@ -6,6 +6,7 @@
 
 #include "calculation/calculation.h"
 #include "notes/notes.h"
+#include "reactions/support_reactions.h"
 #include "runways.h"
 #include "second_opinion/second_opinion.h"
 
@@ -52,6 +53,11 @@ void secondOpinions(benchmark::State& state, Session session) {
     for (auto _ : state) benchmark::DoNotOptimize(secondOpinion(session));
 }
 
+void reactions(benchmark::State& state, Session session) {
+    secondsOf(session, WalkMethod::Fast);
+    for (auto _ : state) benchmark::DoNotOptimize(supportReactions(session.project, *session.results));
+}
+
 constexpr auto kMs = benchmark::kMillisecond;
 
 BENCHMARK_CAPTURE(calculate, DefaultProject, defaultSession(), WalkMethod::Fast)->Unit(kMs);
@@ -72,6 +78,9 @@ BENCHMARK_CAPTURE(notes, Independent_30x30m, runway(30, 30000, RunwayCranes::Ind
 BENCHMARK_CAPTURE(secondOpinions, DefaultProject, defaultSession())->Unit(kMs);
 BENCHMARK_CAPTURE(secondOpinions, Independent_10x12m, runway(10, 12000, RunwayCranes::Independent))->Unit(kMs);
 BENCHMARK_CAPTURE(secondOpinions, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
+
+BENCHMARK_CAPTURE(reactions, DefaultProject, defaultSession())->Unit(kMs);
+BENCHMARK_CAPTURE(reactions, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
 
 BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, RunwayCranes::Train))->UseManualTime()->Unit(kMs);
 BENCHMARK_CAPTURE(plainAgainstFast, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))

@@ -14,12 +14,12 @@ _borvik_calc() {
         --walk) mapfile -t COMPREPLY < <(compgen -W "plain fast" -- "$current") ;;
         --scope) mapfile -t COMPREPLY < <(compgen -W "uls uls-sls all compressed" -- "$current") ;;
         --tables) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-        --crane-loads | --csv | --workbook | --from-json | --json | --png | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+        --crane-loads | --csv | --workbook | --from-json | --json | --png | --reactions-csv | --reactions-xlsx | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
         --fail-above) COMPREPLY=(1.0) ;;
         *)
             if [[ $current == -* ]]; then
-                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --csv --decimal --default --diagram --fail-above --fingerprint --from-json --help --json --notes --png --quiet --report
-                    --save --scope --summary --table --tables --version --walk --with-notes --with-positions --workbook --xlsx" -- "$current")
+                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --csv --decimal --default --diagram --fail-above --fingerprint --from-json --help --json --lateral-supports --notes --png --quiet --reactions --reactions-csv --reactions-xlsx --report
+                    --save --scope --second-opinion --summary --table --tables --version --walk --warping-free --with-notes --with-positions --with-reactions --workbook --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
             fi

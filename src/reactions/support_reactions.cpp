@@ -201,7 +201,8 @@ private:
         return set;
     }
 
-    void addFatigue(WalkOf walk, Acting acting, const std::optional<StressSet>& stresses, SupportReactions& made) const {
+    void addFatigue(WalkOf walk, Acting acting, const std::optional<StressSet>& stresses,
+                    SupportReactions& made) const {
         if (!stresses || stresses->At.RzMax.last() < 1) return;
         ReactionSet set{ReactionState::Fatigue, acting, walk, false, {}};
         Parts parts(project_, stresses->Loads, std::nullopt, acting);

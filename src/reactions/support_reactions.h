@@ -51,8 +51,8 @@ struct ReactionCase {
 struct ReactionSet {
     ReactionState state = ReactionState::Uls;
     Acting acting = Acting::AllCranes;
-    WalkOf walk = WalkOf::Uls;     ///< in which a position of the set is found again
-    bool walkedAnew = false;       ///< by a walk of its own, whose positions only this set knows
+    WalkOf walk = WalkOf::Uls;  ///< in which a position of the set is found again
+    bool walkedAnew = false;    ///< by a walk of its own, whose positions only this set knows
     std::vector<ReactionCase> cases;
 };
 

@@ -15,8 +15,8 @@ struct Column {
     double from;
     bool number;
 };
-constexpr Column kColumns[] = {{0.0, false},  {0.08, false}, {0.23, true},  {0.31, true}, {0.39, true}, {0.47, true},
-                               {0.545, true}, {0.62, true},  {0.695, true}, {0.72, false}, {0.88, false}};
+constexpr Column kColumns[] = {{0.0, false},  {0.07, false}, {0.21, true},  {0.283, true}, {0.356, true}, {0.429, true},
+                               {0.502, true}, {0.575, true}, {0.648, true}, {0.67, false}, {0.875, false}};
 
 class ReactionList {
 public:
@@ -105,11 +105,12 @@ void printSupportReactions(Report& report) {
     page.advance(0.5);
     page.put(page.ColLeft, "Reactions for supports:", kBold);
     page.advance(1.2);
-    for (const std::string& text :
-         page.wrapped(table.note + ". G: dead load, Q: cranes, both characteristic; Q phi: with dynamic factors; Rz, "
-                                   "Ry: with the factors of the limit state. W1, W5: first wheel of crane 1 and 2, span/mm from its left "
-                                   "support.",
-                      page.width())) {
+    for (const std::string& text : page.wrapped(
+             table.note +
+                 ". G: dead load, Q: cranes, both characteristic; Q phi: with dynamic factors; Rz, "
+                 "Ry: with the factors of the limit state. W1, W5: first wheel of crane 1 and 2, span/mm from its left "
+                 "support.",
+             page.width())) {
         page.put(page.ColLeft, text);
         page.advance(1.0);
     }

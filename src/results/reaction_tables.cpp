@@ -144,8 +144,8 @@ std::string placeOf(const Project& project, const ReactionCase& each) {
         const int its = wheel.number <= 4 ? 1 : 2;
         if (its == crane) continue;
         crane = its;
-        text += (text.empty() ? "" : ", ") + ("W" + std::to_string(wheel.number)) + " " +
-                spanAndPlace(project, wheel.x);
+        text +=
+            (text.empty() ? "" : ", ") + ("W" + std::to_string(wheel.number)) + " " + spanAndPlace(project, wheel.x);
     }
     return text;
 }
@@ -188,8 +188,8 @@ ResultTable actingTogether(const SupportReactions& reactions, int support) {
         for (const ReactionCase& each : set.cases) {
             if (support != 0 && each.support != support) continue;
             for (std::size_t s = 0; s < each.total.size(); ++s) {
-                std::vector<TableCell> row{textCell(nameOf(set)), textCell(nameOf(each)),
-                                           numberCell(each.support, "0"), numberCell(static_cast<double>(s + 1), "0")};
+                std::vector<TableCell> row{textCell(nameOf(set)), textCell(nameOf(each)), numberCell(each.support, "0"),
+                                           numberCell(static_cast<double>(s + 1), "0")};
                 addPartCells(each, s, row);
                 table.rows.push_back(std::move(row));
             }

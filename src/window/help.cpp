@@ -40,6 +40,7 @@ constexpr PageOfNode kNodes[] = {
     {"ULS + SLS + FLS", "summaries.md"},
     {"Summary", "summaries.md"},
     {"Detailed Results", "detailed-results.md"},
+    {"Reactions for supports", "handing-over.md"},
     {"Notes", "notes.md"},
 };
 

@@ -91,7 +91,7 @@ TEST(SupportReactions, haveTheBitsOfTheWalk) {
         for (const ReactionCase& each : reactions.sets.front().cases) {
             if (each.ofCranesAlone) continue;
             const Array<Single>& record = each.effect == Effect::Rz ? (each.largest ? uls.RzMax : uls.RzMin)
-                                                                  : (each.largest ? uls.RyMax : uls.RyMin);
+                                                                    : (each.largest ? uls.RyMax : uls.RyMin);
             ASSERT_EQ(each.value(), record(each.support) / kPerKilo) << number;
             if (each.at.k > 0) continue;  // the way to wheel 5 may be rounded otherwise
             Project stopped = project;

@@ -137,7 +137,8 @@ TEST(SpreadsheetFile, aWorkbookHasAllTablesWithTheirUnits) {
             "' '" +
             folder.file("all.xlsx") + "'");
     EXPECT_EQ(read.output,
-              "About|ULS|ULS + SLS|ULS + SLS + FLS|Summary|MyVz maxmin|MzVy maxmin|Reactions|UzUy|Static|Fatigue|"
+              "About|ULS|ULS + SLS|ULS + SLS + FLS|Summary|MyVz maxmin|MzVy maxmin|Reactions|Reactions for "
+              "supports|UzUy|Static|Fatigue|"
               "FLS - Crane 1|Intermediate steps\nMy-max (kNm) Hall Åmål\n");
 }
 

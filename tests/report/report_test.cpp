@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
+#include "base/number_text.h"
 #include "notes/notes.h"
 #include "platform/version.h"
 #include "project/input_ranges.h"
+#include "reactions/support_reactions.h"
 #include "recording_printer.h"
 #include "results/json.h"
 #include "support/golden.h"
@@ -74,7 +76,7 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
     for (const Extent paper : {kA4, kLetter})
         for (const Sample sample : kPlain)
             for (const ReportScope scope : kScopes) {
-                const RecordingPrinter printer = printed(sample, scope, paper, {true, true});
+                const RecordingPrinter printer = printed(sample, scope, paper, {true, true, true});
                 for (const auto& page : printer.pages) {
                     const auto inDiagram = [&page](const RecordingPage::Covered& text) {
                         return std::any_of(page->boxes.begin(), page->boxes.end(), [&text](const auto& box) {
@@ -182,7 +184,7 @@ TEST(Report, manySpansOfOneSectionStandAsARange) {
 TEST(Report, notesAreALastChapterAndChangeNoOther) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail}) {
         const std::string without = printed(sample, ReportScope::All).text();
-        const std::string with = printed(sample, ReportScope::All, kA4, {false, true}).text();
+        const std::string with = printed(sample, ReportScope::All, kA4, {.notes = true}).text();
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = with.substr(without.size());
         EXPECT_EQ(without.find("Notes for the checking engineer"), std::string::npos);
@@ -195,13 +197,30 @@ TEST(Report, notesAreALastChapterAndChangeNoOther) {
 TEST(Report, governingPositionsAreAChapterOfTheirOwn) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::ThirtySpans}) {
         const std::string without = printed(sample, ReportScope::All).text();
-        const std::string with = printed(sample, ReportScope::All, kA4, {true, false}).text();
+        const std::string with = printed(sample, ReportScope::All, kA4, {.positions = true}).text();
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = with.substr(without.size());
         const CheckResults& checks = sessionOf(sample).results->Checks;
         for (const char* key : {"Bend", "Shear", "Ltb", "DefZ"})
             EXPECT_NE(withoutBlanks(chapter).find(withoutBlanks(checks[key].governing(2))), std::string::npos) << key;
         EXPECT_NE(chapter.find("Crane 1: span"), std::string::npos);
+    }
+}
+
+TEST(Report, reactionsForSupportsHoldWhatActsTogether) {
+    for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::ThirtySpans}) {
+        const std::string without = printed(sample, ReportScope::Uls).text();
+        const std::string with = printed(sample, ReportScope::Uls, kA4, {.reactions = true}).text();
+        ASSERT_TRUE(with.starts_with(without));
+        const std::string chapter = withoutBlanks(with.substr(without.size()));
+        const Session& session = sessionOf(sample);
+        const ReactionSet design = supportReactions(session.project, *session.results).sets.front();
+        for (const ReactionCase& each : design.cases) {
+            const SupportForce& far = each.total.back();
+            const std::string last = std::to_string(each.total.size()) + ":Rz=" + formatNumber(far.Rz, "0.0") +
+                                     "Ry=" + formatNumber(far.Ry, "0.0") + "kN";
+            ASSERT_NE(chapter.find(last), std::string::npos) << last;
+        }
     }
 }
 
