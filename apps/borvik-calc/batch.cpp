@@ -47,6 +47,28 @@ int outcome(const Session& session, const Options& options) {
     return options.failAbove && verdictOf(*session.results).exceeds(*options.failAbove) ? kRatioAbove : kDone;
 }
 
+/// Reactions for supports, next to the neighbouring beam where there is one.
+/// @return kDone, or the exit code after its message
+int makeReactions(const Session& session, const std::string& neighbour, Console& console,
+                  std::optional<SupportReactions>& reactions) {
+    try {
+        if (neighbour.empty()) {
+            reactions = supportReactions(session.project, *session.results);
+            return kDone;
+        }
+        Session beyond(session.tables);
+        Console itsConsole(neighbour, false);
+        if (const int code = load(beyond, neighbour, false, itsConsole); code != kDone) return code;
+        if (!Calculate(beyond, itsConsole, itsConsole)) return kRefused;
+        const JoinedBeam joined{beyond.project, beyond.rail()};
+        reactions = supportReactions(session.project, *session.results, &joined);
+        return kDone;
+    } catch (const RuntimeFault& fault) {
+        console.show(std::string("no reactions for supports: ") + fault.what());
+        return kFault;
+    }
+}
+
 int runProject(const Options& options, const ReferenceTables& tables, const std::optional<std::string>& file,
                Outputs& outputs) {
     Console console(file.value_or("default project"), !options.quiet);
@@ -60,12 +82,8 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     if (session.Calculated && options.secondOpinion) opinion = secondOpinion(session, options.opinionOptions);
     std::optional<SupportReactions> reactions;
     int exitCode = outcome(session, options);
-    if (session.Calculated && options.wantsReactions()) try {
-            reactions = supportReactions(session.project, *session.results);
-        } catch (const RuntimeFault& fault) {
-            console.show(std::string("no reactions for supports: ") + fault.what());
-            exitCode = std::max<int>(exitCode, kFault);
-        }
+    if (session.Calculated && options.wantsReactions())
+        exitCode = std::max(exitCode, makeReactions(session, options.neighbour, console, reactions));
     const std::vector<std::string> messages = console.texts();
     // Not among the messages of the run, which is done as if the loads were sound.
     const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();

@@ -104,6 +104,11 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--reactions", options.reactions,
                  "Print the reactions for the design of supports, by parts and by position of the cranes; --json then "
                  "holds them too");
+    app.add_option(
+           "--neighbour", options.neighbour,
+           "The project whose beam ends on the same end supports, for the sum of two ends (default: the same beam "
+           "mirrored)")
+        ->type_name("FILE.brvk");
     app.add_option("--reactions-csv", options.reactionsCsv,
                    "Write each of their extremes with what acts at all supports then as comma-separated values")
         ->type_name("FILE");
@@ -229,6 +234,7 @@ void checkOutputs(const Options& options) {
             throw CLI::ValidationError(output.option, "would overwrite the project " + output.file);
         std::vector<std::string> inputs = options.files;
         if (!options.fromJson.empty()) inputs.push_back(options.fromJson);
+        if (!options.neighbour.empty()) inputs.push_back(options.neighbour);
         for (const std::string& input : inputs)
             if (sameFile(output.file, input))
                 throw CLI::ValidationError(output.option, "would overwrite its input " + input);
@@ -261,6 +267,8 @@ void checkTogether(const Options& options) {
         throw CLI::ValidationError("--csv", "takes the table of a single project");
     if (options.projects() > 1 && !options.picture.empty())
         throw CLI::ValidationError("--png", "takes the diagram of a single project");
+    if (!options.neighbour.empty() && !options.wantsReactions())
+        throw CLI::ValidationError("--neighbour", "needs --reactions, --reactions-csv or --reactions-xlsx");
     checkOutputs(options);
 }
 

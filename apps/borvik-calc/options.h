@@ -24,6 +24,7 @@ struct Options {
     bool secondOpinion = false;  ///< print torsion and buckling by finite elements, and put them into the JSON
     SecondOpinionOptions opinionOptions;
     bool reactions = false;                ///< print the reactions for supports, and put them into the JSON
+    std::string neighbour;                 ///< project of the beam beyond either end; empty: the same beam mirrored
     std::string reactionsCsv;              ///< CSV file of what acts together; empty: none
     std::string reactionsXlsx;             ///< workbook of it, a sheet for each support; empty: none
     std::string json;                      ///< file, "-" for standard output, or folder; empty: none

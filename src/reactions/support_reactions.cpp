@@ -8,6 +8,7 @@
 #include "base/units.h"
 #include "calculation/calculation.h"
 #include "project/loads.h"
+#include "reactions/parts.h"
 
 namespace borvik {
 
@@ -36,25 +37,6 @@ Extremes extremesOf(const FlsPositions& at) {
     const int last = at.RzMax.last();
     std::swap(extremes.columns[0].at(last), extremes.columns[1].at(last));
     return extremes;
-}
-
-/// Characteristic wheel loads. @param dynamic  with the dynamic factors of each crane
-void setCharacteristicWheels(const Project& project, bool dynamic, RunLoads& loads) {
-    for (int w = 1; w <= 8; ++w) {
-        loads.WheelV(w) = (!dynamic ? 1.0 : w <= 4 ? double(project.PsiV1) : double(project.PsiV2)) * project.V(w);
-        loads.WheelH(w) = (!dynamic ? 1.0 : w <= 4 ? double(project.PsiH1) : double(project.PsiH2)) * project.H(w);
-    }
-}
-
-RunLoads withoutDeadLoad(RunLoads loads) {
-    loads.SpanLoad = {};
-    return loads;
-}
-
-RunLoads withoutWheels(RunLoads loads) {
-    loads.WheelV = {};
-    loads.WheelH = {};
-    return loads;
 }
 
 /// The project with one of its cranes: crane 2 takes the places of the wheels of crane 1.
@@ -162,7 +144,8 @@ bool leavesOut(const Extremes& extremes) {
 
 class Maker {
 public:
-    Maker(const Project& project, const Results& results) : project_(project), results_(results) {}
+    Maker(const Project& project, const Results& results, const JoinedBeam* neighbour)
+        : project_(project), results_(results), neighbour_(neighbour) {}
 
     [[nodiscard]] SupportReactions all() const {
         SupportReactions made;
@@ -178,10 +161,19 @@ public:
         addFatigue(WalkOf::FatigueCrane1, train || project_.NofCranes != 2 ? Acting::AllCranes : Acting::Crane1,
                    results_.Fatigue.Cr1, made);
         addFatigue(WalkOf::FatigueCrane2, Acting::Crane2, results_.Fatigue.Cr2, made);
+        if (!project_.Fixerad) addJoints(made);
         return made;
     }
 
 private:
+    void addJoints(SupportReactions& made) const {
+        const Project mirror = mirrored(project_);
+        const JoinedBeam own{project_, results_.Rail};
+        const JoinedBeam beyond = neighbour_ != nullptr ? *neighbour_ : JoinedBeam{mirror, results_.Rail};
+        made.joints.push_back({1, neighbour_ == nullptr, jointReactions(beyond, own, project_)});
+        made.joints.push_back({project_.NofSpans + 1, neighbour_ == nullptr, jointReactions(own, beyond, project_)});
+    }
+
     [[nodiscard]] ReactionSet ofWalk(ReactionState state, Acting acting, const Project& project) const {
         const bool isUls = state == ReactionState::Uls;
         ReactionSet set{state, acting, isUls ? WalkOf::Uls : WalkOf::Sls, acting != Acting::AllCranes, {}};
@@ -212,12 +204,13 @@ private:
 
     const Project& project_;
     const Results& results_;
+    const JoinedBeam* neighbour_;
 };
 
 }  // namespace
 
-SupportReactions supportReactions(const Project& project, const Results& results) {
-    return Maker(project, results).all();
+SupportReactions supportReactions(const Project& project, const Results& results, const JoinedBeam* neighbour) {
+    return Maker(project, results, neighbour).all();
 }
 
 }  // namespace borvik

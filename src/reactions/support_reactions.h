@@ -4,6 +4,7 @@
 
 #include "analysis/crane_stand.h"
 #include "calculation/session.h"
+#include "reactions/joint.h"
 
 namespace borvik {
 
@@ -13,19 +14,6 @@ enum class ReactionState { Uls, Sls, Fatigue };
 
 /// Which cranes stand on the beam.
 enum class Acting { AllCranes, Crane1, Crane2 };
-
-/// Reactions of one support, kN, upward positive; Ry in the direction of the horizontal wheel loads.
-struct SupportForce {
-    double Rz = 0, Ry = 0;
-};
-using SupportForces = std::vector<SupportForce>;  ///< [supports] from 0
-
-/// A wheel on the beam, with the load of its state.
-struct PlacedWheel {
-    int number = 0;  ///< 1..4 of crane 1, 5..8 of crane 2
-    double x = 0;    ///< mm from the first support
-    double V = 0, H = 0;
-};
 
 /// The position of the cranes at which a reaction is largest or smallest, and what acts together there.
 struct ReactionCase {
@@ -56,16 +44,26 @@ struct ReactionSet {
     std::vector<ReactionCase> cases;
 };
 
+/// An end support on which a neighbouring beam ends too.
+struct JointReactions {
+    int support = 1;
+    bool mirrored = true;  ///< the neighbour is the same beam, seen from its other side
+    std::vector<JointCase> cases;
+};
+
 struct SupportReactions {
-    std::vector<ReactionSet> sets;  ///< ULS, SLS, fatigue; of each all cranes, then each alone
-    double eccentricity = 0;        ///< of the wheel load on the rail, br/4, mm (EN 1991-3 2.5.2.1(2)); 0 of a monorail
+    std::vector<ReactionSet> sets;       ///< ULS, SLS, fatigue; of each all cranes, then each alone
+    std::vector<JointReactions> joints;  ///< at both ends; none where the cranes stand still
+    double eccentricity = 0;  ///< of the wheel load on the rail, br/4, mm (EN 1991-3 2.5.2.1(2)); 0 of a monorail
 };
 
 /// Reactions for whoever designs brackets and columns: every extreme with the forces that act at the same position at
 /// all supports, dead load and cranes apart. The design extremes are those of the calculation; the serviceability limit
 /// state and each crane alone are walked here.
 /// @param project, results  of one calculation
+/// @param neighbour  the beam beyond either end; null: the same beam mirrored
 /// @throws RuntimeFault  on an arithmetic fault
-[[nodiscard]] SupportReactions supportReactions(const Project& project, const Results& results);
+[[nodiscard]] SupportReactions supportReactions(const Project& project, const Results& results,
+                                                const JoinedBeam* neighbour = nullptr);
 
 }  // namespace borvik

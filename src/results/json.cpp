@@ -309,24 +309,47 @@ Json json(const SupportForces& forces) {
     return array;
 }
 
+Json json(const std::vector<PlacedWheel>& wheels) {
+    Json array = Json::array();
+    for (const PlacedWheel& wheel : wheels)
+        array.push_back({{"Wheel", wheel.number}, {"X", wheel.x}, {"V", wheel.V}, {"H", wheel.H}});
+    return array;
+}
+
+Json json(const EndForces& end) {
+    Json object;
+    for (const auto& [key, force] : {std::pair("Reactions", end.total), std::pair("G", end.dead),
+                                     std::pair("Q", end.crane), std::pair("QDynamic", end.craneDynamic)})
+        object[key] = {{"Rz", force.Rz}, {"Ry", force.Ry}};
+    return object;
+}
+
 Json json(const SupportReactions& reactions) {
     Json object{{"Eccentricity", reactions.eccentricity}, {"Sets", Json::array()}};
     for (const ReactionSet& set : reactions.sets) {
         Json of{{"Loads", nameOf(set)}, {"Extremes", Json::array()}};
         for (const ReactionCase& each : set.cases) {
-            Json wheels = Json::array();
-            for (const PlacedWheel& wheel : each.wheels)
-                wheels.push_back({{"Wheel", wheel.number}, {"X", wheel.x}, {"V", wheel.V}, {"H", wheel.H}});
             of["Extremes"].push_back({{"Support", each.support},
                                       {"Extreme", nameOf(each)},
                                       {"OfCranesAlone", each.ofCranesAlone},
-                                      {"Wheels", wheels},
+                                      {"Wheels", json(each.wheels)},
                                       {"Reactions", json(each.total)},
                                       {"G", json(each.dead)},
                                       {"Q", json(each.crane)},
                                       {"QDynamic", json(each.craneDynamic)}});
         }
         object["Sets"].push_back(std::move(of));
+    }
+    object["Joints"] = Json::array();
+    for (const JointReactions& joint : reactions.joints) {
+        Json of{{"Support", joint.support}, {"Mirrored", joint.mirrored}, {"Extremes", Json::array()}};
+        for (const JointCase& each : joint.cases)
+            of["Extremes"].push_back(
+                {{"Extreme", std::string(each.effect == Effect::Rz ? "Rz" : "Ry") + (each.largest ? " max" : " min")},
+                 {"Wheels", json(each.wheels)},
+                 {"Left", json(each.left)},
+                 {"Right", json(each.right)}});
+        object["Joints"].push_back(std::move(of));
     }
     return object;
 }

@@ -14,6 +14,10 @@ namespace {
 
 constexpr const char* kForce = "0.0";
 
+std::string nameOf(Effect effect, bool largest) {
+    return std::string(effect == Effect::Rz ? "Rz " : "Ry ") + (largest ? "max" : "min");
+}
+
 std::string kN(double force) {
     return formatNumber(force, kForce);
 }
@@ -61,16 +65,38 @@ std::string remarkOf(const ReactionCase& each) {
     return each.effect == Effect::Rz && each.value() < 0 ? "uplift" : "";
 }
 
-std::string wheelsText(const Project& project, const ReactionCase& each) {
+/// "Wheels: 1 at 1/3000 V = 44.6 H = 4.5; ...". @param place  of a wheel, as a text
+template <class Place>
+std::string wheelsText(const std::vector<PlacedWheel>& wheels, Place place) {
     std::string text;
-    for (const PlacedWheel& wheel : each.wheels)
-        text += (text.empty() ? "Wheels: " : "; ") + std::to_string(wheel.number) + " at " +
-                spanAndPlace(project, wheel.x) + " V = " + kN(wheel.V) + " H = " + kN(wheel.H);
+    for (const PlacedWheel& wheel : wheels)
+        text += (text.empty() ? "Wheels: " : "; ") + std::to_string(wheel.number) + " at " + place(wheel.x) +
+                " V = " + kN(wheel.V) + " H = " + kN(wheel.H);
     return text.empty() ? "No wheel on the beam" : text + " kN";
 }
 
+/// "W1 1/3200, W5 2/800": the first wheel of each crane.
+template <class Place>
+std::string firstWheels(const std::vector<PlacedWheel>& wheels, Place place) {
+    std::string text;
+    int crane = 0;
+    for (const PlacedWheel& wheel : wheels) {
+        const int its = wheel.number <= 4 ? 1 : 2;
+        if (its == crane) continue;
+        crane = its;
+        text += (text.empty() ? "W" : ", W") + std::to_string(wheel.number) + " " + place(wheel.x);
+    }
+    return text;
+}
+
+/// How places are written that are counted from a joint.
+std::string fromJoint(double x) {
+    return formatNumber(x, "0");
+}
+
 std::string detailsOf(const Project& project, const ReactionCase& each) {
-    std::string text = wheelsText(project, each) + "\nActing together:";
+    std::string text =
+        wheelsText(each.wheels, [&](double x) { return spanAndPlace(project, x); }) + "\nActing together:";
     for (std::size_t s = 0; s < each.total.size(); ++s)
         text += (s == 0 ? " " : "; ") + std::to_string(s + 1) + ": Rz = " + kN(each.total[s].Rz) +
                 " Ry = " + kN(each.total[s].Ry);
@@ -96,6 +122,31 @@ void addSet(const Project& project, const ReactionSet& set, ResultTable& table) 
         row.push_back(textCell(remarkOf(each)));
         if (!set.walkedAnew) row[1].stands[0] = {set.walk, each.effect, each.at, each.support, 0};
         addRow(table, std::move(row), detailsOf(project, each));
+    }
+}
+
+SupportForce EndForces::*const kSumParts[] = {&EndForces::dead,  &EndForces::crane, &EndForces::craneDynamic,
+                                              &EndForces::total, &EndForces::crane, &EndForces::craneDynamic,
+                                              &EndForces::total};
+
+/// The sum of two ends; places of wheels from the joint.
+void addJoint(const JointReactions& joint, ResultTable& table) {
+    addHeading(table, "Joint at support " + std::to_string(joint.support) + " with " +
+                          (joint.mirrored ? "the same beam mirrored" : "the neighbouring beam") +
+                          ", sum of both ends, ULS; W1, W5 in mm from the joint");
+    for (const JointCase& each : joint.cases) {
+        const bool ownLeft = joint.support != 1;
+        std::vector<TableCell> row{numberCell(joint.support, "0"), textCell(nameOf(each.effect, each.largest))};
+        for (std::size_t part = 0; part < std::size(kParts); ++part)
+            row.push_back(numberCell(each.sum(kSumParts[part]).*kParts[part].force, kForce));
+        row.push_back(textCell(firstWheels(each.wheels, fromJoint)));
+        row.push_back(textCell(each.effect == Effect::Rz && each.sum(&EndForces::total).Rz < 0 ? "uplift" : ""));
+        const EndForces& own = ownLeft ? each.left : each.right;
+        const EndForces& other = ownLeft ? each.right : each.left;
+        addRow(table, std::move(row),
+               wheelsText(each.wheels, fromJoint) + "\nActing together: this beam Rz = " + kN(own.total.Rz) +
+                   " Ry = " + kN(own.total.Ry) + "; its neighbour Rz = " + kN(other.total.Rz) +
+                   " Ry = " + kN(other.total.Ry) + " kN");
     }
 }
 
@@ -134,20 +185,11 @@ std::string nameOf(const ReactionSet& set) {
 }
 
 std::string nameOf(const ReactionCase& each) {
-    return std::string(each.effect == Effect::Rz ? "Rz " : "Ry ") + (each.largest ? "max" : "min");
+    return nameOf(each.effect, each.largest);
 }
 
 std::string placeOf(const Project& project, const ReactionCase& each) {
-    std::string text;
-    int crane = 0;
-    for (const PlacedWheel& wheel : each.wheels) {
-        const int its = wheel.number <= 4 ? 1 : 2;
-        if (its == crane) continue;
-        crane = its;
-        text +=
-            (text.empty() ? "" : ", ") + ("W" + std::to_string(wheel.number)) + " " + spanAndPlace(project, wheel.x);
-    }
-    return text;
+    return firstWheels(each.wheels, [&](double x) { return spanAndPlace(project, x); });
 }
 
 ResultTable tableOf(const Project& project, const Results& results, const SupportReactions& reactions) {
@@ -161,6 +203,7 @@ ResultTable tableOf(const Project& project, const Results& results, const Suppor
     table.columns.push_back({"Cranes", "", "First wheel of each crane: span / mm from its left support"});
     table.columns.push_back({"Remark", "", ""});
     for (const ReactionSet& set : reactions.sets) addSet(project, set, table);
+    for (const JointReactions& joint : reactions.joints) addJoint(joint, table);
     addSpanEnds(project, results.Uls, table);
     return table;
 }

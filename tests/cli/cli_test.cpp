@@ -52,7 +52,9 @@ TEST_F(CommandLine, wrongUseExitsWith2) {
     for (const char* arguments :
          {"", "--nonsense", "--default a.brvk", "--save x.brvk a.brvk b.brvk", "--default --fail-above much",
           "--default --with-notes", "--default --fail-above -1", "--default --walk slow", "--json",
-          "--default --lateral-supports 2:3000", "--default --second-opinion --lateral-supports 2"}) {
+          "--default --lateral-supports 2:3000", "--default --second-opinion --lateral-supports 2",
+          "--default --neighbour a.brvk", "--default --decimal comma", "a.brvk --reactions-csv a.brvk",
+          "--default --reactions-xlsx a.csv --reactions-csv a.csv"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments;
         EXPECT_NE(outcome.err, "") << arguments;

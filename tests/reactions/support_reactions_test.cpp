@@ -8,6 +8,7 @@
 #include "analysis/walk.h"
 #include "base/units.h"
 #include "calculation/solved_projects.h"
+#include "reactions/joint.h"
 
 namespace borvik {
 namespace {
@@ -108,6 +109,54 @@ TEST(SupportReactions, haveTheBitsOfTheWalk) {
         }
     }
     EXPECT_GT(compared, 1000);
+}
+
+/// Two single spans with one joint: the influence line of its support is a triangle, and every position can be tried.
+TEST(Joint, isTheLargestSumOfTwoTriangles) {
+    std::mt19937 random(24);
+    const auto whole = [&random](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    TestSession session;
+    for (int number = 0; number < 40; ++number) {
+        Project left = session.project;
+        left.NofSpans = 1;
+        for (int i = 2; i <= 3; ++i) left.Span(i) = 0.0;
+        left.NofCranes = static_cast<std::int16_t>(whole(1, 2));
+        left.MinDistConst = whole(0, 1);
+        left.MinAvst = 100.0 * whole(5, 30);
+        for (int w = 1; w <= 8; ++w) {
+            left.V(w) = w <= 4 || left.NofCranes == 2 ? whole(0, 90) : 0;
+            left.H(w) = w <= 4 || left.NofCranes == 2 ? whole(-9, 9) : 0;
+        }
+        for (int gap = 1; gap <= 6; ++gap) left.Avst(gap) = 50.0 * whole(4, 30);
+        Project right = left;
+        const int L1 = 50 * whole(80, 200), L2 = 50 * whole(80, 200);
+        left.Span(1) = L1;
+        right.Span(1) = L2;
+        left.BeamLength = L1;
+        right.BeamLength = L2;
+        const auto influence = [&](double x) { return x < -L1 || x > L2 ? 0 : x <= 0 ? 1 + x / L1 : 1 - x / L2; };
+        double most = 0;
+        const double start = -std::floor(L1 / 200.0) * 200;
+        for (double x1 = start; x1 <= L2; x1 += 200)
+            for (double more = 0; more <= L1 + L2; more += 200) {
+                double sum = 0, x = x1;
+                for (int w = 1; w <= 8; ++w) {
+                    sum += influence(x) * left.LfULS * (w <= 4 ? left.PsiV1 : left.PsiV2) * left.V(w);
+                    if (w == 4)
+                        x += left.MinAvst + more;
+                    else if (w < 8)
+                        x += left.Avst(w < 4 ? w : w - 1);
+                }
+                most = std::max(most, sum);
+                if (left.NofCranes == 1 || left.MinDistConst == 1.0) break;
+            }
+        const RailRecord& rail = session.rail();
+        const JointCase largest = jointReactions({left, rail}, {right, rail}, left).front();
+        EXPECT_NEAR(largest.sum(&EndForces::total).Rz - left.LfULS * largest.sum(&EndForces::dead).Rz, most,
+                    1e-3 * most)
+            << number;
+        EXPECT_NEAR(largest.sum(&EndForces::craneDynamic).Rz * left.LfULS, most, 1e-3 * most) << number;
+    }
 }
 
 }  // namespace
