@@ -47,7 +47,10 @@ RunLoads onlyOf(Crane crane, RunLoads loads) {
 class JoinedEnds {
 public:
     JoinedEnds(const Project& left, const RunLoads& leftLoads, const Project& right, const RunLoads& rightLoads)
-        : left_(left, leftLoads, true), right_(right, rightLoads, true), joint_(left.NofSpans + 1), length_(left.BeamLength) {}
+        : left_(left, leftLoads, true),
+          right_(right, rightLoads, true),
+          joint_(left.NofSpans + 1),
+          length_(left.BeamLength) {}
 
     void standAt(WalkPosition position) {
         left_.standAt(position);
@@ -111,7 +114,8 @@ public:
     /// Sums of both ends under one crane at each of its steps, first wheel of crane 1 from the far end of the left beam
     /// to that of the right one; design values without dead load.
     [[nodiscard]] std::vector<SupportForce> line(Crane crane) const {
-        JoinedEnds ends = under(design_, [crane](const RunLoads& loads) { return onlyOf(crane, withoutDeadLoad(loads)); });
+        JoinedEnds ends =
+            under(design_, [crane](const RunLoads& loads) { return onlyOf(crane, withoutDeadLoad(loads)); });
         std::vector<SupportForce> line;
         for (int j = 0; j <= static_cast<int>(last_); ++j) {
             ends.standAt({static_cast<std::int16_t>(j), 0});
