@@ -9,6 +9,16 @@
 
 namespace borvik {
 
+struct StaticCheck;
+
+/// Which check a row is of, and where it was made.
+struct RowOrigin {
+    const StaticCheck* check = nullptr;  ///< null: of a fatigue detail, or of no check
+    int span = 0, extreme = 0;           ///< extreme from 0
+
+    bool operator==(const RowOrigin&) const = default;
+};
+
 /// The texts of one check result, shown as they stand: 1 formula, 2 numbers, 3 ratio by the mask "0.000", 4 limit and
 /// reference, 5 to 8 position data. Rows that nothing writes stay empty; how many a check has stands in its row of the
 /// list of checks.
@@ -21,6 +31,7 @@ struct RowSet {
     /// The position of the cranes that governs; of a stress range also that of its other extreme. Not known where no
     /// position decides, as with the local effect of a wheel.
     std::array<CraneStand, 2> Stands = {};
+    RowOrigin Origin = {};
 
     /// The largest ratio that stands behind these rows, shown or not.
     [[nodiscard]] double largest() const { return std::fmax(LargestOfPoints, Ratio); }
@@ -36,6 +47,7 @@ inline void copyRows(RowSet& to, const RowSet& from, int first, int last) {
     to.Ratio = from.Ratio;
     to.LargestOfPoints = from.LargestOfPoints;
     to.Stands = from.Stands;
+    to.Origin = from.Origin;
 }
 
 /// Rows of a fatigue detail.

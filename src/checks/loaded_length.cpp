@@ -25,7 +25,7 @@ WornRail wearRail(const RailRecord& rail, double wearFraction) {
 }
 
 double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, RailFixing railFix,
-                             const SectionRecord& section) {
+                             const SectionRecord& section, Working working) {
     const double tf1 = section.tf1;
     const double beff = std::fmin(rail.RailBr + rail.RailHr + tf1 - worn.Wear, section.b1);
 
@@ -36,11 +36,29 @@ double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, RailF
     const double Iff = beff * std::pow(tf1, 3) / 12;
     const double Irf = worn.Ired + Iff + worn.Ared * std::pow(tf1 + worn.Zr - zc, 2) + Af * std::pow(zc - tf1 / 2, 2);
 
+    working.given("bfr", rail.RailBr, "mm", "foot of the rail");
+    working.given("hr", rail.RailHr, "mm", "height of the rail");
+    working.given("w", worn.Wear, "mm", "wear, EN 1993-6 5.6.2");
+    working.given("tf", tf1, "mm");
+    working.given("b", section.b1, "mm");
+    working.given("tw", section.tw, "mm");
+    working.given("Ir", worn.Ired, "mm4", "worn rail");
+    working.step("beff", "min(bfr + hr + tf - w, b)", beff, "mm", "EN 1993-6 Table 5.1");
+    working.step("Ifeff", "beff*tf^3/12", Iff, "mm4");
+
     const auto length = [&](double factor, double secondMoment) {
-        return factor * std::pow(secondMoment / section.tw, 1.0 / 3.0);
+        const double leff = factor * std::pow(secondMoment / section.tw, 1.0 / 3.0);
+        working.given("k", factor, "", "EN 1993-6 Table 5.1, fastening of the rail");
+        working.given("I", secondMoment, "mm4", railFix == RailFixing::Rigid ? "rail and flange as one" : "Ir + Ifeff");
+        working.step("leff", "k*(I/tw)^(1/3)", leff, "mm", "EN 1993-6 Table 5.1");
+        return leff;
     };
     switch (railFix) {
         case RailFixing::Rigid:
+            working.given("Ar", worn.Ared, "mm2", "worn rail");
+            working.given("zr", worn.Zr, "mm", "its centroid above its foot");
+            working.given("zc", zc, "mm", "centroid of rail and flange");
+            working.step("Irf", "Ir + Ifeff + Ar*(tf + zr - zc)^2 + beff*tf*(zc - tf/2)^2", Irf, "mm4");
             return length(3.25, Irf);
         case RailFixing::NotRigid:
             return length(3.25, worn.Ired + Iff);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/single.h"
+#include "base/working.h"
 #include "project/choices.h"
 #include "tables/reference_tables.h"
 
@@ -31,6 +32,6 @@ struct WornRail {
 /// @param railFix  how the rail lies on the flange; any value without a name: on a resilient pad
 /// @param section  b1, tf1, tw
 [[nodiscard]] double effectiveLoadedLength(const RailRecord& rail, const WornRail& worn, RailFixing railFix,
-                                           const SectionRecord& section);
+                                           const SectionRecord& section, Working working = {});
 
 }  // namespace borvik

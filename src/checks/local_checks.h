@@ -26,7 +26,7 @@ void wearStatic(CheckBasis& basis);
 /// @param a           distance of the stiffeners, mm
 /// @param stockyRule  drop m2 where the slenderness is 0.5 at most, as EN 1993-1-5 6.5(1) has it; the check keeps it
 [[nodiscard]] double patchResistance(const Project& project, const SectionRecord& section, double leff, double a,
-                                     bool stockyRule = false);
+                                     bool stockyRule = false, Working working = {});
 
 /// Where a wheel stands on the bottom flange, mm: EN 1993-6 eq. (6.2), (6.3) and Table 6.2.
 struct FlangeLever {
@@ -41,7 +41,8 @@ struct FlangeLever {
 };
 
 /// Ff,Rd of EN 1993-6 6.7(1), kN. @param leff yield line length, mm. @param part  stress of the beam over its limit
-[[nodiscard]] double flangeResistance(const Project& project, const SectionRecord& section, double leff, double part);
+[[nodiscard]] double flangeResistance(const Project& project, const SectionRecord& section, double leff, double part,
+                                      Working working = {});
 
 /// What the von Mises stress of the bottom flange is made of.
 struct VonMisesBasis {
@@ -56,6 +57,7 @@ struct VonMisesBasis {
 /// What VonMisesCheck takes for a span at the position of the largest My.
 [[nodiscard]] VonMisesBasis vonMisesBasis(const Project& project, const UlsResults& uls, int span);
 /// The largest von Mises stress of the three points, N/mm2.
-[[nodiscard]] double vonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis);
+[[nodiscard]] double vonMisesStress(const Project& project, const SectionRecord& section, const VonMisesBasis& basis,
+                                    Working working = {});
 
 }  // namespace borvik

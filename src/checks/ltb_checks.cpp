@@ -17,11 +17,29 @@ bool isEndSpan(const Project& project, int span) {
     return span == 1 || span == project.NofSpans;
 }
 
+/// The last lines of the working, behind those of chiLT.
+void explainRatio(const Project& project, int span, bool positive, Single My, Single Mz,
+                  const LtbResistance& resistance, double ratio, Working working) {
+    const SectionRecord& s = project.SpanSection(span);
+    working.given("MyEd", My, "kNm", "of the walk");
+    working.given("MyRk", positive ? s.MyRdPos : s.MyRdNeg, "kNm", "Wy*fyk, of the section");
+    working.given("gamma_M1", project.GammaM1, "");
+    working.step("MyRd", "MyRk/gamma_M1", resistance.My, "kNm");
+    if (Mz == 0) {
+        working.step("IR", "MyEd/(chi_LT*MyRd)", ratio, "", "EN 1993-1-1 (6.54)");
+        return;
+    }
+    working.given("MzEd", Mz, "kNm", "of the walk, same position");
+    working.given("MzRk", s.MzRd, "kNm", "loaded flange, of the section");
+    working.step("MzRd", "MzRk/gamma_M1", resistance.Mz, "kNm");
+    working.step("IR", "MyEd/(chi_LT*MyRd) + MzEd/MzRd", ratio, "", "EN 1993-6 6.3.3");
+}
+
 /// For the largest positive moment: End in the first and the last span, Mid in others.
 /// @param My,Mz    design moments, kNm
 /// @param records  where the wheels of rows 5 to 8 stand
 RowSet ltbRows(const Project& project, int span, bool positive, Single My, Single Mz, Single ChiLT,
-               const Table<Single>& records) {
+               const Table<Single>& records, Working working) {
     const LtbResistance resistance(project, span, positive);
     const std::string first = oneDecimal(My) + "/(" + twoDecimals(ChiLT) + "*" + oneDecimal(resistance.My) + ")";
     const std::string limit = " <  1.00 Beam: " + generalText(span);
@@ -39,21 +57,22 @@ RowSet ltbRows(const Project& project, int span, bool positive, Single My, Singl
         rows(4) = limit + " (Ch 6.3.3)";
     }
     setRatio(rows, ltbRatio(resistance, My, Mz, ChiLT));
+    explainRatio(project, span, positive, My, Mz, resistance, rows.Ratio, working);
     setWheelRows(rows, records, span);
     return rows;
 }
 
-RowSet positiveRows(const Project& project, int span, const UlsResults& uls) {
+RowSet positiveRows(const Project& project, int span, const UlsResults& uls, Working working) {
     const Single My = uls.MyMaxSpan(span, 1) / 1000000;
     const Single Mz = std::abs(uls.MyMaxSpan(span, 3)) / 1000000;
-    return ltbRows(project, span, true, My, Mz, positiveReduction(project, span), uls.MyMaxSpan);
+    return ltbRows(project, span, true, My, Mz, positiveReduction(project, span, working), uls.MyMaxSpan, working);
 }
 
-RowSet negativeRows(const Project& project, int span, const UlsResults& uls) {
+RowSet negativeRows(const Project& project, int span, const UlsResults& uls, Working working) {
     const Table<Single>& support = uls.MySupportSpan;
     const Single My = std::abs(support(span, 1)) / 1000000;
     const Single Mz = std::abs(support(span, 4)) / 1000000;
-    return ltbRows(project, span, false, My, Mz, negativeReduction(project, span, support), support);
+    return ltbRows(project, span, false, My, Mz, negativeReduction(project, span, support, working), support, working);
 }
 
 }  // namespace
@@ -78,33 +97,52 @@ std::optional<CFactors> negativeFactors(const Project& project, int span, const 
     return CFactors{1.77 - 1.04 * psi + 0.27 * std::pow(psi, 2), 0, project.C3MidNeg};
 }
 
-Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors) {
+Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors, Working working) {
     const SectionRecord& s = project.SpanSection(span);
     const double L = project.Span(span);
     const double t = factors.C2 * s.Zg - factors.C3 * (positive ? s.ZjPos : s.ZjNeg);
     const double Lt = (std::pow(L, 2) * steel::kE / steel::kEtoG * s.It) / steel::kE;
     const double root = std::sqrt(Lt / std::pow(kPi, 2) / s.Iz + s.Iw / s.Iz + std::pow(t, 2));
-    return (std::pow(kPi, 2) * factors.C1 * steel::kE * s.Iz / std::pow(L, 2)) * (root - t);
+    const Single Mcr = (std::pow(kPi, 2) * factors.C1 * steel::kE * s.Iz / std::pow(L, 2)) * (root - t);
+    working.given("L", L, "mm");
+    working.given("Iz", s.Iz, "mm4");
+    working.given("It", s.It, "mm4");
+    working.given("Iw", s.Iw, "mm6");
+    working.given("E", steel::kE, "MPa");
+    working.given("EtoG", steel::kEtoG, "", "E/G = 2*(1 + 0.3)");
+    working.given("C1", factors.C1, "");
+    working.given("C2", factors.C2, "");
+    working.given("C3", factors.C3, "");
+    working.given("zg", s.Zg, "mm", "load above the shear centre");
+    working.given("zj", positive ? s.ZjPos : s.ZjNeg, "mm", "monosymmetry");
+    working.step("t", "C2*zg - C3*zj", t, "mm");
+    working.step("root", "sqrt(L^2*It/(EtoG*pi^2*Iz) + Iw/Iz + t^2)", root, "mm");
+    working.step("Mcr", "pi^2*C1*E*Iz/L^2*(root - t)/10^6", Mcr / 1e6, "kNm", "theory 10");
+    return Mcr;
 }
 
-Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1) {
+Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1, Working working) {
     const SectionRecord& s = project.SpanSection(span);
     const Single Kc = 1 / std::sqrt(C1);
-    if (project.LtbCurve == LtbCase::General) return ReductionGeneral(project, s, positive, Mcr);
-    return ReductionRolledWelded(project, s, positive, Mcr, Kc);
+    if (project.LtbCurve == LtbCase::General) return ReductionGeneral(project, s, positive, Mcr, working);
+    working.step("kc", "1/sqrt(C1)", Kc, "", "EN 1993-1-1 6.3.2.3(2)");
+    return ReductionRolledWelded(project, s, positive, Mcr, Kc, working);
 }
 
-Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors) {
-    return ltbReduction(project, span, positive, criticalMoment(project, span, positive, factors), factors.C1);
+Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors, Working working) {
+    return ltbReduction(project, span, positive, criticalMoment(project, span, positive, factors, working), factors.C1,
+                        working);
 }
 
-Single positiveReduction(const Project& project, int span) {
-    return ltbReduction(project, span, true, positiveFactors(project, span));
+Single positiveReduction(const Project& project, int span, Working working) {
+    return ltbReduction(project, span, true, positiveFactors(project, span), working);
 }
 
-Single negativeReduction(const Project& project, int span, const Table<Single>& support) {
+Single negativeReduction(const Project& project, int span, const Table<Single>& support, Working working) {
     const std::optional<CFactors> factors = negativeFactors(project, span, support);
-    return factors ? ltbReduction(project, span, false, *factors) : Single(1.0);
+    if (factors) return ltbReduction(project, span, false, *factors, working);
+    working.given("chi_LT", 1.0, "", "no support moment is negative");
+    return 1.0;
 }
 
 LtbResistance::LtbResistance(const Project& project, int span, bool positive) {
@@ -138,7 +176,8 @@ void DefaultCFactors(Project& project) {
 
 RowSet bucklingRow(const CheckBasis& basis, int span, int extreme) {
     const UlsResults& uls = basis.uls;
-    RowSet rows = extreme == 0 ? positiveRows(basis.project, span, uls) : negativeRows(basis.project, span, uls);
+    RowSet rows = extreme == 0 ? positiveRows(basis.project, span, uls, basis.working)
+                               : negativeRows(basis.project, span, uls, basis.working);
     if (extreme == 0)
         rows.Stands[0] = standOf(basis, Effect::My, uls.MyMaxSpan, uls.At.MyMax, span);
     else if (uls.At.MySupport.has(span))

@@ -24,16 +24,20 @@ struct CFactors {
 
 /// Critical moment by the three factors, Nmm, with the whole span as unbraced length.
 /// @param positive  true: the top flange is in compression
-[[nodiscard]] Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors);
+[[nodiscard]] Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors,
+                                    Working working = {});
 /// chiLT of a critical moment by the curve of the project. @param C1  of the moment diagram, for kc
-[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1);
+[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, Single Mcr, double C1,
+                                  Working working = {});
 /// The same of the critical moment by the factors.
 /// @param positive  true: the top flange is in compression
-[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors);
+[[nodiscard]] Single ltbReduction(const Project& project, int span, bool positive, const CFactors& factors,
+                                  Working working = {});
 /// The same with the project's factors for the largest positive moment of the span, and with those of the most negative
 /// support moment; 1 where there are none.
-[[nodiscard]] Single positiveReduction(const Project& project, int span);
-[[nodiscard]] Single negativeReduction(const Project& project, int span, const Table<Single>& support);
+[[nodiscard]] Single positiveReduction(const Project& project, int span, Working working = {});
+[[nodiscard]] Single negativeReduction(const Project& project, int span, const Table<Single>& support,
+                                       Working working = {});
 
 /// Design resistances without buckling, kNm: about the strong axis, and of the loaded flange.
 struct LtbResistance {

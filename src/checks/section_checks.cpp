@@ -45,9 +45,13 @@ std::string limitAt(int span, double position, const char* mask) {
 
 /// @param steps         VzMaxSpan or VzMinSpan
 /// @param positionMask  of the position in row 4
-RowSet shearRows(const SectionRecord& section, const Table<Single>& steps, int span, const char* positionMask) {
+RowSet shearRows(const SectionRecord& section, const Table<Single>& steps, int span, const char* positionMask,
+                 Working working) {
     const double VzEd = std::abs(steps(span, 2)) / 1000;
     const Single ratio = VzEd / section.VzRd;
+    working.given("VzEd", VzEd, "kN", "of the walk");
+    working.given("VzRd", section.VzRd, "kN", "of the section");
+    working.step("IR", "VzEd/VzRd", ratio, "", "EN 1993-1-1 (6.17)");
 
     RowSet rows;
     rows(1) = "IR = Vz,Ed/Vz,Rd = ";
@@ -60,9 +64,9 @@ RowSet shearRows(const SectionRecord& section, const Table<Single>& steps, int s
 
 /// @param steps  MyMaxSpan or MyMinSpan
 RowSet bendingRows(const Project& project, const SectionRecord& section, const Table<Single>& steps, int span,
-                   const BendingTexts& texts) {
+                   const BendingTexts& texts, Working working) {
     const SectionForces forces(steps(span, 1), steps(span, 2), steps(span, 3));
-    const BendingResistance resistance(project, section, forces);
+    const BendingResistance resistance(project, section, forces, working);
 
     const bool shearFree = !shearCounts(section, forces.Vz);
     const auto formula = [&](const FormulaTexts& text) { return shearFree ? text.shearFree : text.reduced; };
@@ -86,7 +90,19 @@ RowSet bendingRows(const Project& project, const SectionRecord& section, const T
         rows(2) = "[" + My + "]^" + noDecimals(kAlpha) + " + " + Mz + " = ";
         reference = " mm; Ch 6.2.5/6.2.9)";
     }
-    setRatio(rows, bendingRatio(forces, resistance, section.ClassPos));
+    const Single ratio = bendingRatio(forces, resistance, section.ClassPos);
+    setRatio(rows, ratio);
+    if (forces.Mz == 0) {
+        working.step("IR", "abs(MyEd)/MVRd", ratio, "", "EN 1993-1-1 (6.12)");
+    } else {
+        working.given("MzEd", forces.Mz, "kNm", "of the walk, same position");
+        working.given("MzRk", section.MzRd, "kNm", "loaded flange, of the section");
+        working.step("MzRd", "MzRk/gamma_M0", resistance.Mz, "kNm");
+        if (section.ClassPos > 2)
+            working.step("IR", "abs(MyEd)/MVRd + MzEd/MzRd", ratio, "", "EN 1993-1-1 6.2.1(7)");
+        else
+            working.step("IR", "(abs(MyEd)/MVRd)^2 + MzEd/MzRd", ratio, "", "EN 1993-1-1 (6.41)");
+    }
     rows(4) = limitAt(span, steps(span, 9), "0") + reference;
     setWheelRows(rows, steps, span);
     return rows;
@@ -97,8 +113,9 @@ RowSet bendingRows(const Project& project, const SectionRecord& section, const T
 SectionForces::SectionForces(double MyNmm, double VzN, double MzNmm)
     : My(MyNmm / 1000000), Vz(std::abs(VzN) / 1000), Mz(std::abs(MzNmm) / 1000000) {}
 
-BendingResistance::BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces)
-    : My(reducedMoment(project, section, forces.My, forces.Vz)), Mz(section.MzRd / project.GammaM0) {}
+BendingResistance::BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces,
+                                     Working working)
+    : My(reducedMoment(project, section, forces.My, forces.Vz, working)), Mz(section.MzRd / project.GammaM0) {}
 
 Single bendingRatio(const SectionForces& forces, const BendingResistance& resistance, int sectionClass) {
     const double My = std::abs(forces.My) / resistance.My;
@@ -110,7 +127,7 @@ double shearReduction(const SectionRecord& section, double VzEd) {
     return shearCounts(section, VzEd) ? std::fmin(std::pow(2 * VzEd / section.VzRd - 1, 2), 1.0) : 0.0;
 }
 
-Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd) {
+Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd, Working working) {
     const double rho = shearReduction(section, VzEd);
     const bool positive = MyEd >= 0;
     const double base = (positive ? section.MyRdPos : section.MyRdNeg) / project.GammaM0;
@@ -118,15 +135,31 @@ Single reducedMoment(const Project& project, const SectionRecord& section, doubl
 
     const double K = sectionClass > 2 ? 6 : 4;  // web modulus: elastic Hw^2 tw / 6, plastic Hw^2 tw / 4
     const double web = std::pow(section.Hw, 2) * section.tw * rho / K / 1000000 * project.fyk / project.GammaM0;
-    return base - web;
+    const Single reduced = base - web;
+    working.given("MyEd", MyEd, "kNm", "of the walk");
+    working.given("VzEd", VzEd, "kN", "of the walk, same position");
+    working.given("VzRd", section.VzRd, "kN", "of the section");
+    working.given("MyRk", positive ? section.MyRdPos : section.MyRdNeg, "kNm", "Wy*fyk, of the section");
+    working.given("gamma_M0", project.GammaM0, "");
+    if (!shearCounts(section, VzEd)) {
+        working.step("MVRd", "MyRk/gamma_M0", reduced, "kNm", "EN 1993-1-1 6.2.8(2): VzEd up to VzRd/2");
+        return reduced;
+    }
+    working.given("hw", section.Hw, "mm");
+    working.given("tw", section.tw, "mm");
+    working.given("fyk", project.fyk, "MPa");
+    working.given("K", K, "", "web's modulus: 4 plastic, 6 elastic");
+    working.step("rho", "min((2*VzEd/VzRd - 1)^2, 1)", rho, "", "EN 1993-1-1 6.2.8(3)");
+    working.step("MVRd", "MyRk/gamma_M0 - hw^2*tw*rho/K*fyk/gamma_M0/10^6", reduced, "kNm", "EN 1993-1-1 6.2.8(5)");
+    return reduced;
 }
 
 RowSet shearRow(const CheckBasis& basis, int span, int extreme) {
     const SectionRecord& section = basis.project.SpanSection(span);
     const UlsResults& uls = basis.uls;
     // Row 4 has a blank before "mm" only for the smallest Vz, which tells the two apart.
-    RowSet rows =
-        extreme == 0 ? shearRows(section, uls.VzMaxSpan, span, "0") : shearRows(section, uls.VzMinSpan, span, "0 ");
+    RowSet rows = extreme == 0 ? shearRows(section, uls.VzMaxSpan, span, "0", basis.working)
+                               : shearRows(section, uls.VzMinSpan, span, "0 ", basis.working);
     rows.Stands[0] = extreme == 0 ? standOf(basis, Effect::Vz, uls.VzMaxSpan, uls.At.VzMax, span)
                                   : standOf(basis, Effect::Vz, uls.VzMinSpan, uls.At.VzMin, span);
     return rows;
@@ -135,7 +168,8 @@ RowSet shearRow(const CheckBasis& basis, int span, int extreme) {
 RowSet bendingRow(const CheckBasis& basis, int span, int extreme) {
     const SectionRecord& section = basis.project.SpanSection(span);
     const Table<Single>& steps = extreme == 0 ? basis.uls.MyMaxSpan : basis.uls.MyMinSpan;
-    RowSet rows = bendingRows(basis.project, section, steps, span, extreme == 0 ? kBendMaxTexts : kBendMinTexts);
+    RowSet rows =
+        bendingRows(basis.project, section, steps, span, extreme == 0 ? kBendMaxTexts : kBendMinTexts, basis.working);
     rows.Stands[0] = standOf(basis, Effect::My, steps, extreme == 0 ? basis.uls.At.MyMax : basis.uls.At.MyMin, span);
     return rows;
 }

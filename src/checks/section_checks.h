@@ -23,13 +23,15 @@ struct SectionForces {
 /// @param MyEd  kNm, signed: from 0 up the positive resistance and class count, below 0 the negative ones
 /// @param VzEd  kN, positive; no reduction up to half of VzRd
 /// @return      not limited below: it may be negative for a section that is nearly all web
-[[nodiscard]] Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd);
+[[nodiscard]] Single reducedMoment(const Project& project, const SectionRecord& section, double MyEd, double VzEd,
+                                   Working working = {});
 
 /// Design moment resistances beside the forces of a point, kNm: reducedMoment, and that of the loaded flange.
 struct BendingResistance {
     double My = 0, Mz = 0;
 
-    BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces);
+    BendingResistance(const Project& project, const SectionRecord& section, const SectionForces& forces,
+                      Working working = {});
 };
 
 /// Bending about both axes: My alone without Mz; else the sum of both, EN 1993-1-1 (6.2), from class 3, and with My

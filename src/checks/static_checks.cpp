@@ -64,9 +64,14 @@ CheckResult emptyResult(const StaticCheck& check, int spans) {
 
 void runSpan(const CheckBasis& basis, int span, CheckResult& result) {
     const StaticCheck& check = *result.check;
-    if (check.extremes.empty()) result.spans(span) = check.row(basis, span, 0);
+    const auto rowAt = [&](int extreme) {
+        RowSet row = check.row(basis, span, extreme);
+        row.Origin = {&check, span, extreme};
+        return row;
+    };
+    if (check.extremes.empty()) result.spans(span) = rowAt(0);
     for (std::size_t extreme = 0; extreme < result.extremes.size(); ++extreme)
-        result.extremes[extreme](span) = check.row(basis, span, static_cast<int>(extreme));
+        result.extremes[extreme](span) = rowAt(static_cast<int>(extreme));
 }
 
 void takeWorse(CheckResult& result) {

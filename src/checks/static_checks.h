@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "analysis/results.h"
+#include "base/working.h"
 #include "checks/check_rows.h"
 #include "checks/loaded_length.h"
 #include "project/project.h"
@@ -17,7 +18,8 @@ struct CheckBasis {
     const RailRecord& rail;
     const UlsResults& uls;
     const SlsResults& sls;
-    WornRail worn{};  ///< of patch load, which sets it
+    WornRail worn{};    ///< of patch load, which sets it
+    Working working{};  ///< takes down how a row comes about; nothing in an ordinary run
 };
 
 enum class LimitState { Ultimate, Serviceability };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/working.h"
 #include "section/properties.h"
 
 namespace borvik {
@@ -8,11 +9,11 @@ namespace borvik {
 /// Out: the classes; the effective section where a class is 4; moment resistances fyk W in kNm without a partial factor
 /// (the checks divide by GammaM0 or GammaM1); shear resistances in kN with theirs. Source: EN 1993-1-1, 6.2.5
 /// and 6.2.6; EN 1993-1-5, 5.2 and 5.3 (without the contribution of the flanges).
-void SectionResistance(const SectionSetting& setting, SectionRecord& section);
+void SectionResistance(const SectionSetting& setting, SectionRecord& section, Working working = {});
 
 /// Classes 1 to 4 of flanges, web and section under either sign of the moment, EN 1993-1-1 Table 5.2. Positive moment
 /// compresses the top flange.
-void Classify(double Epsilon, SectionRecord& section);
+void Classify(double Epsilon, SectionRecord& section, Working working = {});
 
 /// The effective section of class 4 under either sign of the moment: WeffTopPos, WeffBottomPos, EzEffPos, WeffTopNeg,
 /// WeffBottomNeg, EzEffNeg. Source: EN 1993-1-5, 4.4.

@@ -8,7 +8,8 @@ namespace borvik {
 
 namespace {
 
-void update(const ReferenceTables& tables, const SectionSetting& setting, SectionRecord& section) {
+void update(const ReferenceTables& tables, const SectionSetting& setting, SectionRecord& section,
+            Working working = {}) {
     if (isWelded(section)) {
         WeldedProperties(setting, section);
     } else {
@@ -17,7 +18,7 @@ void update(const ReferenceTables& tables, const SectionSetting& setting, Sectio
         LoadRolled(tables, designation, section);
         RolledProperties(setting, section);
     }
-    SectionResistance(setting, section);
+    SectionResistance(setting, section, working);
 }
 
 /// What the properties of a section depend on beside its own dimensions.
@@ -51,6 +52,11 @@ void UpdateSections(const ReferenceTables& tables, Project& project) {
 
 void updateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section) {
     watched("Section properties", 0, [&] { update(tables, settingOf(tables, project), section); });
+}
+
+void explainSection(const ReferenceTables& tables, const Project& project, int span, Working working) {
+    SectionRecord section = project.SpanSection(span);
+    watched("Section properties", span, [&] { update(tables, settingOf(tables, project), section, working); });
 }
 
 void LoadRolled(const ReferenceTables& tables, const std::string& TableName, SectionRecord& section) {

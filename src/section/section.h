@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/working.h"
 #include "project/project.h"
 
 namespace borvik {
@@ -16,6 +17,11 @@ void UpdateSections(const ReferenceTables& tables, Project& project);
 /// @param section  in: family, dimensions, reinforcement; out: every computed property
 /// @throws RuntimeFault  as UpdateSections, without a span
 void updateSection(const ReferenceTables& tables, const Project& project, SectionRecord& section);
+
+/// Takes down how classes and resistances of a span's section come about.
+/// @param project  as settled by a calculation
+/// @throws RuntimeFault  on an arithmetic fault
+void explainSection(const ReferenceTables& tables, const Project& project, int span, Working working);
 
 /// Copies the first row of the section table with this designation into the section: family, dimensions and the
 /// published properties, weak-axis modulus WplZ included; DisplayName becomes the designation. Every other field stays.

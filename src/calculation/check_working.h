@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/working.h"
+#include "calculation/session.h"
+
+namespace borvik {
+
+/// How a governing ratio, or the section that it rests on, comes about: lines that can be followed with a pocket
+/// calculator.
+struct CheckWorking {
+    std::string key;    ///< of the check, "Ltb"; "Section"
+    std::string title;  ///< "Lateral torsional buckling, span 2, negative moment"; "Section of span 2, HEB 500"
+    int span = 1;
+    std::vector<WorkingStep> steps;
+};
+
+/// The working of every static check that tables and report show, at its governing row, each behind the sections that
+/// the ratios rest on. The checks themselves write it down: they run once more, for these rows alone.
+/// @pre  the session holds results of its project
+/// @throws RuntimeFault  on an arithmetic fault
+[[nodiscard]] std::vector<CheckWorking> checkWorkings(const Session& session);
+
+/// The working of one row. @param origin  with a check
+/// @throws RuntimeFault  on an arithmetic fault
+[[nodiscard]] CheckWorking workingOf(const Session& session, const RowOrigin& origin);
+
+}  // namespace borvik
