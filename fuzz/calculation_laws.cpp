@@ -46,7 +46,7 @@ std::string outcome(Session& session, WalkMethod method) {
     if (finished != session.Calculated) throw BrokenLaw("a run that has ended has no results, or the other way round");
     if (!finished && messages.texts.empty()) throw BrokenLaw("a calculation is refused without a word");
     if (finished) makeNotes(session);
-    return resultsJson(session, messages.texts, {}, "", true);
+    return resultsJson(session, messages.texts, {}, "", {.notes = true});
 }
 
 /// Makes all tables and pictures of a run, and its summary.

@@ -19,7 +19,7 @@ _borvik_calc() {
         *)
             if [[ $current == -* ]]; then
                 mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --csv --decimal --default --diagram --fail-above --fingerprint --from-json --help --json --lateral-supports --neighbour --notes --png --quiet --reactions --reactions-csv --reactions-xlsx --report
-                    --save --scope --second-opinion --summary --table --tables --version --walk --warping-free --with-notes --with-positions --with-reactions --workbook --xlsx" -- "$current")
+                    --save --scope --second-opinion --summary --table --tables --values --version --walk --warping-free --with-notes --with-positions --with-reactions --with-values --workbook --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
             fi

@@ -80,6 +80,9 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
     std::optional<SecondOpinion> opinion;
     if (session.Calculated && options.secondOpinion) opinion = secondOpinion(session, options.opinionOptions);
+    std::optional<std::vector<CheckWorking>> workings;
+    if (session.Calculated && options.values)
+        workings = checkWorkings(session.tables, session.project, *session.results);
     std::optional<SupportReactions> reactions;
     int exitCode = outcome(session, options);
     if (session.Calculated && options.wantsReactions())
@@ -89,8 +92,9 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     const std::string onLoads = session.Calculated ? loadRemark(session.project) : std::string();
     if (!onLoads.empty()) console.show(onLoads);
     try {
-        for (const std::string& remark : outputs.write({session, messages, file, opinion ? &*opinion : nullptr,
-                                                        reactions ? &*reactions : nullptr, fingerprint}))
+        for (const std::string& remark :
+             outputs.write({session, messages, file, opinion ? &*opinion : nullptr, workings ? &*workings : nullptr,
+                            reactions ? &*reactions : nullptr, fingerprint}))
             console.show(remark);
     } catch (const OutputError& error) {
         console.show(error.what());

@@ -19,6 +19,7 @@
 #include "results/spreadsheet.h"
 #include "results/summary.h"
 #include "results/tables.h"
+#include "results/values_text.h"
 
 namespace borvik {
 
@@ -76,14 +77,16 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
     if (options_.printsSummary()) attempt([&] { writeSummary(run); });
     if (options_.notes) attempt([&] { writeNotes(run); });
     if (options_.secondOpinion) attempt([&] { writeSecondOpinion(run); });
+    if (run.workings != nullptr) attempt([&] { printText(run, valuesText(*run.workings)); });
     if (run.reactions != nullptr) attempt([&] { writeReactions(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
 }
 
 void Outputs::writeJson(const FinishedRun& run) {
-    const std::string text = resultsJson(run.session, run.messages, run.file, kProgramAndVersion, options_.notes,
-                                         run.opinion, options_.reactions ? run.reactions : nullptr);
+    const std::string text =
+        resultsJson(run.session, run.messages, run.file, kProgramAndVersion,
+                    {options_.notes, run.opinion, run.workings, options_.reactions ? run.reactions : nullptr});
     if (options_.json == "-") {
         print(text);
         return;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/whole_file.h"
+#include "calculation/check_working.h"
 #include "calculation/session.h"
 #include "options.h"
 #include "reactions/support_reactions.h"
@@ -28,10 +29,11 @@ void naming(const std::string& file, Write write) {
 struct FinishedRun {
     const Session& session;
     const std::vector<std::string>& messages;
-    std::optional<std::string> file;              ///< as given; nothing for the default project
-    const SecondOpinion* opinion = nullptr;       ///< where it was asked for and there are results
-    const SupportReactions* reactions = nullptr;  ///< the same
-    std::string fingerprint;                      ///< of the input as it was read
+    std::optional<std::string> file;                      ///< as given; nothing for the default project
+    const SecondOpinion* opinion = nullptr;               ///< where it was asked for and there are results
+    const std::vector<CheckWorking>* workings = nullptr;  ///< the same
+    const SupportReactions* reactions = nullptr;          ///< the same
+    std::string fingerprint;                              ///< of the input as it was read
 };
 
 /// Writes what the options ask for, one project after the other.

@@ -69,8 +69,12 @@ std::string workingNumber(double value) {
     constexpr double kMostDigits = 1e6;
     std::array<char, 40> text{};
     const double size = std::abs(value);
+    std::snprintf(text.data(), text.size(), "%.3g", value);
+    const bool isShort = size < kMostDigits && std::abs(std::stod(text.data()) - value) <= 1e-7 * size;
     if (value == std::floor(value) && size < kMostDigits)
         std::snprintf(text.data(), text.size(), "%.0f", value == 0 ? 0.0 : value);
+    else if (isShort && std::string_view(text.data()).find('e') == std::string_view::npos)
+        return text.data();
     else if (size >= kMostDigits || size < 1e-3)
         std::snprintf(text.data(), text.size(), "%.3E", value);
     else
@@ -104,7 +108,8 @@ std::string withNumbers(const std::vector<WorkingStep>& steps, std::size_t line)
 
 std::string shownFormula(std::string_view formula) {
     std::string text;
-    scan(formula, [&](std::string_view name) { text += shownName(name); }, [&](char c) { text += c; });
+    scan(
+        formula, [&](std::string_view name) { text += shownName(name); }, [&](char c) { text += c; });
     const auto replaceAll = [&text](std::string_view from, std::string_view to) {
         for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
             text.replace(at, from.size(), to);

@@ -39,8 +39,8 @@ private:
     std::vector<WorkingStep>* steps_ = nullptr;
 };
 
-/// A number with at least four significant digits; one that is whole and below a million as it is: "0.8723", "1707.6",
-/// "6.310E7", "12000".
+/// A number with at least four significant digits; one that has fewer, or is whole and below a million, as it is:
+/// "0.8723", "1707.6", "6.310E7", "12000", "8.5".
 [[nodiscard]] std::string workingNumber(double value);
 
 /// The formula of a line with its numbers in place of the symbols; each symbol has the value of the last line before

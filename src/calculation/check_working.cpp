@@ -24,41 +24,51 @@ std::string extremeText(const StaticCheck& check, int extreme) {
     return name == "Max" ? ", largest value" : ", smallest value";
 }
 
-CheckWorking sectionWorking(const Session& session, int span) {
-    CheckWorking working{
-        "Section", "Section of span " + std::to_string(span) + ", " + session.project.SpanSection(span).DisplayName,
-        span, {}};
-    explainSection(session.tables, session.project, span, Working(working.steps));
+CheckWorking sectionWorking(const ReferenceTables& tables, const Project& project, int span) {
+    const std::string title = "Section of span " + std::to_string(span) + ", ";
+    CheckWorking working{"Section", title + project.SpanSection(span).DisplayName, span, {}};
+    explainSection(tables, project, span, Working(working.steps));
     return working;
 }
 
-}  // namespace
-
-CheckWorking workingOf(const Session& session, const RowOrigin& origin) {
+CheckWorking rowWorking(const Project& project, const Results& results, const RowOrigin& origin) {
     const StaticCheck& check = *origin.check;
     const int span = origin.span;
-    CheckWorking working{
-        check.key, capital(check.name) + ", span " + std::to_string(span) + extremeText(check, origin.extreme), span, {}};
-    const Results& results = *session.results;
-    CheckBasis basis{session.project, results.Rail, results.Uls, results.Sls};
+    CheckWorking working{check.key,
+                         capital(check.name) + ", span " + std::to_string(span) + extremeText(check, origin.extreme),
+                         span,
+                         {}};
+    CheckBasis basis{project, results.Rail, results.Uls, results.Sls};
     if (check.prepare) check.prepare(basis);
     basis.working = Working(working.steps);
     watched(check.faultAt, span, [&] { (void)check.row(basis, span, origin.extreme); });
     return working;
 }
 
-std::vector<CheckWorking> checkWorkings(const Session& session) {
+/// Shear, bending and buckling take resistances of the section; local checks and deflections have all in their lines.
+bool restsOnResistances(const StaticCheck& check) {
+    return !check.extremes.empty();
+}
+
+}  // namespace
+
+std::vector<CheckWorking> workingsOf(const ReferenceTables& tables, const Project& project, const Results& results,
+                                     const RowOrigin& origin) {
+    std::vector<CheckWorking> workings;
+    if (restsOnResistances(*origin.check)) workings.push_back(sectionWorking(tables, project, origin.span));
+    workings.push_back(rowWorking(project, results, origin));
+    return workings;
+}
+
+std::vector<CheckWorking> checkWorkings(const ReferenceTables& tables, const Project& project, const Results& results) {
     std::vector<CheckWorking> sections, checks;
     std::set<std::string> known;
-    for (const CheckResult& result : session.results->Checks.all) {
-        if (!isShown(*result.check, session.project)) continue;
+    for (const CheckResult& result : results.Checks.all) {
         const RowOrigin& origin = result.governing.Origin;
-        if (origin.check == nullptr) continue;
-        const int span = origin.span;
-        checks.push_back(workingOf(session, origin));
-        const bool restsOnResistances = !result.check->extremes.empty();
-        if (restsOnResistances && known.insert(session.project.SpanSection(span).DisplayName).second)
-            sections.push_back(sectionWorking(session, span));
+        if (!isShown(*result.check, project) || origin.check == nullptr) continue;
+        checks.push_back(rowWorking(project, results, origin));
+        if (restsOnResistances(*origin.check) && known.insert(project.SpanSection(origin.span).DisplayName).second)
+            sections.push_back(sectionWorking(tables, project, origin.span));
     }
     sections.insert(sections.end(), std::make_move_iterator(checks.begin()), std::make_move_iterator(checks.end()));
     return sections;

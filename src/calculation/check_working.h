@@ -19,12 +19,15 @@ struct CheckWorking {
 
 /// The working of every static check that tables and report show, at its governing row, each behind the sections that
 /// the ratios rest on. The checks themselves write it down: they run once more, for these rows alone.
-/// @pre  the session holds results of its project
+/// @param project, results  of one calculation
 /// @throws RuntimeFault  on an arithmetic fault
-[[nodiscard]] std::vector<CheckWorking> checkWorkings(const Session& session);
+[[nodiscard]] std::vector<CheckWorking> checkWorkings(const ReferenceTables& tables, const Project& project,
+                                                      const Results& results);
 
-/// The working of one row. @param origin  with a check
+/// The working of one row, behind that of the section where the ratio rests on its resistances.
+/// @param origin  with a check
 /// @throws RuntimeFault  on an arithmetic fault
-[[nodiscard]] CheckWorking workingOf(const Session& session, const RowOrigin& origin);
+[[nodiscard]] std::vector<CheckWorking> workingsOf(const ReferenceTables& tables, const Project& project,
+                                                   const Results& results, const RowOrigin& origin);
 
 }  // namespace borvik

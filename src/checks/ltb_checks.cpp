@@ -117,7 +117,7 @@ Single criticalMoment(const Project& project, int span, bool positive, const CFa
     working.given("zj", positive ? s.ZjPos : s.ZjNeg, "mm", "monosymmetry");
     working.step("t", "C2*zg - C3*zj", t, "mm");
     working.step("root", "sqrt(L^2*It/(EtoG*pi^2*Iz) + Iw/Iz + t^2)", root, "mm");
-    working.step("Mcr", "pi^2*C1*E*Iz/L^2*(root - t)/10^6", Mcr / 1e6, "kNm", "theory 10");
+    working.step("Mcr", "pi^2*C1*E*Iz/L^2*(root - t)/10^6", Mcr / 1e6, "kNm", "manual, chapter 10");
     return Mcr;
 }
 

@@ -152,6 +152,8 @@ std::span<const ExtraChapter> extraChapters() {
     static constexpr ExtraChapter kChapters[] = {
         {&ReportExtras::positions, "Positions", "governing positions of the cranes",
          "where the cranes stand for each governing check"},
+        {&ReportExtras::values, "Values", "intermediate values",
+         "how each governing ratio of the static checks comes about, line by line"},
         {&ReportExtras::reactions, "Reactions", "reactions for supports",
          "the reactions for the design of the supports, by parts and by position of the cranes"},
         {&ReportExtras::notes, "Notes", "notes for the checking engineer",
@@ -176,6 +178,7 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
     if (extras.positions)
         printPositions(report, scope != ReportScope::Uls,
                        scope == ReportScope::All || scope == ReportScope::Compressed);
+    if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
     if (extras.reactions) printSupportReactions(report);
     if (extras.notes) PrintNotes(page, *session.notes);
 }

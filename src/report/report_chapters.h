@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculation/check_working.h"
 #include "calculation/session.h"
 #include "notes/notes.h"
 #include "report/report_page.h"
@@ -45,6 +46,10 @@ void PrintFlsCrane2(Report& report);
 /// share a picture; one that no position decides has none.
 /// @param withDeflections, withFatigue  those checks too
 void printPositions(Report& report, bool withDeflections, bool withFatigue);
+
+/// "Intermediate values:" on a new page: how each governing ratio of the static checks comes about, line by line,
+/// behind the sections that they rest on.
+void printValues(ReportPage& page, const std::vector<CheckWorking>& workings);
 
 /// "Reactions for supports:" on a new page: every extreme by its parts, of the ultimate limit state with the wheels and
 /// what acts at all supports then.

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "calculation/check_working.h"
 #include "exchange/input_json.h"
 #include "notes/notes.h"
 #include "results/ratios.h"
@@ -354,6 +355,27 @@ Json json(const SupportReactions& reactions) {
     return object;
 }
 
+Json json(const std::vector<CheckWorking>& workings) {
+    Json array = Json::array();
+    for (const CheckWorking& working : workings) {
+        Json of{{"Check", working.key}, {"Title", working.title}, {"Span", working.span}, {"Lines", Json::array()}};
+        for (std::size_t i = 0; i < working.steps.size(); ++i) {
+            const WorkingStep& step = working.steps[i];
+            if (step.isHeading)
+                of["Lines"].push_back({{"Heading", step.symbol}});
+            else
+                of["Lines"].push_back({{"Symbol", step.symbol},
+                                       {"Formula", step.formula},
+                                       {"Numbers", withNumbers(working.steps, i)},
+                                       {"Value", finite(step.value)},
+                                       {"Unit", step.unit},
+                                       {"Clause", step.clause}});
+        }
+        array.push_back(std::move(of));
+    }
+    return array;
+}
+
 Json sections(const Project& project) {
     Json array = Json::array();
     for (int span = 1; span <= project.NofSpans; ++span) array.push_back(json(project.SpanSection(span)));
@@ -363,8 +385,7 @@ Json sections(const Project& project) {
 }  // namespace
 
 std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
-                        const std::optional<std::string>& file, const std::string& program, bool withNotes,
-                        const SecondOpinion* opinion, const SupportReactions* reactions) {
+                        const std::optional<std::string>& file, const std::string& program, const JsonExtras& extras) {
     Json document = fields("Schema", std::int16_t{1}, "Program", program, "File", file, "Calculated",
                            session.Calculated, "Messages", messages);
     document["Fault"] = session.Fault.empty() ? Json(nullptr) : json(session.Fault);
@@ -380,13 +401,14 @@ std::string resultsJson(const Session& session, const std::vector<std::string>& 
         document["Fls"] = stressSets(results.Fatigue);
         document["Steps"] = json(results.Steps);
         document["Fatigue"] = fatigueRows(results.Fatigue);
-        if (withNotes && session.notes) document["Notes"] = json(*session.notes);
+        if (extras.notes && session.notes) document["Notes"] = json(*session.notes);
         const double largest = verdictOf(results).largest;
         document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }
     document["Input"] = Json::parse(inputJson(session.project));
-    if (opinion != nullptr) document["SecondOpinion"] = json(*opinion);
-    if (reactions != nullptr) document["SupportReactions"] = json(*reactions);
+    if (extras.opinion != nullptr) document["SecondOpinion"] = json(*extras.opinion);
+    if (extras.workings != nullptr) document["Derivations"] = json(*extras.workings);
+    if (extras.reactions != nullptr) document["SupportReactions"] = json(*extras.reactions);
     // A file name need not be UTF-8; what isn't becomes the replacement character.
     return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

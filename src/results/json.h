@@ -8,8 +8,17 @@
 
 namespace borvik {
 
+struct CheckWorking;
 struct SecondOpinion;
 struct SupportReactions;
+
+/// What a result file holds where it is asked for.
+struct JsonExtras {
+    bool notes = false;                                   ///< those that the session keeps; else their key is null
+    const SecondOpinion* opinion = nullptr;               ///< key SecondOpinion; null: no such key
+    const std::vector<CheckWorking>* workings = nullptr;  ///< key Derivations; null: no such key
+    const SupportReactions* reactions = nullptr;          ///< key SupportReactions; null: no such key
+};
 
 /// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends
 /// in a newline), for scripts and for comparison with other programs. Keys are the names of the code
@@ -20,12 +29,9 @@ struct SupportReactions;
 /// @param messages  texts of the message boxes of the run, in order
 /// @param file      path of the project as the user gave it; nothing for the default project
 /// @param program   name and version, such as "Borvik 1.2.3"
-/// @param withNotes  with the notes that the session keeps; else their key is null
-/// @param opinion    becomes the key SecondOpinion; null: no such key
-/// @param reactions  becomes the key SupportReactions; null: no such key
+/// @param extras    what else was asked for
 [[nodiscard]] std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
                                       const std::optional<std::string>& file, const std::string& program,
-                                      bool withNotes = false, const SecondOpinion* opinion = nullptr,
-                                      const SupportReactions* reactions = nullptr);
+                                      const JsonExtras& extras = {});
 
 }  // namespace borvik

@@ -9,17 +9,18 @@
 namespace borvik {
 
 inline TableCell textCell(std::string text, Emphasis emphasis = Emphasis::None) {
-    return {std::move(text), emphasis, std::nullopt, {}, {}};
+    return {std::move(text), emphasis, std::nullopt, {}, {}, {}};
 }
 
 inline TableCell numberCell(double number, const char* mask) {
-    return {formatNumber(number, mask), Emphasis::None, number, mask, {}};
+    return {formatNumber(number, mask), Emphasis::None, number, mask, {}, {}};
 }
 
 /// The ratio of a row set: the text as the check wrote it, the number behind it, and the mark where it does
 /// not show that the check holds.
 inline TableCell ratioCell(const RowSet& set) {
-    return {set(3), isSatisfied(set.Ratio) ? Emphasis::None : Emphasis::OverLimit, set.Ratio, "0.000", set.Stands};
+    return {set(3),    isSatisfied(set.Ratio) ? Emphasis::None : Emphasis::OverLimit, set.Ratio, "0.000", set.Stands,
+            set.Origin};
 }
 
 }  // namespace borvik

@@ -247,6 +247,13 @@ std::array<CraneStand, 2> standsOf(const ResultTable& table, int row, int column
     return first == cells.end() ? std::array<CraneStand, 2>{} : first->stands;
 }
 
+RowOrigin originOf(const ResultTable& table, int row) {
+    if (row < 0 || static_cast<std::size_t>(row) >= table.rows.size()) return {};
+    for (const TableCell& cell : table.rows[static_cast<std::size_t>(row)])
+        if (cell.origin.check != nullptr) return cell.origin;
+    return {};
+}
+
 std::string tabSeparated(const ResultTable& table, bool withHeaders) {
     std::string text;
     const auto addLine = [&text, &table](auto cellText) {

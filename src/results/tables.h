@@ -29,6 +29,7 @@ struct TableCell {
     std::string mask;
     /// Where the cranes stand for that number; not known where no position decides it. See RowSet::Stands.
     std::array<CraneStand, 2> stands = {};
+    RowOrigin origin = {};  ///< of a ratio: the check that gives it
 };
 
 struct TableColumn {
@@ -96,6 +97,9 @@ struct TableEntry {
 
 /// The positions of the cranes behind a cell or, where it has none, behind the first cell of its row that has one.
 [[nodiscard]] std::array<CraneStand, 2> standsOf(const ResultTable& table, int row, int column);
+
+/// The check behind the ratio of a row; without a check where there is none.
+[[nodiscard]] RowOrigin originOf(const ResultTable& table, int row);
 
 /// Tab-separated text, one line a row, every line ended by "\n".
 [[nodiscard]] std::string tabSeparated(const ResultTable& table, bool withHeaders = true);

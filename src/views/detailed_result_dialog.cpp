@@ -7,25 +7,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "views/dialog_parts.h"
 #include "views/printing.h"
 
 namespace borvik {
-
-namespace {
-
-QPushButton* closeButton(const char* name, QDialog* dialog) {
-    auto* button = new QPushButton("OK");
-    button->setObjectName(name);
-    button->setDefault(true);
-    QObject::connect(button, &QPushButton::clicked, dialog, &QDialog::accept);
-    return button;
-}
-
-QSize generousSize(const QWidget* parent) {
-    return parent == nullptr ? QSize(900, 600) : parent->size() * 0.9;
-}
-
-}  // namespace
 
 DetailedResultDialog::DetailedResultDialog(CalculationPtr calculation, QWidget* parent)
     : QDialog(parent), calculation_(std::move(calculation)) {
@@ -56,6 +41,7 @@ DetailedResultDialog::DetailedResultDialog(CalculationPtr calculation, QWidget* 
     connect(tree_, &ResultTreeView::nodeChosen, this, &DetailedResultDialog::showNode);
     connect(pane_->list(), &ResultTableView::cellChosen, this,
             [this](int row, int column) { Q_EMIT standsChosen(standsOf(pane_->list()->table(), row, column)); });
+    connect(pane_->list(), &ResultTableView::workingAsked, this, &DetailedResultDialog::workingAsked);
     connect(pane_->list(), &ResultTableView::rowChosen, this, [this](int row) {
         if (standsOf(pane_->list()->table(), row, 0)[0].isKnown()) accept();  // the picture behind shows it
     });

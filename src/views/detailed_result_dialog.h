@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     /// A cell has been chosen: where the cranes stand for it.
     void standsChosen(const std::array<CraneStand, 2>& stands);
+    /// How the ratio of a row comes about is asked for.
+    void workingAsked(const borvik::RowOrigin& origin);
 
 private:
     void showNode(const TreeNode& node);

@@ -280,11 +280,15 @@ void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {
     copyWithHeaders->setEnabled(some);
     copyAll->setEnabled(model_.rowCount() > 0);
     menu.addSeparator();
+    QAction* working = menu.addAction(tr("How was this calculated?"));
+    const RowOrigin origin = originOf(model_.table(), currentIndex().row());
+    working->setEnabled(origin.check != nullptr && !outOfDate_);
     QAction* exportAll = menu.addAction(tr("Export to Excel"));
     exportAll->setEnabled(model_.columnCount() > 0 && !outOfDate_);
     QAction* saveAsCsv = menu.addAction(tr("Save as CSV..."));
     saveAsCsv->setEnabled(exportAll->isEnabled());
     const QAction* chosen = menu.exec(event->globalPos());
+    if (chosen == working && chosen != nullptr) Q_EMIT workingAsked(origin);
     if (chosen == saveAsCsv && chosen != nullptr) saveTableAsCsv(model_.table(), this);
     if (chosen == copySelection) copy(selectionText(false));
     if (chosen == copyWithHeaders) copy(selectionText(true));

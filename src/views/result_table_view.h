@@ -36,6 +36,8 @@ public:
 Q_SIGNALS:
     /// A double click on a row, or Enter on it. Counts from 0.
     void rowChosen(int row);
+    /// How the ratio of a row comes about is asked for.
+    void workingAsked(const borvik::RowOrigin& origin);
     void currentRowChanged(int row);
     /// The user has gone to a cell, by mouse or keys.
     void cellChosen(int row, int column);

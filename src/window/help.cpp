@@ -24,6 +24,7 @@ constexpr PageOfWindow kPages[] = {
     {"frmInfoSetup", "setup.md"},
     {"frmProgress", "calculating.md"},
     {"frmTemp", "crane-positions.md"},
+    {"frmWorking", "how-calculated.md"},
     {"frmDetailedResult", "detailed-results.md"},
     {"frmabout", "index.md"},
 };

@@ -203,7 +203,8 @@ QWidget* MainWindow::pictureFrame() {
 
 QWidget* MainWindow::resultFrame() {
     results_ = new ResultTablePane("lstViewDetailed");
-    connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::goToCheckOf);
+    connect(results_->list(), &ResultTableView::rowChosen, this, &MainWindow::chooseRow);
+    connect(results_->list(), &ResultTableView::workingAsked, this, &MainWindow::showWorking);
     connect(results_->list(), &ResultTableView::cellChosen, this, &MainWindow::showStandsOfCell);
     QGroupBox* frame = frameAround(results_, "Results");
     frame->setObjectName("frmResults");

@@ -148,6 +148,9 @@ private:
     void showNode(const TreeNode& node, bool byWalking);
     void showTable(const std::string& name);
     void showNotes();
+    /// Enter or a double click on a row: of a note its check, of a check how its ratio comes about.
+    void chooseRow(int row);
+    void showWorking(const RowOrigin& origin);
     void goToCheckOf(int note);
     void ShowTreeView();
     void ShowTreeViewResults();

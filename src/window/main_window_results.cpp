@@ -8,6 +8,7 @@
 #include "results/tables.h"
 #include "views/detailed_result_dialog.h"
 #include "views/printing.h"
+#include "views/working_dialog.h"
 #include "window/input_tree.h"
 #include "window/main_window.h"
 
@@ -55,6 +56,7 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
         case NodeOpens::DetailedResults: {
             DetailedResultDialog dialog(calculation_, this);
             connect(&dialog, &DetailedResultDialog::standsChosen, this, &MainWindow::showStands);
+            connect(&dialog, &DetailedResultDialog::workingAsked, this, &MainWindow::showWorking);
             dialog.exec();
             break;
         }
@@ -79,6 +81,18 @@ void MainWindow::showNotes() {
 }
 
 /// From a note to the row that it names, in the summary of all checks or in one of the tables of the detailed results.
+void MainWindow::showWorking(const RowOrigin& origin) {
+    if (origin.check == nullptr || !session_.Calculated) return;
+    WorkingDialog(workingsOf(session_.tables, calculation_->project, calculation_->results, origin), this).exec();
+}
+
+void MainWindow::chooseRow(int row) {
+    if (shownNotes_)
+        goToCheckOf(row);
+    else
+        showWorking(originOf(results_->list()->table(), row));
+}
+
 void MainWindow::goToCheckOf(int note) {
     const auto& notes = calculation_->notes->notes;
     if (!shownNotes_ || !session_.Calculated || note < 0 || static_cast<std::size_t>(note) >= notes.size()) return;

@@ -37,17 +37,23 @@ private:
     double sum() {
         double all = product();
         for (;;) {
-            if (take('+')) all += product();
-            else if (take('-')) all -= product();
-            else return all;
+            if (take('+'))
+                all += product();
+            else if (take('-'))
+                all -= product();
+            else
+                return all;
         }
     }
     double product() {
         double all = power();
         for (;;) {
-            if (take('*')) all *= power();
-            else if (take('/')) all /= power();
-            else return all;
+            if (take('*'))
+                all *= power();
+            else if (take('/'))
+                all /= power();
+            else
+                return all;
         }
     }
     double power() {
@@ -100,14 +106,17 @@ private:
     std::size_t at_ = 0;
 };
 
-/// Half a unit of the last digit of a printed number.
+/// Half a unit of the last digit of a printed number; one of fewer than four digits is exact.
 double halfDigit(const std::string& number) {
     const auto e = number.find('E');
     const std::string mantissa = number.substr(0, e);
     const auto point = mantissa.find('.');
     const double digits = point == std::string::npos ? 0 : static_cast<double>(mantissa.size() - point - 1);
-    const bool whole = point == std::string::npos && e == std::string::npos;
-    return whole ? 0 : 0.5 * std::pow(10, (e == std::string::npos ? 0 : std::stod(number.substr(e + 1))) - digits);
+    std::string significant = mantissa;
+    std::erase(significant, '.');
+    significant.erase(0, significant.find_first_not_of('0'));
+    const bool isExact = e == std::string::npos && (point == std::string::npos || significant.size() < 4);
+    return isExact ? 0 : 0.5 * std::pow(10, (e == std::string::npos ? 0 : std::stod(number.substr(e + 1))) - digits);
 }
 
 /// How far the digits that are not printed may move the result: the change for half a digit of each number.
@@ -136,21 +145,22 @@ void follow(const CheckWorking& working, int& lines) {
         const std::string shown = workingNumber(step.value);
         const double value = PocketCalculator(numbers).value();
         const double close = 1.5 * reach(numbers, value) + halfDigit(shown) + 1e-4 * std::abs(step.value);
-        EXPECT_NEAR(value, step.value, close) << working.title << ": " << step.symbol << " = " << step.formula << " = "
-                                              << numbers << " = " << shown;
+        EXPECT_NEAR(value, step.value, close)
+            << working.title << ": " << step.symbol << " = " << step.formula << " = " << numbers << " = " << shown;
         ++lines;
     }
 }
 
 void followAll(testing_support::TestSession& session, int& lines) {
     if (!session.calculate()) return;
-    for (const CheckWorking& working : checkWorkings(session)) {
+    for (const CheckWorking& working : checkWorkings(session.tables, session.project, *session.results)) {
         ASSERT_FALSE(working.steps.empty()) << working.title;
         follow(working, lines);
         if (working.key == "Section") continue;
         const WorkingStep& last = working.steps.back();
         EXPECT_EQ(last.symbol, "IR") << working.title;
-        EXPECT_EQ(formatNumber(last.value, "0.000"), session.results->Checks[working.key].governing(3)) << working.title;
+        EXPECT_EQ(formatNumber(last.value, "0.000"), session.results->Checks[working.key].governing(3))
+            << working.title;
     }
 }
 

@@ -21,7 +21,7 @@ bool TestSession::calculate(WalkMethod method) {
 }
 
 std::string TestSession::json() const {
-    return resultsJson(*this, messages.texts, std::nullopt, "Borvik", true);
+    return resultsJson(*this, messages.texts, std::nullopt, "Borvik", {.notes = true});
 }
 
 namespace {

@@ -76,7 +76,7 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
     for (const Extent paper : {kA4, kLetter})
         for (const Sample sample : kPlain)
             for (const ReportScope scope : kScopes) {
-                const RecordingPrinter printer = printed(sample, scope, paper, {true, true, true});
+                const RecordingPrinter printer = printed(sample, scope, paper, {true, true, true, true});
                 for (const auto& page : printer.pages) {
                     const auto inDiagram = [&page](const RecordingPage::Covered& text) {
                         return std::any_of(page->boxes.begin(), page->boxes.end(), [&text](const auto& box) {

@@ -18,7 +18,7 @@ struct DefaultRun {
     Document document(const std::optional<std::string>& file = std::nullopt) {
         Progress progress;
         if (Calculate(session, messages, progress)) makeNotes(session);
-        text = resultsJson(session, messages.texts, file, "Borvik 1.2.3", true);
+        text = resultsJson(session, messages.texts, file, "Borvik 1.2.3", {.notes = true});
         return Document::parse(text);
     }
     Session session;
@@ -46,7 +46,7 @@ TEST(ResultsJson, storedNumbersAreShort) {
 TEST(ResultsJson, notesTellTheChangeAndLeaveTheResultsAlone) {
     DefaultRun run;
     Document first = run.document();  // whose notes are made after the results have been written
-    Document second = Document::parse(resultsJson(run.session, {}, std::nullopt, "Borvik 1.2.3", true));
+    Document second = Document::parse(resultsJson(run.session, {}, std::nullopt, "Borvik 1.2.3", {.notes = true}));
     const Document notes = first["Notes"];
     first.erase("Notes");
     second.erase("Notes");
