@@ -74,7 +74,7 @@ void classifyWeb(double e, SectionRecord& s, Working working) {
     const auto explained = [&](const char* sign, auto classOf) {
         explainPlate(sign, s.CWeb, s.tw, working);
         const std::int16_t found = classOf();
-        working.given("class", found, "", "of the first limit that c/t does not exceed");
+        working.given("class", found, "", "by the limits above");
         return found;
     };
     constexpr const char* kPos = "Web, positive moment";
@@ -210,10 +210,10 @@ void Classify(double e, SectionRecord& s, Working working) {
     // The plates of a reinforced section hold the tips of the top flange, which so becomes an internal part.
     explainPlate(s.Reinforced ? "Top flange, held at its tips" : "Top flange", s.CTop, s.tf1, working);
     s.ClassTopFlange = compressedPlate(s.Reinforced ? kInternal : kOutstand, e, s.CTop / s.tf1, working);
-    working.given("class", s.ClassTopFlange, "", "of the first limit that c/t does not exceed");
+    working.given("class", s.ClassTopFlange, "", "by the limits above");
     explainPlate("Bottom flange", s.CBottom, s.tf2, working);
     s.ClassBottomFlange = compressedPlate(kOutstand, e, s.CBottom / s.tf2, working);
-    working.given("class", s.ClassBottomFlange, "", "of the first limit that c/t does not exceed");
+    working.given("class", s.ClassBottomFlange, "", "by the limits above");
     classifyWeb(e, s, working);
     s.ClassPos = std::max(s.ClassWebPos, s.ClassTopFlange);
     s.ClassNeg = std::max(s.ClassWebNeg, s.ClassBottomFlange);

@@ -4,8 +4,8 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-#include "views/dialog_parts.h"
 #include "results/values_text.h"
+#include "views/dialog_parts.h"
 
 namespace borvik {
 

@@ -70,9 +70,6 @@ TEST_F(NotesView, leadToTheCheckTheySpeakOf) {
         const QString shown = list().currentIndex().siblingAtColumn(1).data().toString();
         EXPECT_TRUE(shown.startsWith(check)) << note << ": " << shown.toStdString();
     }
-    const int before = list().currentIndex().row();
-    QTest::keyClick(&list(), Qt::Key_Return);
-    EXPECT_EQ(list().currentIndex().row(), before) << "rows of other tables lead nowhere";
 }
 
 }  // namespace

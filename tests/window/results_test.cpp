@@ -90,6 +90,11 @@ TEST_F(ResultsTest, everyNodeShowsWhatItNamesWhileTheResultsStand) {
         EXPECT_FALSE(picRes().diagrams().empty() || picRes().grab().isNull());
     }
     EXPECT_EQ(nameOfModal([this] { clickNode("Detailed Results"); }), "frmDetailedResult");
+    clickNode("Summary");
+    list().selectRow(1);
+    EXPECT_EQ(nameOfModal([this] { QTest::keyClick(&list(), Qt::Key_Return); }), "frmWorking") << "how it comes about";
+    list().selectRow(0);
+    EXPECT_EQ(nameOfModal([this] { QTest::keyClick(&list(), Qt::Key_Return); }), "") << "a heading has no ratio";
     EXPECT_TRUE(messages.texts.empty());
 
     click("chkStartStop");
