@@ -83,8 +83,7 @@ std::string workingNumber(double value) {
     // "6.310E+07" as "6.310E7"
     std::string number = text.data();
     if (const auto e = number.find('E'); e != std::string::npos) {
-        const int exponent = std::stoi(number.substr(e + 1));
-        number = number.substr(0, e + 1) + std::to_string(exponent);
+        number.replace(e + 1, std::string::npos, std::to_string(std::stoi(number.substr(e + 1))));
     }
     return number;
 }
