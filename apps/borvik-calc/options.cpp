@@ -102,7 +102,7 @@ void addOptions(CLI::App& app, Options& options) {
                  "Girders jointed at the supports: their ends warp alone")
         ->needs(opinion);
     app.add_flag("--values", options.values,
-                 "Print how each governing ratio of the static checks comes about, line by line; --json then holds it "
+                 "Print how each governing ratio comes about, line by line; --json then holds it "
                  "too");
     app.add_flag("--reactions", options.reactions,
                  "Print the reactions for the design of supports, by parts and by position of the cranes; --json then "

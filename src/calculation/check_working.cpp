@@ -4,6 +4,7 @@
 #include <set>
 
 #include "base/fault.h"
+#include "fatigue/detail_checks.h"
 #include "section/section.h"
 
 namespace borvik {
@@ -45,6 +46,24 @@ CheckWorking rowWorking(const Project& project, const Results& results, const Ro
     return working;
 }
 
+/// "1 Rail to topflange, span 2".
+CheckWorking detailWorking(const Project& project, const Results& results, const RowOrigin& origin) {
+    const Detail& detail = *origin.detail;
+    const FatigueResults& fatigue = results.Fatigue;
+    std::string kind = nameOf(kindOf(detail.places));
+    kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
+    CheckWorking working{"Fatigue" + std::to_string(detail.result),
+                         "Fatigue, " + std::string(detail.title) + ", " + kind + " " + std::to_string(origin.row),
+                         origin.row,
+                         {}};
+    const StressSet none(project.NofSpans);
+    const auto orNone = [&none](const std::optional<StressSet>& set) -> const StressSet& { return set ? *set : none; };
+    const DetailInput input{
+        project, results.Rail, fatigue.Factors, orNone(fatigue.Cr1), orNone(fatigue.Cr2), orNone(fatigue.Cr12)};
+    watched(detail.name, 0, [&] { explainDetail(detail, input, fatigue.Summed, origin.row, Working(working.steps)); });
+    return working;
+}
+
 /// Shear, bending and buckling take resistances of the section; local checks and deflections have all in their lines.
 bool restsOnResistances(const StaticCheck& check) {
     return !check.extremes.empty();
@@ -54,6 +73,7 @@ bool restsOnResistances(const StaticCheck& check) {
 
 std::vector<CheckWorking> workingsOf(const ReferenceTables& tables, const Project& project, const Results& results,
                                      const RowOrigin& origin) {
+    if (origin.detail != nullptr) return {detailWorking(project, results, origin)};
     std::vector<CheckWorking> workings;
     if (restsOnResistances(*origin.check)) workings.push_back(sectionWorking(tables, project, origin.span));
     workings.push_back(rowWorking(project, results, origin));
@@ -69,6 +89,11 @@ std::vector<CheckWorking> checkWorkings(const ReferenceTables& tables, const Pro
         checks.push_back(rowWorking(project, results, origin));
         if (restsOnResistances(*origin.check) && known.insert(project.SpanSection(origin.span).DisplayName).second)
             sections.push_back(sectionWorking(tables, project, origin.span));
+    }
+    for (const Detail& detail : detailsOf(project)) {
+        const auto& governing = results.Fatigue.FatResult(detail.result);
+        if (project.*detail.checked && governing && governing->Origin.detail != nullptr)
+            checks.push_back(detailWorking(project, results, governing->Origin));
     }
     sections.insert(sections.end(), std::make_move_iterator(checks.begin()), std::make_move_iterator(checks.end()));
     return sections;

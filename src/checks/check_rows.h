@@ -10,11 +10,16 @@
 namespace borvik {
 
 struct StaticCheck;
+struct Detail;
 
 /// Which check a row is of, and where it was made.
 struct RowOrigin {
     const StaticCheck* check = nullptr;  ///< null: of a fatigue detail, or of no check
     int span = 0, extreme = 0;           ///< extreme from 0
+    const Detail* detail = nullptr;      ///< a fatigue detail
+    int row = 0;                         ///< of that: span, support or splice
+
+    [[nodiscard]] bool isKnown() const { return check != nullptr || detail != nullptr; }
 
     bool operator==(const RowOrigin&) const = default;
 };

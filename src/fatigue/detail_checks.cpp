@@ -108,6 +108,8 @@ public:
         for (int row = 1; row <= rows.last(); ++row) {
             watched(detail_.name, atSplices() ? 0 : std::min<int>(row, project_.NofSpans),
                     [&] { check(row, rows(row)); });
+            rows(row).Origin.detail = &detail_;
+            rows(row).Origin.row = row;
             largest = std::max(largest, rows(row).LargestOfPoints);
             if (ranksAbove(rows(row)(3), governing(3))) governing = rows(row);
         }
@@ -117,6 +119,8 @@ public:
     }
 
     [[nodiscard]] std::vector<DamagePoint> sums() const;
+    /// How the damage sum of a row comes about.
+    void explain(int row, Working working) const;
 
 private:
     [[nodiscard]] bool atSplices() const;
@@ -128,7 +132,7 @@ private:
     [[nodiscard]] std::string placeText(const Place& place) const;
 
     // Stress and damage at a place
-    [[nodiscard]] LocalStress localStress(const Place& place) const;
+    [[nodiscard]] LocalStress localStress(const Place& place, Working working = {}) const;
     [[nodiscard]] double inThroats(const Weld& weld, const Place& place, double tau) const;
     [[nodiscard]] double hangerReaction(const Weld& weld, const Place& place) const;
     [[nodiscard]] double range(const Term& term, int crane, const StressSet& set, const Place& place,
@@ -144,6 +148,14 @@ private:
 
     [[nodiscard]] std::array<CraneStand, 2> standsFor(const Place& place) const;
 
+    /// The damage that governs a row, and where; its ratio goes into row 3 of the texts.
+    struct Governing {
+        Damage damage;
+        Place place;
+    };
+    [[nodiscard]] Governing governingOf(int row, RowSet& texts) const;
+    void explainRange(const Term& term, int crane, const StressSet& set, const Place& place, Working working) const;
+    void explainSummand(const Summand& summand, const std::string& number, Working working) const;
     void check(int row, RowSet& texts) const;
 
     const Detail& detail_;
@@ -201,13 +213,13 @@ std::string DetailCheck::placeText(const Place& place) const {
     return " <  1.00 ( " + spanText + "/" + formatNumber(static_cast<double>(twentieths) / 20.0, "0") + " mm)";
 }
 
-LocalStress DetailCheck::localStress(const Place& place) const {
+LocalStress DetailCheck::localStress(const Place& place, Working working) const {
     LocalStress local;
     if (uses(detail_, Stress::Wheel)) {
-        local.wheel = wheelStress(project_, in_.rail, in_.factors, project_.SpanSection(place.span));
+        local.wheel = wheelStress(project_, in_.rail, in_.factors, project_.SpanSection(place.span), working);
     }
     if (uses(detail_, Stress::FlangeBending)) {
-        local.SigBend = flangeBending(project_, in_.factors, project_.SpanSection(place.span));
+        local.SigBend = flangeBending(project_, in_.factors, project_.SpanSection(place.span), working);
     }
     return local;
 }
@@ -403,14 +415,11 @@ std::array<CraneStand, 2> DetailCheck::standsFor(const Place& place) const {
     return stands;
 }
 
-void DetailCheck::check(int row, RowSet& texts) const {
-    if (!checkedAt(row)) return;
-
+DetailCheck::Governing DetailCheck::governingOf(int row, RowSet& texts) const {
     Place place = firstPlace(row);
     const int last = lastPoint(place);
     const LocalStress local = localStress(place);
-    Damage governing;
-    Place governingPlace;
+    Governing governing;
     for (; place.point <= last; ++place.point) {
         const Damage damage = damageAt(place, local);
         const double ratio = damage.sum();
@@ -419,13 +428,132 @@ void DetailCheck::check(int row, RowSet& texts) const {
         if (!ranksAbove(IrText, texts(3))) continue;
         texts(3) = detail_.rankedByFullDigits ? formatNumber(ratio, "0.000") : IrText;
         texts.Ratio = ratio;
-        governing = damage;
-        governingPlace = place;
+        governing = {damage, place};
     }
+    return governing;
+}
+
+void DetailCheck::check(int row, RowSet& texts) const {
+    if (!checkedAt(row)) return;
+
+    const auto [governing, governingPlace] = governingOf(row, texts);
     texts(1) = detail_.label[static_cast<std::size_t>(cranes_)];
     texts(2) = numbers(governing);
     texts(4) = placeText(governingPlace);
     texts.Stands = standsFor(governingPlace);
+}
+
+/// Both ends of a stress range, as the walk left them, and the range that the term takes.
+void DetailCheck::explainRange(const Term& term, int crane, const StressSet& set, const Place& place,
+                               Working working) const {
+    const char* source = "of the walk, lambda included";
+    const auto ends = [&](double largest, double smallest) {
+        working.given("max_", largest, "MPa", source);
+        working.given("min_", smallest, "MPa", source);
+    };
+    const auto inWeb = [&](const char* local) {
+        const bool fillet = project_.*term.weld.kind == kFilletWeld;
+        if (fillet) {
+            working.given("tw", project_.SpanSection(place.span).tw, "mm");
+            working.given("a", project_.*term.weld.throat, "mm", "throat of the weld");
+        }
+        return std::string(fillet ? "tw/(2*a)*abs(max_ - min_)" : "abs(max_ - min_)") + local;
+    };
+    const std::string number = std::to_string(crane);
+    const bool known = place.span >= 1 && place.span <= set.Sig1Max.rows();
+    const int i = place.span, k = place.point;
+    std::string formula;
+    switch (term.stress) {
+        case Stress::TopFlange:
+            if (known) ends(set.Sig1Max(i, k), set.Sig1Min(i, k));
+            formula = "abs(max_ - min_)";
+            break;
+        case Stress::BottomFlange:
+            if (known) ends(set.Sig2Max(i, k), set.Sig2Min(i, k));
+            formula = "abs(max_ - min_)";
+            break;
+        case Stress::Web:
+        case Stress::WebAndWheel:
+            if (known) ends(set.TauMax(i, k), set.TauMin(i, k));
+            formula = inWeb(term.stress == Stress::Web ? "" : (" + tau_loc" + number).c_str());
+            break;
+        case Stress::Support:
+            working.given("max_", set.SigSupMax(place.row), "MPa", "reaction times lambda over the bearing area");
+            working.given("min_", set.SigSupMin(place.row), "MPa");
+            formula = "abs(max_ - min_)";
+            break;
+        case Stress::Wheel:
+            formula = "sigma_loc" + number;
+            break;
+        case Stress::FlangeBending:
+            formula = "sigma_loc";
+            break;
+        case Stress::HangerReaction:
+            break;
+    }
+    const double taken = range(term, crane, set, place, localStress(place));
+    if (formula.empty() || (!known && term.stress != Stress::Support))
+        working.given("range", taken, "MPa", "chapter 12 of the manual");
+    else
+        working.step("range", formula.c_str(), taken, "MPa");
+}
+
+void DetailCheck::explainSummand(const Summand& summand, const std::string& number, Working working) const {
+    const std::string D = "D_" + number;
+    if (summand.term == nullptr) {
+        working.given(D.c_str(), summand.D, "", "chapter 12 of the manual");
+        return;
+    }
+    working.given("C", category(summand.term->category), "MPa", "category of the detail");
+    switch (summand.term->factors) {
+        case Factors::Usual:
+            working.step(D.c_str(), "gamma_Ff*range/(C/gamma_Mf)", summand.D, "", "EN 1993-1-9 8(3)");
+            break;
+        case Factors::LoadOutside:
+            working.step(D.c_str(), "range/(C/gamma_Mf)", summand.D, "", "note G4");
+            break;
+        case Factors::CategoryDivided:
+            working.step(D.c_str(), "range*gamma_Ff/C/gamma_Mf", summand.D, "", "note G3");
+            break;
+    }
+}
+
+void DetailCheck::explain(int row, Working working) const {
+    RowSet texts;
+    const Governing found = governingOf(row, texts);
+    const Damage& governing = found.damage;
+    const Place& place = found.place;
+    working.given("gamma_Ff", project_.GammaFf, "");
+    working.given("gamma_Mf", project_.GammaMf, "", "EN 1993-1-9 Table 3.1");
+    const CraneFactors* factors[] = {&in_.factors.Cr1, &in_.factors.Cr2};
+    for (int crane = 1; crane <= (cranes_ == Cranes::Alone ? 1 : 2); ++crane) {
+        working.heading(crane == 1 ? "Crane 1" : "Crane 2");
+        working.given("phi_fat", factors[crane - 1]->PhiFat, "", "(1 + psi)/2, EN 1991-3 2.12.1(7)");
+        working.given("lambda_s", factors[crane - 1]->LamSig, "", "of the crane class, EN 1991-3 Table 2.12");
+        working.given("lambda_t", factors[crane - 1]->LamTau, "", "the same for shear");
+    }
+    if (uses(detail_, Stress::Wheel) || uses(detail_, Stress::FlangeBending))
+        working.heading("Local stress of a wheel");
+    (void)localStress(place, working);
+    const std::string where = placeText(place);
+    working.heading(("Place" + where.substr(where.find('(') + 1, where.find(')') - where.find('(') - 1)).c_str());
+    std::string sum;
+    for (std::size_t i = 0; i < governing.count; ++i) {
+        const Summand& summand = governing.summands[i];
+        const std::string number = std::to_string(i + 1);
+        if (summand.term != nullptr) {
+            // The terms of crane 1 come first, then those of crane 2.
+            const std::size_t terms = governing.count / (cranes_ == Cranes::Independent ? 2 : 1);
+            const int crane = i < terms ? 1 : 2;
+            working.heading(crane == 1 ? "Stress range of crane 1" : "Stress range of crane 2");
+            explainRange(*summand.term, crane, crane == 1 ? in_.Cr1 : in_.Cr2, place, working);
+        }
+        explainSummand(summand, number, working);
+        sum += (i == 0 ? "" : " + ") + std::string(summand.factor != 1.0 ? "gamma_Ff*" : "") + "D_" + number + "^" +
+               std::to_string(summand.exponent);
+    }
+    working.heading("Damage");
+    working.step("IR", sum.c_str(), texts.Ratio, "", "EN 1993-1-9 8(2), A.5");
 }
 
 std::vector<DamagePoint> DetailCheck::sums() const {
@@ -445,6 +573,10 @@ std::vector<DamagePoint> DetailCheck::sums() const {
 
 std::vector<DamagePoint> damageSums(const Detail& detail, const DetailInput& input, Cranes cranes) {
     return DetailCheck(detail, input, cranes).sums();
+}
+
+void explainDetail(const Detail& detail, const DetailInput& input, Cranes cranes, int row, Working working) {
+    DetailCheck(detail, input, cranes).explain(row, working);
 }
 
 void checkDetails(std::span<const Detail> details, const DetailInput& input, Cranes cranes, FatigueResults& results) {

@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "base/working.h"
 #include "fatigue/crane_factors.h"
 #include "fatigue/details.h"
 #include "fatigue/fatigue_results.h"
@@ -29,6 +30,11 @@ struct DetailInput {
 /// equals stays. Nothing is compared with 1.00: " <  1.00 ( " is printed whatever the sum is.
 /// @throws RuntimeFault  naming detail and span, on an arithmetic fault
 void checkDetails(std::span<const Detail> details, const DetailInput& input, Cranes cranes, FatigueResults& results);
+
+/// Takes down how the damage sum of a row comes about: factors, local stress of the wheel, the stress range of each
+/// crane and term at the point that governs the row, D values, their sum.
+/// @param row  as in FatRows, of a detail that was checked there
+void explainDetail(const Detail& detail, const DetailInput& input, Cranes cranes, int row, Working working);
 
 /// The damage sum of a detail at one of the points where it is checked.
 struct DamagePoint {

@@ -2,6 +2,7 @@
 
 #include "base/array.h"
 #include "base/single.h"
+#include "base/working.h"
 #include "fatigue/crane_factors.h"
 #include "project/project.h"
 
@@ -22,7 +23,8 @@ struct WheelSpread {
 };
 
 /// Spread of a wheel in a span with this section, whether the rail counts as part of the girder (RailOn) or not.
-[[nodiscard]] WheelSpread wheelSpread(const Project& project, const RailRecord& rail, const SectionRecord& section);
+[[nodiscard]] WheelSpread wheelSpread(const Project& project, const RailRecord& rail, const SectionRecord& section,
+                                      Working working = {});
 
 /// The local shear range is this part of the direct one: the 0.2 of
 /// EN 1993-6 5.7.2, with its change of sign as the wheel passes.
@@ -37,11 +39,12 @@ struct WheelStress {
 
 /// Each crane with its own dynamic factor, its largest wheel and its own class.
 [[nodiscard]] WheelStress wheelStress(const Project& project, const RailRecord& rail, const FatigueFactors& factors,
-                                      const SectionRecord& section);
+                                      const SectionRecord& section, Working working = {});
 
 /// Transverse bending of the bottom flange at the web under half of a monorail's
 /// largest wheel load, MPa, times LamSigN. The wheel load is the entered one: no
 /// dynamic factor. EN 1993-6 5.8, cy at the transition of web and flange (Table 5.2).
-[[nodiscard]] Single flangeBending(const Project& project, const FatigueFactors& factors, const SectionRecord& section);
+[[nodiscard]] Single flangeBending(const Project& project, const FatigueFactors& factors, const SectionRecord& section,
+                                   Working working = {});
 
 }  // namespace borvik

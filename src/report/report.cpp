@@ -152,8 +152,7 @@ std::span<const ExtraChapter> extraChapters() {
     static constexpr ExtraChapter kChapters[] = {
         {&ReportExtras::positions, "Positions", "governing positions of the cranes",
          "where the cranes stand for each governing check"},
-        {&ReportExtras::values, "Values", "intermediate values",
-         "how each governing ratio of the static checks comes about, line by line"},
+        {&ReportExtras::values, "Values", "intermediate values", "how each governing ratio comes about, line by line"},
         {&ReportExtras::reactions, "Reactions", "reactions for supports",
          "the reactions for the design of the supports, by parts and by position of the cranes"},
         {&ReportExtras::notes, "Notes", "notes for the checking engineer",

@@ -20,7 +20,7 @@ enum class ReportScope : int {
 /// Chapters that a report has where they are asked for, behind the others, which are the same with and without.
 struct ReportExtras {
     bool positions = false;  ///< where the cranes stand for each governing check, as pictures
-    bool values = false;     ///< how each governing ratio of the static checks comes about
+    bool values = false;     ///< how each governing ratio comes about
     bool reactions = false;  ///< the reactions for the design of the supports
     bool notes = false;      ///< the notes for the checking engineer
 };

@@ -47,7 +47,7 @@ void PrintFlsCrane2(Report& report);
 /// @param withDeflections, withFatigue  those checks too
 void printPositions(Report& report, bool withDeflections, bool withFatigue);
 
-/// "Intermediate values:" on a new page: how each governing ratio of the static checks comes about, line by line,
+/// "Intermediate values:" on a new page: how each governing ratio comes about, line by line,
 /// behind the sections that they rest on.
 void printValues(ReportPage& page, const std::vector<CheckWorking>& workings);
 

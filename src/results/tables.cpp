@@ -250,7 +250,7 @@ std::array<CraneStand, 2> standsOf(const ResultTable& table, int row, int column
 RowOrigin originOf(const ResultTable& table, int row) {
     if (row < 0 || static_cast<std::size_t>(row) >= table.rows.size()) return {};
     for (const TableCell& cell : table.rows[static_cast<std::size_t>(row)])
-        if (cell.origin.check != nullptr) return cell.origin;
+        if (cell.origin.isKnown()) return cell.origin;
     return {};
 }
 

@@ -282,7 +282,7 @@ void ResultTableView::contextMenuEvent(QContextMenuEvent* event) {
     menu.addSeparator();
     QAction* working = menu.addAction(tr("How was this calculated?"));
     const RowOrigin origin = originOf(model_.table(), currentIndex().row());
-    working->setEnabled(origin.check != nullptr && !outOfDate_);
+    working->setEnabled(origin.isKnown() && !outOfDate_);
     QAction* exportAll = menu.addAction(tr("Export to Excel"));
     exportAll->setEnabled(model_.columnCount() > 0 && !outOfDate_);
     QAction* saveAsCsv = menu.addAction(tr("Save as CSV..."));

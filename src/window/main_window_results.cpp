@@ -82,7 +82,7 @@ void MainWindow::showNotes() {
 
 /// From a note to the row that it names, in the summary of all checks or in one of the tables of the detailed results.
 void MainWindow::showWorking(const RowOrigin& origin) {
-    if (origin.check == nullptr || !session_.Calculated) return;
+    if (!origin.isKnown() || !session_.Calculated) return;
     WorkingDialog(workingsOf(session_.tables, calculation_->project, calculation_->results, origin), this).exec();
 }
 
