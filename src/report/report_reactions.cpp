@@ -16,7 +16,7 @@ struct Column {
     bool number;
 };
 constexpr Column kColumns[] = {{0.0, false},  {0.07, false}, {0.21, true},  {0.283, true}, {0.356, true}, {0.429, true},
-                               {0.502, true}, {0.575, true}, {0.648, true}, {0.67, false}, {0.875, false}};
+                               {0.502, true}, {0.575, true}, {0.648, true}, {0.67, false}, {0.775, false}};
 
 class ReactionList {
 public:

@@ -118,8 +118,8 @@ void addSet(const Project& project, const ReactionSet& set, ResultTable& table) 
     for (const ReactionCase& each : set.cases) {
         std::vector<TableCell> row{numberCell(each.support, "0"), textCell(nameOf(each))};
         addPartCells(each, static_cast<std::size_t>(each.support - 1), row);
-        row.push_back(textCell(placeOf(project, each)));
         row.push_back(textCell(remarkOf(each)));
+        row.push_back(textCell(placeOf(project, each)));
         if (!set.walkedAnew) row[1].stands[0] = {set.walk, each.effect, each.at, each.support, 0};
         addRow(table, std::move(row), detailsOf(project, each));
     }
@@ -139,8 +139,8 @@ void addJoint(const JointReactions& joint, ResultTable& table) {
         std::vector<TableCell> row{numberCell(joint.support, "0"), textCell(nameOf(each.effect, each.largest))};
         for (std::size_t part = 0; part < std::size(kParts); ++part)
             row.push_back(numberCell(each.sum(kSumParts[part]).*kParts[part].force, kForce));
-        row.push_back(textCell(firstWheels(each.wheels, fromJoint)));
         row.push_back(textCell(each.effect == Effect::Rz && each.sum(&EndForces::total).Rz < 0 ? "uplift" : ""));
+        row.push_back(textCell(firstWheels(each.wheels, fromJoint)));
         const EndForces& own = ownLeft ? each.left : each.right;
         const EndForces& other = ownLeft ? each.right : each.left;
         addRow(table, std::move(row),
@@ -194,14 +194,14 @@ std::string placeOf(const Project& project, const ReactionCase& each) {
 
 ResultTable tableOf(const Project& project, const Results& results, const SupportReactions& reactions) {
     ResultTable table;
-    table.note = "kN, upward positive; the parts act together";
+    table.note = "kN, upward positive";
     if (reactions.eccentricity > 0)
         table.note += "; wheels up to br/4 = " + kN(reactions.eccentricity) + " mm beside the web";
     table.columns = {{"Support", "", "Support number from the left"},
                      {"Extreme", "", "What is largest or smallest at this position of the cranes"}};
     addPartColumns(table);
-    table.columns.push_back({"Cranes", "", "First wheel of each crane: span / mm from its left support"});
     table.columns.push_back({"Remark", "", ""});
+    table.columns.push_back({"Cranes", "", "First wheel of each crane: span / mm from its left support"});
     for (const ReactionSet& set : reactions.sets) addSet(project, set, table);
     for (const JointReactions& joint : reactions.joints) addJoint(joint, table);
     addSpanEnds(project, results.Uls, table);

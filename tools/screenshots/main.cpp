@@ -18,6 +18,7 @@
 #include "sheet.h"
 #include "tutorial.h"
 #include "views/detailed_result_dialog.h"
+#include "views/working_dialog.h"
 #include "window/about_dialog.h"
 #include "window/main_window.h"
 
@@ -156,8 +157,19 @@ int main(int argc, char** argv) {
     }
     camera.take(*window.findChild<QWidget*>("picBalk"), "diagram-sketch");
     takeDrive(camera, window);
+    choose(window, "Reactions for supports");
+    window.findChild<ResultTableView*>("lstViewDetailed")->selectRow(1);
+    camera.take(window, "reactions-for-supports");
     choose(window, "Notes");
     camera.take(window, "notes");
+
+    const auto& buckling = window.calculation()->results.Checks["Ltb"];
+    WorkingDialog working(workingsOf(session.tables, window.calculation()->project, window.calculation()->results,
+                                     buckling.governing.Origin),
+                          &window);
+    working.show();
+    camera.take(working, "how-calculated");
+    working.close();
 
     DetailedResultDialog detailed(window.calculation(), &window);
     detailed.show();
