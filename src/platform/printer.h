@@ -56,6 +56,8 @@ public:
     [[nodiscard]] Extent printableArea() const override { return printer_.printableArea(); }
     /// False as long as no page of the range has been reached.
     [[nodiscard]] bool hasPages() const { return printed_ > 0; }
+    /// Pages of the whole document that have been begun so far, in the range or not.
+    [[nodiscard]] int pages() const { return number_; }
 
 private:
     [[nodiscard]] bool inRange() const { return number_ >= first_ && (last_ == 0 || number_ <= last_); }

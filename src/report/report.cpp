@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <limits>
 
 #include "base/number_text.h"
 #include "platform/version.h"
@@ -132,6 +133,23 @@ void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
     PrintResultsCompressed(report);
 }
 
+void write(Printer& printer, const Session& session, ReportScope scope, const PageHeadTexts& head,
+           const ReportExtras& extras) {
+    ReportPage page(printer, head);
+    Report report{page, session.project, session.rail(), *session.results};
+    const DiagramData data{session.project, &*session.results};
+    if (scope == ReportScope::All)
+        PrintFull(report, data);
+    else
+        PrintPartial(report, data, scope);
+    if (extras.positions)
+        printPositions(report, scope != ReportScope::Uls,
+                       scope == ReportScope::All || scope == ReportScope::Compressed);
+    if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
+    if (extras.reactions) printSupportReactions(report);
+    if (extras.notes) PrintNotes(page, *session.notes);
+}
+
 const char* nameOf(ReportScope scope) {
     switch (scope) {
         case ReportScope::Uls:
@@ -167,19 +185,12 @@ bool canReport(const Session& session) {
 
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
                  ReportExtras extras) {
-    ReportPage page(printer, headOf(session, when));
-    Report report{page, session.project, session.rail(), *session.results};
-    const DiagramData data{session.project, &*session.results};
-    if (scope == ReportScope::All)
-        PrintFull(report, data);
-    else
-        PrintPartial(report, data, scope);
-    if (extras.positions)
-        printPositions(report, scope != ReportScope::Uls,
-                       scope == ReportScope::All || scope == ReportScope::Compressed);
-    if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
-    if (extras.reactions) printSupportReactions(report);
-    if (extras.notes) PrintNotes(page, *session.notes);
+    PageHeadTexts head = headOf(session, when);
+    // Laid out once for the number of pages, which stands on each of them.
+    PageRange nowhere(printer, std::numeric_limits<int>::max(), 0);
+    write(nowhere, session, scope, head, extras);
+    head.pages = nowhere.pages();
+    write(printer, session, scope, head, extras);
 }
 
 ReportTime reportTime(const std::tm& local) {

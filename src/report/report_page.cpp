@@ -64,7 +64,8 @@ void ReportPage::PageHead(int first) {
     paper.setFont({kFontName, kNamePoints, true});
     paper.setColour(colours::blue);
     paper.text({ColLeft, PrintY - 0.3}, "Borvik ");
-    putRight(ColRight, "Page: " + std::to_string(number_));
+    const std::string of = head_.pages > 0 ? " / " + std::to_string(head_.pages) : "";
+    putRight(ColRight, "Page: " + std::to_string(number_) + of);
     advance(2.0);
     paper.setFont({kFontName, ReportFontSize + 1.0});
     paper.setColour(colours::black);

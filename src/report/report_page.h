@@ -17,6 +17,7 @@ struct PageHeadTexts {
     std::string project;         ///< title of the project
     std::string file;            ///< where it is kept
     std::string identification;  ///< of the girder
+    int pages = 0;               ///< of the whole report; 0: not known yet
 };
 
 /// How a text stands on the page.

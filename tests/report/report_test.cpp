@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <regex>
 
 #include "base/number_text.h"
 #include "notes/notes.h"
@@ -29,6 +30,13 @@ RecordingPrinter printed(Sample sample, ReportScope scope, Extent paper = kA4, R
     if (extras.notes) makeNotes(session);
     PrintReport(printer, session, scope, {"2026-03-01", "9:05"}, extras);
     return printer;
+}
+
+/// A text without what differs where it is part of something longer: the number of pages, and settings that are the
+/// initial ones.
+std::string partOf(const std::string& text) {
+    static const std::regex kVarying(R"((Page: \d+) / \d+|dashed no\n|fill none\n)");
+    return std::regex_replace(text, kVarying, "$1");
 }
 
 constexpr Sample kPlain[] = {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail, Sample::ThirtySpans};
@@ -183,8 +191,8 @@ TEST(Report, manySpansOfOneSectionStandAsARange) {
 
 TEST(Report, notesAreALastChapterAndChangeNoOther) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail}) {
-        const std::string without = printed(sample, ReportScope::All).text();
-        const std::string with = printed(sample, ReportScope::All, kA4, {.notes = true}).text();
+        const std::string without = partOf(printed(sample, ReportScope::All).text());
+        const std::string with = partOf(printed(sample, ReportScope::All, kA4, {.notes = true}).text());
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = with.substr(without.size());
         EXPECT_EQ(without.find("Notes for the checking engineer"), std::string::npos);
@@ -196,8 +204,8 @@ TEST(Report, notesAreALastChapterAndChangeNoOther) {
 
 TEST(Report, governingPositionsAreAChapterOfTheirOwn) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::ThirtySpans}) {
-        const std::string without = printed(sample, ReportScope::All).text();
-        const std::string with = printed(sample, ReportScope::All, kA4, {.positions = true}).text();
+        const std::string without = partOf(printed(sample, ReportScope::All).text());
+        const std::string with = partOf(printed(sample, ReportScope::All, kA4, {.positions = true}).text());
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = with.substr(without.size());
         const CheckResults& checks = sessionOf(sample).results->Checks;
@@ -209,8 +217,8 @@ TEST(Report, governingPositionsAreAChapterOfTheirOwn) {
 
 TEST(Report, reactionsForSupportsHoldWhatActsTogether) {
     for (const Sample sample : {Sample::OneCrane, Sample::TwoCranes, Sample::ThirtySpans}) {
-        const std::string without = printed(sample, ReportScope::Uls).text();
-        const std::string with = printed(sample, ReportScope::Uls, kA4, {.reactions = true}).text();
+        const std::string without = partOf(printed(sample, ReportScope::Uls).text());
+        const std::string with = partOf(printed(sample, ReportScope::Uls, kA4, {.reactions = true}).text());
         ASSERT_TRUE(with.starts_with(without));
         const std::string chapter = withoutBlanks(with.substr(without.size()));
         const Session& session = sessionOf(sample);
@@ -230,8 +238,10 @@ TEST(Report, pageRangeKeepsPagesAndNumbersOfTheWhole) {
     PageRange range(some, 2, 4);
     PrintReport(range, sessionOf(Sample::ThirtySpans), ReportScope::All, {"2026-03-01", "9:05"});
     ASSERT_EQ(some.pages.size(), 3U);
+    EXPECT_NE(some.text().find("Page: 4 / " + std::to_string(whole.pages.size())), std::string::npos);
     EXPECT_TRUE(range.hasPages());
-    for (std::size_t page = 0; page < 3; ++page) EXPECT_EQ(some.pages[page]->log(), whole.pages[page + 1]->log());
+    for (std::size_t page = 0; page < 3; ++page)
+        EXPECT_EQ(partOf(some.pages[page]->log()), partOf(whole.pages[page + 1]->log()));
 
     RecordingPrinter none(kA4.width, kA4.height);
     PageRange beyond(none, 500, 501);
