@@ -20,6 +20,7 @@ E = 210000 N/mm2, G = E/2.6 = 80769 N/mm2. Sagging moments and upward reactions 
     bucklingExamples(document, tables);
     wheelLoadExamples(document, tables);
     fatigueExamples(document, tables);
+    byOthers(document);
     return document;
 }
 

@@ -16,6 +16,9 @@ void bucklingExamples(Document& document, const ReferenceTables& tables);
 void wheelLoadExamples(Document& document, const ReferenceTables& tables);
 void fatigueExamples(Document& document, const ReferenceTables& tables);
 
+/// Published calculations.
+void byOthers(Document& document);
+
 /// The whole document, docs/validation.md.
 [[nodiscard]] Document validate(const ReferenceTables& tables);
 
