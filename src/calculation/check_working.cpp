@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "fatigue/detail_checks.h"
+#include "project/loads.h"
 #include "section/section.h"
 
 namespace borvik {
@@ -29,6 +30,12 @@ CheckWorking sectionWorking(const ReferenceTables& tables, const Project& projec
     const std::string title = "Section of span " + std::to_string(span) + ", ";
     CheckWorking working{"Section", title + project.SpanSection(span).DisplayName, span, {}};
     explainSection(tables, project, span, Working(working.steps));
+    return working;
+}
+
+CheckWorking deadLoadWorking(const Project& project, const Results& results, int span) {
+    CheckWorking working{"DeadLoad", "Dead load of span " + std::to_string(span) + ", ULS", span, {}};
+    (void)deadLoad(project, results.Rail, project.LfULS, span, Working(working.steps));
     return working;
 }
 
@@ -88,7 +95,9 @@ std::vector<CheckWorking> checkWorkings(const ReferenceTables& tables, const Pro
         if (!isShown(*result.check, project) || origin.check == nullptr) continue;
         checks.push_back(rowWorking(project, results, origin));
         if (restsOnResistances(*origin.check) && known.insert(project.SpanSection(origin.span).DisplayName).second)
-            sections.push_back(sectionWorking(tables, project, origin.span));
+            for (auto&& part :
+                 {deadLoadWorking(project, results, origin.span), sectionWorking(tables, project, origin.span)})
+                sections.push_back(part);
     }
     for (const Detail& detail : detailsOf(project)) {
         const auto& governing = results.Fatigue.FatResult(detail.result);

@@ -11,7 +11,7 @@ namespace borvik {
 /// How a governing ratio, or the section that it rests on, comes about: lines that can be followed with a pocket
 /// calculator.
 struct CheckWorking {
-    std::string key;    ///< of the check, "Ltb"; "Fatigue3"; "Section"
+    std::string key;    ///< of the check, "Ltb"; "Fatigue3"; "Section", "DeadLoad"
     std::string title;  ///< "Lateral torsional buckling, span 2, negative moment"; "Section of span 2, HEB 500"
     int span = 1;       ///< of a fatigue detail its row: span, support or splice
     std::vector<WorkingStep> steps;

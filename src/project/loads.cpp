@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace borvik {
 
@@ -31,16 +32,35 @@ double smallestDistance(const Project& project) {
     return smallest;
 }
 
-void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
-    for (int i = 1; i <= project.NofSpans; ++i) {
-        Single& q = loads.SpanLoad(i);
-        q = 0;
-        if (project.CraneType == CraneKind::Overhead) {
-            q = project.Gangway * factor;
-            if (project.RailOn) q += (rail.RailWeight * factor / 1000) * 9.81;
+Single deadLoad(const Project& project, const RailRecord& rail, double factor, int span, Working working) {
+    Single q = 0;
+    const double weight = project.SpanSection(span).Weight;
+    std::string sum;
+    working.given("gamma", factor, "", "load factor");
+    if (project.CraneType == CraneKind::Overhead) {
+        q = project.Gangway * factor;
+        working.given("qg", project.Gangway, "kN/m", "gangway");
+        if (working) sum = "gamma*qg";
+        if (project.RailOn) {
+            q += (rail.RailWeight * factor / 1000) * 9.81;
+            working.given("gr", rail.RailWeight, "kg/m", "rail");
+            if (working) sum += " + gamma*gr*9.81/10^3";
         }
-        if (project.SelfWeight) q += (factor * project.SpanSection(i).Weight / 1000) * 9.81;
     }
+    if (project.SelfWeight) {
+        q += (factor * weight / 1000) * 9.81;
+        working.given("gs", weight, "kg/m", "beam");
+        if (working) sum += std::string(sum.empty() ? "" : " + ") + "gamma*gs*9.81/10^3";
+    }
+    if (sum.empty())
+        working.given("qk", q, "kN/m", "none is asked for");
+    else
+        working.step("qk", sum.c_str(), q, "kN/m");
+    return q;
+}
+
+void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads) {
+    for (int i = 1; i <= project.NofSpans; ++i) loads.SpanLoad(i) = deadLoad(project, rail, factor, i);
 }
 
 void setUlsLoads(const Project& project, const RailRecord& rail, RunLoads& loads) {

@@ -2,6 +2,7 @@
 
 #include "base/array.h"
 #include "base/single.h"
+#include "base/working.h"
 #include "project/project.h"
 
 namespace borvik {
@@ -23,9 +24,12 @@ struct RunLoads {
     int NCranes = 1;                     ///< cranes that move on their own in this run, 1 or 2
 };
 
-/// Dead load of each span, kN/m: gangway and rail for an overhead crane, the beam's own weight where wanted; each step
+/// Dead load of a span, kN/m: gangway and rail for an overhead crane, the beam's own weight where wanted; each step
 /// rounded to a single. A monorail carries neither gangway nor rail.
 /// @param factor  load factor of the run (LfULS or LfSLS)
+[[nodiscard]] Single deadLoad(const Project& project, const RailRecord& rail, double factor, int span,
+                              Working working = {});
+/// That of each span.
 void setDeadLoad(const Project& project, const RailRecord& rail, double factor, RunLoads& loads);
 
 /// Loads of the ultimate limit state: dead load, and each wheel with the load factor and the dynamic factors of its

@@ -10,6 +10,7 @@
 
 #include "base/number_text.h"
 #include "solved_projects.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -156,7 +157,7 @@ void followAll(testing_support::TestSession& session, int& lines) {
     for (const CheckWorking& working : checkWorkings(session.tables, session.project, *session.results)) {
         ASSERT_FALSE(working.steps.empty()) << working.title;
         follow(working, lines);
-        if (working.key == "Section") continue;
+        if (working.key == "Section" || working.key == "DeadLoad") continue;
         const WorkingStep& last = working.steps.back();
         EXPECT_EQ(last.symbol, "IR") << working.title;
         const RowSet& governing = working.key.starts_with("Fatigue")
@@ -178,13 +179,14 @@ TEST(CheckWorking, isFollowedWithAPocketCalculator) {
     std::mt19937 random(19);
     testing_support::TestSession session;
     const Project start = session.project;
-    for (int number = 0; number < 150; ++number) {
+    const int projects = testing_support::wantedCount("BORVIK_RANDOM_CASES", 150);
+    for (int number = 0; number < projects; ++number) {
         SCOPED_TRACE(number);
         session.project = start;
         session.project = testing_support::randomProject(session, random);
         followAll(session, lines);
     }
-    EXPECT_GT(lines, 8000);
+    EXPECT_GT(lines, 50 * projects);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "base/units.h"
 #include "calculation/solved_projects.h"
 #include "reactions/joint.h"
+#include "support/wanted_count.h"
 
 namespace borvik {
 namespace {
@@ -39,8 +40,9 @@ TEST(SupportReactions, areInEquilibriumAndTheSumOfTheirParts) {
     std::mt19937 random(22);
     TestSession session;
     const Project start = session.project;
+    const int projects = testing_support::wantedCount("BORVIK_RANDOM_CASES", 150);
     int cases = 0;
-    for (int number = 0; number < 150; ++number) {
+    for (int number = 0; number < projects; ++number) {
         session.project = start;
         session.project = testing_support::randomProject(session, random);
         if (!session.calculate()) continue;
@@ -70,7 +72,7 @@ TEST(SupportReactions, areInEquilibriumAndTheSumOfTheirParts) {
                 EXPECT_EQ(each.ofCranesAlone, (each.value() > 0) != each.largest) << "the sign keeps it from the walk";
             }
     }
-    EXPECT_GT(cases, 3000);
+    EXPECT_GT(cases, 20 * projects);
 }
 
 /// What acts together is what a walk gives that is stopped at that position, to the bit; the design extremes are those
@@ -81,8 +83,9 @@ TEST(SupportReactions, haveTheBitsOfTheWalk) {
     const Project start = session.project;
     MessageList messages;
     Progress progress;
+    const int projects = testing_support::wantedCount("BORVIK_RANDOM_CASES", 60);
     int compared = 0;
-    for (int number = 0; number < 60; ++number) {
+    for (int number = 0; number < projects; ++number) {
         session.project = start;
         session.project = testing_support::randomProject(session, random);
         if (!session.calculate()) continue;
@@ -108,7 +111,7 @@ TEST(SupportReactions, haveTheBitsOfTheWalk) {
             }
         }
     }
-    EXPECT_GT(compared, 1000);
+    EXPECT_GT(compared, 15 * projects);
 }
 
 /// Two single spans with one joint: the influence line of its support is a triangle, and every position can be tried.
