@@ -12,13 +12,14 @@ _borvik_calc() {
         --diagram) mapfile -t COMPREPLY < <(compgen -W "$(_borvik_calc_names --png - --diagram '?')" -- "$current") ;;
         --decimal) mapfile -t COMPREPLY < <(compgen -W "point comma" -- "$current") ;;
         --walk) mapfile -t COMPREPLY < <(compgen -W "plain fast" -- "$current") ;;
+        --paper) mapfile -t COMPREPLY < <(compgen -W "a4 letter" -- "$current") ;;
         --scope) mapfile -t COMPREPLY < <(compgen -W "uls uls-sls all compressed" -- "$current") ;;
         --tables) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-        --crane-loads | --csv | --workbook | --from-json | --json | --png | --reactions-csv | --reactions-xlsx | --report | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+        --crane-loads | --csv | --workbook | --from-json | --json | --png | --reactions-csv | --reactions-xlsx | --report | --logo | --xlsx | --save) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
         --fail-above) COMPREPLY=(1.0) ;;
         *)
             if [[ $current == -* ]]; then
-                mapfile -t COMPREPLY < <(compgen -W "--at --crane-loads --csv --decimal --default --diagram --fail-above --fingerprint --from-json --help --json --lateral-supports --neighbour --notes --png --quiet --reactions --reactions-csv --reactions-xlsx --report
+                mapfile -t COMPREPLY < <(compgen -W "--at --checked-by --client --crane-loads --csv --date --decimal --default --diagram --fail-above --fingerprint --first-page --from-json --help --json --lateral-supports --logo --neighbour --notes --paper --png --prepared-by --quiet --reactions --reactions-csv --reactions-xlsx --report --revision
                     --save --scope --second-opinion --summary --table --tables --values --version --walk --warping-free --with-notes --with-positions --with-reactions --with-values --workbook --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")

@@ -57,6 +57,26 @@ std::optional<SpanSupport> lateralSupport(const std::string& text) {
     return support;
 }
 
+/// What makes the report a document of an office.
+void addOfficeOptions(CLI::App& app, Options& options, CLI::Option* report) {
+    constexpr std::size_t kMostLetters = 200;
+    CLI::Option* firstPage =
+        app.add_flag("--first-page", options.extras.firstPage,
+                     "The report begins with a page of project, office, largest ratios, standards and contents");
+    firstPage->needs(report);
+    for (const OfficeField& field : officeFields())
+        app.add_option(std::string("--") + field.option, options.extras.office.*field.text,
+                       std::string("On the first page: ") + field.title)
+            ->type_name("TEXT")
+            ->needs(firstPage)
+            ->check([](const std::string& text) {
+                return text.size() <= kMostLetters ? std::string() : "a text of at most 200 letters is needed";
+            });
+    app.add_option("--logo", options.extras.logo, "Picture at the head of the report's pages (PNG, JPEG or SVG)")
+        ->type_name("FILE")
+        ->needs(report);
+}
+
 void addOptions(CLI::App& app, Options& options) {
     const std::map<std::string, WalkMethod> walks{{"plain", WalkMethod::Plain}, {"fast", WalkMethod::Fast}};
     const std::map<std::string, DecimalSign> decimals{{"point", DecimalSign::Point}, {"comma", DecimalSign::Comma}};
@@ -142,8 +162,14 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--fingerprint", options.fingerprint,
                  "Print the fingerprint of the input: the first digits of the SHA-256 of its file");
     if (kHasPictures) {
-        CLI::Option* report = app.add_option("--report", options.report, "Write the report as PDF");
+        CLI::Option* report =
+            app.add_option("--report", options.report, "Write the report as PDF; with several projects a folder");
         report->type_name("FILE");
+        app.add_option("--paper", options.paper, "Size of the report's pages")
+            ->type_name("a4|letter")
+            ->check(CLI::IsMember({"a4", "letter"}))
+            ->option_text("a4|letter (default: as is the custom of the locale)")
+            ->needs(report);
         app.add_option("--scope", options.scope, "What the report covers")
             ->type_name("uls|uls-sls|all|compressed")
             ->transform(CLI::Transformer(scopes))
@@ -153,6 +179,7 @@ void addOptions(CLI::App& app, Options& options) {
             app.add_flag("--with-" + lowerCase(chapter.name), options.extras.*chapter.wanted,
                          std::string("The report tells ") + chapter.holds)
                 ->needs(report);
+        addOfficeOptions(app, options, report);
         CLI::Option* picture = app.add_option("--png", options.picture, "File of the diagram; .svg makes an SVG of it");
         picture->type_name("FILE");
         CLI::Option* diagram =
@@ -229,7 +256,12 @@ void checkOutputs(const Options& options) {
                               {"--png", options.picture},
                               {"--save", options.save}};
     for (const Output& output : outputs) {
-        if (output.file.empty() || output.file == "-") continue;
+        if (output.file.empty()) continue;
+        if (output.file == "-") {
+            const std::string_view option = output.option;
+            if (option == "--json" || option == "--csv") continue;
+            throw CLI::ValidationError(output.option, "needs the name of a file");
+        }
         const bool isProject = output.option == std::string_view("--save");
         std::error_code unknown;
         const std::string behindLinks = fs::weakly_canonical(output.file, unknown).string();
@@ -238,6 +270,7 @@ void checkOutputs(const Options& options) {
         std::vector<std::string> inputs = options.files;
         if (!options.fromJson.empty()) inputs.push_back(options.fromJson);
         if (!options.neighbour.empty()) inputs.push_back(options.neighbour);
+        if (!options.extras.logo.empty()) inputs.push_back(options.extras.logo);
         for (const std::string& input : inputs)
             if (sameFile(output.file, input))
                 throw CLI::ValidationError(output.option, "would overwrite its input " + input);
@@ -256,8 +289,6 @@ void checkTogether(const Options& options) {
     if (options.projects() == 0) throw CLI::RequiredError("A project file, or --default,");
     if (options.projects() > 1 && !options.save.empty())
         throw CLI::ValidationError("--save", "takes the project of a single file");
-    if (options.projects() > 1 && !options.report.empty())
-        throw CLI::ValidationError("--report", "takes the report of a single project");
     if (options.projects() > 1 && !options.xlsx.empty())
         throw CLI::ValidationError("--xlsx", "takes the table of a single project");
     if (options.projects() > 1 && !options.workbook.empty())

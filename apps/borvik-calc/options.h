@@ -38,9 +38,10 @@ struct Options {
     std::string workbook;                  ///< spreadsheet file that takes all tables; empty: none
     std::optional<DecimalSign> decimal;    ///< of CSV; none: a point
     bool fingerprint = false;              ///< print the fingerprint of the input
-    std::string report;                    ///< PDF file of the report; empty: none
+    std::string report;                    ///< PDF file of the report, or folder; empty: none
+    std::string paper;                     ///< of the report, "a4" or "letter"; empty: as is the custom here
     ReportScope scope = ReportScope::All;  ///< of the report
-    ReportExtras extras;                   ///< chapters of the report that are asked for
+    ReportExtras extras;                   ///< what the report has besides
     std::string save;                      ///< project file to write; empty: none
     std::optional<double> failAbove;
     std::string craneLoads;  ///< file of crane data whose loads are printed, instead of projects; empty: none

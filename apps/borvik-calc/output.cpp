@@ -64,7 +64,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
     if (!options_.report.empty())
         attempt([&] {
             if (canReport(run.session))
-                saveReport(run.session, options_.scope, options_.extras, options_.report);
+                writeReport(run);
             else
                 remarks.push_back("no report without results");
         });
@@ -91,24 +91,26 @@ void Outputs::writeJson(const FinishedRun& run) {
         print(text);
         return;
     }
-    const std::string file = jsonFile(run);
+    const std::string file = fileFor(options_.json, run, ".json");
     std::error_code notThere;
     for (const std::string& input : options_.files)
         if (fs::equivalent(file, input, notThere)) throw OutputError("would overwrite its input " + file);
     naming(file, [&] { replaceFile(file, text); });
 }
 
-/// With several projects, or where a folder is named: a file in that folder, named as the project. Projects of the same
-/// name in different folders get a number.
-std::string Outputs::jsonFile(const FinishedRun& run) {
-    const fs::path target = options_.json;
-    if (options_.projects() == 1 && !fs::is_directory(target)) return options_.json;
+void Outputs::writeReport(const FinishedRun& run) {
+    saveReport(run.session, {options_.scope, options_.extras, options_.paper}, fileFor(options_.report, run, ".pdf"));
+}
+
+std::string Outputs::fileFor(const std::string& target, const FinishedRun& run, const char* ending) {
+    if (options_.projects() == 1 && !fs::is_directory(target)) return target;
     std::error_code failed;
     fs::create_directories(target, failed);
     const std::string stem = run.file ? fs::path(*run.file).stem().string() : "default";
+    const auto file = [&](const std::string& name) { return (fs::path(target) / (name + ending)).string(); };
     std::string name = stem;
-    for (int number = 2; !taken_.insert(name).second; ++number) name = stem + "-" + std::to_string(number);
-    return (target / (name + ".json")).string();
+    for (int number = 2; !taken_.insert(file(name)).second; ++number) name = stem + "-" + std::to_string(number);
+    return file(name);
 }
 
 /// Several projects make one text, each under its name.

@@ -48,7 +48,10 @@ public:
 
 private:
     void writeJson(const FinishedRun& run);
-    std::string jsonFile(const FinishedRun& run);
+    void writeReport(const FinishedRun& run);
+    /// Where the output of one project goes. With several projects, or where a folder is named: a file in that folder,
+    /// named as the project. Projects of the same name in different folders get a number.
+    std::string fileFor(const std::string& target, const FinishedRun& run, const char* ending);
     void writeTable(const FinishedRun& run);
     void writeSpreadsheet(const FinishedRun& run);
     void writeWorkbook(const FinishedRun& run);
@@ -60,7 +63,7 @@ private:
     void printText(const FinishedRun& run, const std::string& text);
 
     const Options& options_;
-    std::set<std::string> taken_;  ///< names of result files in the folder, so that none is written twice
+    std::set<std::string> taken_;  ///< result files in folders, so that none is written twice
     bool textPrinted_ = false;
 };
 

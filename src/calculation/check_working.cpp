@@ -42,10 +42,7 @@ CheckWorking deadLoadWorking(const Project& project, const Results& results, int
 CheckWorking rowWorking(const Project& project, const Results& results, const RowOrigin& origin) {
     const StaticCheck& check = *origin.check;
     const int span = origin.span;
-    CheckWorking working{check.key,
-                         capital(check.name) + ", span " + std::to_string(span) + extremeText(check, origin.extreme),
-                         span,
-                         {}};
+    CheckWorking working{check.key, rowTitle(origin), span, {}};
     CheckBasis basis{project, results.Rail, results.Uls, results.Sls};
     if (check.prepare) check.prepare(basis);
     basis.working = Working(working.steps);
@@ -53,16 +50,10 @@ CheckWorking rowWorking(const Project& project, const Results& results, const Ro
     return working;
 }
 
-/// "1 Rail to topflange, span 2".
 CheckWorking detailWorking(const Project& project, const Results& results, const RowOrigin& origin) {
     const Detail& detail = *origin.detail;
     const FatigueResults& fatigue = results.Fatigue;
-    std::string kind = nameOf(kindOf(detail.places));
-    kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
-    CheckWorking working{"Fatigue" + std::to_string(detail.result),
-                         "Fatigue, " + std::string(detail.title) + ", " + kind + " " + std::to_string(origin.row),
-                         origin.row,
-                         {}};
+    CheckWorking working{"Fatigue" + std::to_string(detail.result), rowTitle(origin), origin.row, {}};
     const StressSet none(project.NofSpans);
     const auto orNone = [&none](const std::optional<StressSet>& set) -> const StressSet& { return set ? *set : none; };
     const DetailInput input{
@@ -77,6 +68,16 @@ bool restsOnResistances(const StaticCheck& check) {
 }
 
 }  // namespace
+
+std::string rowTitle(const RowOrigin& origin) {
+    if (origin.detail != nullptr) {
+        std::string kind = nameOf(kindOf(origin.detail->places));
+        kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
+        return "Fatigue, " + std::string(origin.detail->title) + ", " + kind + " " + std::to_string(origin.row);
+    }
+    return capital(origin.check->name) + ", span " + std::to_string(origin.span) +
+           extremeText(*origin.check, origin.extreme);
+}
 
 std::vector<CheckWorking> workingsOf(const ReferenceTables& tables, const Project& project, const Results& results,
                                      const RowOrigin& origin) {

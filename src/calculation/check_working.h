@@ -17,6 +17,10 @@ struct CheckWorking {
     std::vector<WorkingStep> steps;
 };
 
+/// What a row is of: "Lateral torsional buckling, span 2, positive moment"; "Fatigue, 1 Rail to topflange, span 2".
+/// @pre origin.isKnown()
+[[nodiscard]] std::string rowTitle(const RowOrigin& origin);
+
 /// The working of every check that tables and report show and of every fatigue detail, at its governing row, each
 /// behind the sections that the ratios rest on. The checks themselves write it down: they run once more, for these rows
 /// alone.

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace borvik {
@@ -61,6 +62,9 @@ public:
     virtual void polygon(std::span<const Place> places, Colour fill) = 0;
     /// Outline in the pen's colour, inside as setFill says.
     virtual void rectangle(Place corner, Place opposite) = 0;
+    /// A picture file (PNG, JPEG or SVG) as large as fits between two corners, in its proportions, in the middle of
+    /// that box; nothing where it can't be read.
+    virtual void picture(Place corner, Place opposite, const std::string& file) = 0;
     /// A true circle whatever the two scales are. @param radius  in vertical units
     virtual void circle(Place centre, double radius) = 0;
     /// @param corner  upper left corner of the box that the text covers

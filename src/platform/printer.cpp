@@ -14,4 +14,9 @@ void PageRange::newPage() {
     ++printed_;
 }
 
+void PageRange::chapter(std::string_view title, double down) {
+    chapters_.push_back({std::string(title), number_});
+    if (inRange()) printer_.chapter(title, down);
+}
+
 }  // namespace borvik

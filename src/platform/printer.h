@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "platform/drawing_surface.h"
 
 namespace borvik {
@@ -14,6 +17,9 @@ public:
     virtual void newPage() = 0;
     /// Size of the printable area, mm.
     [[nodiscard]] virtual Extent printableArea() const = 0;
+    /// A chapter begins on the page at hand: what lists chapters names it. @param down  its place, 0 at the top of the
+    /// printable area, 1 at the bottom
+    virtual void chapter(std::string_view, double) {}
 };
 
 /// Measures as another surface does and draws nothing.
@@ -26,6 +32,7 @@ public:
     void line(Place, Place) override {}
     void polyline(std::span<const Place>) override {}
     void polygon(std::span<const Place>, Colour) override {}
+    void picture(Place, Place, const std::string&) override {}
     void rectangle(Place, Place) override {}
     void circle(Place, double) override {}
     void text(Place, std::string_view, TextDirection) override {}
@@ -54,10 +61,17 @@ public:
     [[nodiscard]] DrawingSurface& page() override;
     void newPage() override;
     [[nodiscard]] Extent printableArea() const override { return printer_.printableArea(); }
+    void chapter(std::string_view title, double down) override;
     /// False as long as no page of the range has been reached.
     [[nodiscard]] bool hasPages() const { return printed_ > 0; }
     /// Pages of the whole document that have been begun so far, in the range or not.
     [[nodiscard]] int pages() const { return number_; }
+    /// A chapter of the whole document and the page on which it begins.
+    struct Chapter {
+        std::string title;
+        int page;
+    };
+    [[nodiscard]] const std::vector<Chapter>& chapters() const { return chapters_; }
 
 private:
     [[nodiscard]] bool inRange() const { return number_ >= first_ && (last_ == 0 || number_ <= last_); }
@@ -67,6 +81,7 @@ private:
     int first_, last_;
     int number_ = 1;
     int printed_ = inRange() ? 1 : 0;  ///< pages of the range begun so far
+    std::vector<Chapter> chapters_;
 };
 
 }  // namespace borvik

@@ -46,7 +46,10 @@ PageHeadTexts headOf(const Session& session, const ReportTime& when) {
 void printInput(Report& report, ReportScope scope) {
     const bool withFatigue = scope == ReportScope::All || scope == ReportScope::Compressed;
     ReportPage& page = report.page;
-    page.PageHead(1);
+    if (report.isBegun)
+        page.newPage();
+    else
+        page.PageHead();
     PrintGeneral(report, scope != ReportScope::Uls);
     PrintCraneAndLoad(report);
     page.advance(0.5);
@@ -67,14 +70,14 @@ void printInput(Report& report, ReportScope scope) {
 }
 
 void printUlsDiagrams(Report& report, const DiagramData& data) {
+    report.page.chapterOfDiagrams("Sketch and diagrams: ULS");
     report.page.diagram(Diagram::Sketch, data, kForceScale, kSketchStep);
     report.page.diagram(Diagram::UlsMyVz, data, kForceScale, kForceStep);
 }
 
-/// The reactions as a list, for beams of so many spans that their diagram has no room for all the numbers.
-void printManyReactions(Report& report) {
-    constexpr int kSpansOfADiagram = 8;
-    if (report.project.NofSpans <= kSpansOfADiagram) return;
+/// The reactions as a list: those across the beam stand in no diagram of the report, and the diagram of a long beam has
+/// no room for all the numbers.
+void printReactions(Report& report) {
     ReportPage& page = report.page;
     const ResultTable table = TableReactions(report.project, report.results);
     const double column = page.width() / static_cast<double>(table.columns.size());
@@ -84,7 +87,8 @@ void printManyReactions(Report& report) {
             page.put(at(c), table.columns[c].header, {false, colours::grey});
         page.advance(1.2);
     };
-    page.need(6.0);
+    page.need(std::min(6.0 + static_cast<double>(table.rows.size()), 12.0));
+    page.chapter("ULS - Reactions");
     page.put(page.ColLeft, "ULS - Reactions (kN)", {true});
     page.advance(1.2);
     head();
@@ -98,18 +102,30 @@ void printManyReactions(Report& report) {
     page.advance(1.0);
 }
 
+/// Diagrams of a limit state one below the other; on a new page where they would be torn apart.
+void printTogether(Report& report, const DiagramData& data, const char* chapter,
+                   std::initializer_list<Diagram> diagrams, double step) {
+    ReportPage& page = report.page;
+    const double apart = static_cast<double>(beamParts(report.project).size());
+    if (page.room() < apart * static_cast<double>(diagrams.size()) * step * page.LinesPerPage) {
+        page.newPage();
+        page.advance(0.5);
+    }
+    page.chapterOfDiagrams(chapter);
+    for (const Diagram diagram : diagrams) page.diagram(diagram, data, kFlatScale, step);
+}
+
 void PrintFull(Report& report, const DiagramData& data) {
     ReportPage& page = report.page;
     printInput(report, ReportScope::All);
     printUlsDiagrams(report, data);
+    page.chapterOfDiagrams("Diagrams: SLS");
     page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
-    printManyReactions(report);
-    page.newPage();
-    page.advance(0.5);
-    for (const Diagram diagram :
-         {Diagram::Cr1TopRange, Diagram::Cr1BottomRange, Diagram::Cr1ShearRange, Diagram::FlsReactions})
-        page.diagram(diagram, data, kFlatScale, kFlsStep);
+    printReactions(report);
+    printTogether(report, data, "Diagrams: FLS",
+                  {Diagram::Cr1TopRange, Diagram::Cr1BottomRange, Diagram::Cr1ShearRange, Diagram::FlsReactions},
+                  kFlsStep);
     PrintResults(report);
     PrintFlsCrane1(report);
     PrintFlsCrane2(report);
@@ -120,23 +136,26 @@ void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
     const bool compressed = scope == ReportScope::Compressed;
     printInput(report, scope);
     printUlsDiagrams(report, data);
+    page.chapterOfDiagrams("Diagrams: SLS");
     if (scope != ReportScope::Uls) page.diagram(Diagram::SlsUz, data, kFlatScale, kUzStep);
     if (compressed || (scope == ReportScope::UlsSls && report.project.HasLoadsY))
         page.diagram(Diagram::SlsUy, data, kFlatScale, kUyStep);
-    printManyReactions(report);
+    printReactions(report);
     if (!compressed) return;
-    page.newPage();
-    page.advance(0.5);
-    page.diagram(Diagram::Cr1TopRange, data, kFlatScale, kFlsStep);
-    page.diagram(Diagram::Cr1ShearRange, data, kFlatScale, kFlsStep);
+    printTogether(report, data, "Diagrams: FLS", {Diagram::Cr1TopRange, Diagram::Cr1ShearRange}, kFlsStep);
     page.advance(0.5);
     PrintResultsCompressed(report);
 }
 
 void write(Printer& printer, const Session& session, ReportScope scope, const PageHeadTexts& head,
-           const ReportExtras& extras) {
+           const ReportExtras& extras, const std::vector<PageRange::Chapter>& contents) {
     ReportPage page(printer, head);
     Report report{page, session.project, session.rail(), *session.results};
+    if (extras.firstPage) {
+        page.PageHead();
+        printFirstPage(report, extras.office, head, contents);
+        report.isBegun = true;
+    }
     const DiagramData data{session.project, &*session.results};
     if (scope == ReportScope::All)
         PrintFull(report, data);
@@ -184,13 +203,25 @@ bool canReport(const Session& session) {
 }
 
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
-                 ReportExtras extras) {
+                 const ReportExtras& extras) {
     PageHeadTexts head = headOf(session, when);
-    // Laid out once for the number of pages, which stands on each of them.
+    head.logo = extras.logo;
+    // Laid out once for the number of pages, which stands on each of them, and for the contents.
     PageRange nowhere(printer, std::numeric_limits<int>::max(), 0);
-    write(nowhere, session, scope, head, extras);
+    write(nowhere, session, scope, head, extras, {});
     head.pages = nowhere.pages();
-    write(printer, session, scope, head, extras);
+    write(printer, session, scope, head, extras, nowhere.chapters());
+}
+
+std::span<const OfficeField> officeFields() {
+    static constexpr OfficeField kFields[] = {
+        {&OfficeTexts::client, "Client", "client", "Client"},
+        {&OfficeTexts::preparedBy, "PreparedBy", "prepared-by", "Prepared by"},
+        {&OfficeTexts::checkedBy, "CheckedBy", "checked-by", "Checked by"},
+        {&OfficeTexts::revision, "Revision", "revision", "Revision"},
+        {&OfficeTexts::date, "Date", "date", "Date"},
+    };
+    return kFields;
 }
 
 ReportTime reportTime(const std::tm& local) {

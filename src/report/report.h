@@ -17,12 +17,31 @@ enum class ReportScope : int {
     Compressed = 4,  ///< input, a choice of diagrams, the checks, of fatigue the governing rows
 };
 
-/// Chapters that a report has where they are asked for, behind the others, which are the same with and without.
+/// What an office writes on the first page of a report beside what the project tells.
+struct OfficeTexts {
+    std::string client, preparedBy, checkedBy, revision;
+    std::string date;  ///< empty: that of the print
+};
+/// A line of the first page that the office fills in: in the print dialog and by "--" and its option in a terminal.
+struct OfficeField {
+    std::string OfficeTexts::*text;
+    const char* name;    ///< "PreparedBy": of its box and in the settings
+    const char* option;  ///< "prepared-by"
+    const char* title;   ///< "Prepared by"
+};
+/// All of them, in the order of the page.
+[[nodiscard]] std::span<const OfficeField> officeFields();
+
+/// What a report has where it is asked for: chapters behind the others, which are the same with and without, and what
+/// makes it a document of an office.
 struct ReportExtras {
     bool positions = false;  ///< where the cranes stand for each governing check, as pictures
     bool values = false;     ///< how each governing ratio comes about
     bool reactions = false;  ///< the reactions for the design of the supports
     bool notes = false;      ///< the notes for the checking engineer
+    bool firstPage = false;  ///< a page before the others: project, office, largest ratios, standards, contents
+    OfficeTexts office = {};
+    std::string logo = {};  ///< picture file for the head of every page (PNG, JPEG or SVG); empty: none
 };
 
 /// A chapter that can be asked for: in the menu, in the print dialog and, by "--with-" and its name, in a terminal.
@@ -52,10 +71,13 @@ inline constexpr const char* kCalculateBeforePrint = "  Calculate before print  
 /// Writes the whole report, from page 1, on paper whose first page is empty.
 /// @pre canReport(session); with notes, those that the session keeps
 void PrintReport(Printer& printer, const Session& session, ReportScope scope, const ReportTime& when,
-                 ReportExtras extras = {});
+                 const ReportExtras& extras = {});
 
 /// "beam-a-ULS-SLS.pdf": a name for the file of a report, from the project's file or, where it has none, its title.
 [[nodiscard]] std::string reportFileName(const Session& session, ReportScope scope);
+
+/// Subject of the document, beside its title.
+inline constexpr const char* kReportSubject = "Crane supporting structures to EN 1993-6: static calculation";
 
 /// Title of the document: project, identification.
 [[nodiscard]] std::string reportTitle(const Session& session);

@@ -3,6 +3,7 @@
 #include "calculation/check_working.h"
 #include "calculation/session.h"
 #include "notes/notes.h"
+#include "report/report.h"
 #include "report/report_page.h"
 
 namespace borvik {
@@ -13,7 +14,14 @@ struct Report {
     const Project& project;
     const RailRecord& rail;
     const Results& results;
+    bool isBegun = false;  ///< a page before the chapters is written
 };
+
+/// The page before the others: project and office, the largest ratio of each limit state, standards, how the cranes are
+/// walked, program and fingerprint; with more than four pages the contents.
+/// @param contents  chapters and their pages; empty while they are being found out
+void printFirstPage(Report& report, const OfficeTexts& office, const PageHeadTexts& head,
+                    const std::vector<PageRange::Chapter>& contents);
 
 // Each chapter begins below PrintY with its heading in bold, leaves PrintY below its last line, and goes on on a new
 // page where the old one is full.

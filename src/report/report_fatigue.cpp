@@ -63,6 +63,7 @@ void printDetails(Report& report, const std::array<Detail, 6>& details) {
     ReportPage& page = report.page;
     page.advance(0.5);
     page.need(4.0);
+    page.chapter("Fatigue Details");
     page.put(page.Col1.stop1, "Fatigue Details:", {true});
     page.nextLine();
     bool any = false;

@@ -12,8 +12,9 @@ namespace {
 
 constexpr TextStyle kBold{true};
 
-void heading(ReportPage& page, const char* text) {
+void heading(ReportPage& page, std::string_view text) {
     page.need(4.0);
+    page.chapter(text.substr(0, text.find(':')));
     page.put(page.Col1.stop1, text, kBold);
     page.nextLine();
 }
@@ -247,7 +248,7 @@ void PrintSection(Report& report) {
         const double gap = 2.0;
         drawSectionSketch(page.surface(), section, {page.Col1.stop1, top + 0.2},
                           {page.Col2.stop1 - page.Col1.stop1 - gap, kSketchLines - 1.2}, page.cell(),
-                          {"Arial", ReportPage::ReportFontSize - 1.0});
+                          {"Arial", kReportFontSize - 1.0});
         sectionTexts(page, project, section);
         page.advance(top + kSketchLines - page.PrintY);
     }

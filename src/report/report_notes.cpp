@@ -74,6 +74,7 @@ void printAssumptions(ReportPage& page, const std::vector<const NoteRule*>& assu
 void PrintNotes(ReportPage& page, const Notes& notes) {
     page.newPage();
     page.advance(0.5);
+    page.chapter("Notes for the checking engineer");
     page.put(page.ColLeft, "Notes for the checking engineer:", kBold);
     page.advance(1.5);
     page.advance(

@@ -1,6 +1,7 @@
 #include "report/report_page.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -11,6 +12,7 @@ namespace {
 constexpr const char* kFontName = "Arial";
 constexpr const char* kAverageLetters = "SmGasdfghjklpoiuytre";  // 20 of them
 constexpr double kHeadTop = 2.0;                                 // line of the head's first text
+constexpr double kLogoLeft = 0.55, kLogoRight = 0.82;            // of the width, between the texts of the head
 constexpr double kGap = 1.0;                                     // least distance of two texts on a line, characters
 constexpr std::size_t kLongestLine = 1000;                       // characters; no paper takes as many side by side
 constexpr std::size_t kLongestHead = 1000;                       // bytes of a title, which stands on every page
@@ -52,13 +54,17 @@ Extent ReportPage::cell() const {
 }
 
 void ReportPage::setStyle(TextStyle style) const {
-    surface().setFont({kFontName, ReportFontSize, style.bold});
+    surface().setFont({kFontName, style.points, style.bold});
     surface().setColour(style.colour);
 }
 
-void ReportPage::PageHead(int first) {
+void ReportPage::chapter(std::string_view title) {
+    printer_.chapter(title, std::max(0.0, PrintY - 1.0) / LinesPerPage);
+}
+
+void ReportPage::PageHead() {
     constexpr double kNamePoints = 13.0;
-    number_ = first == 1 ? 1 : number_ + 1;
+    ++number_;
     DrawingSurface& paper = surface();
     gridScale();
     paper.setFont({kFontName, kNamePoints, true});
@@ -66,8 +72,11 @@ void ReportPage::PageHead(int first) {
     paper.text({ColLeft, PrintY - 0.3}, "Borvik ");
     const std::string of = head_.pages > 0 ? " / " + std::to_string(head_.pages) : "";
     putRight(ColRight, "Page: " + std::to_string(number_) + of);
+    if (!head_.logo.empty())
+        paper.picture({ColLeft + kLogoLeft * width(), PrintY - 0.3}, {ColLeft + kLogoRight * width(), PrintY + 3.9},
+                      head_.logo);
     advance(2.0);
-    paper.setFont({kFontName, ReportFontSize + 1.0});
+    paper.setFont({kFontName, kReportFontSize + 1.0});
     paper.setColour(colours::black);
     paper.text({ColLeft, PrintY}, "Crane supporting Structures according to Eurocode 1993-6");
     putRight(ColRight, "Date: " + head_.date);
@@ -102,7 +111,7 @@ void ReportPage::headLine(std::string_view left, std::string_view right) {
 void ReportPage::newPage() {
     printer_.newPage();
     PrintY = kHeadTop;
-    PageHead(2);
+    PageHead();
     advance(0.5);
     if (afterBreak) afterBreak();
 }
@@ -220,6 +229,7 @@ void ReportPage::diagram(Diagram diagram, const DiagramData& data, double pageUn
     for (const BeamPart& part : beamParts(data.project)) {
         if (!shows(part, data)) continue;
         if (need(area.bottom * linesPerUnit)) advance(std::max(0.0, -area.top * linesPerUnit));
+        if (const char* title = std::exchange(chapterOfDiagrams_, nullptr)) chapter(title);
         surface().scale(kFrameLeft - ColLeft * unitsPerColumn, 0.0,
                         kFrameRight + (CharsPerLine - ColRight) * unitsPerColumn, pageUnits);
         for (std::string& value :

@@ -18,12 +18,16 @@ struct PageHeadTexts {
     std::string file;            ///< where it is kept
     std::string identification;  ///< of the girder
     int pages = 0;               ///< of the whole report; 0: not known yet
+    std::string logo = {};       ///< picture file of the office; empty: none
 };
+
+inline constexpr double kReportFontSize = 8.0;  ///< points
 
 /// How a text stands on the page.
 struct TextStyle {
     bool bold = false;
     Colour colour = colours::black;
+    double points = kReportFontSize;
 };
 
 /// Three stops of a tab column, columns of the character grid: a label, a sign behind it, a value.
@@ -39,19 +43,22 @@ public:
     /// Measures the page; nothing is drawn.
     ReportPage(Printer& printer, PageHeadTexts head);
 
-    double LinesPerPage = 0.0;                ///< printable height in lines
-    double CharsPerLine = 0.0;                ///< printable width in characters
-    double ColLeft = 0.0, ColRight = 0.0;     ///< edges of the text, columns
-    TabColumn Col1, Col2, Col3, Col4;         ///< four equal parts of the text's width
-    double PrintY = 2.0;                      ///< current line; a fraction is a part of a line
-    static constexpr int ReportFontSize = 8;  ///< points
+    double LinesPerPage = 0.0;             ///< printable height in lines
+    double CharsPerLine = 0.0;             ///< printable width in characters
+    double ColLeft = 0.0, ColRight = 0.0;  ///< edges of the text, columns
+    TabColumn Col1, Col2, Col3, Col4;      ///< four equal parts of the text's width
+    double PrintY = 2.0;                   ///< current line; a fraction is a part of a line
 
     [[nodiscard]] double width() const { return ColRight - ColLeft; }
 
-    /// The head. @param first  1 on page 1, 2 on the following pages
-    void PageHead(int first);
+    /// The head of the next page. On the first page of the document it is all that has to be done to begin it.
+    void PageHead();
     /// A new page with its head, and PrintY below it.
     void newPage();
+    /// A chapter begins here: contents and the outline of a PDF name it.
+    void chapter(std::string_view title);
+    /// A chapter begins with the next diagram, wherever that finds its room.
+    void chapterOfDiagrams(const char* title) { chapterOfDiagrams_ = title; }
     /// A new page when fewer than that many lines are left. @return true when there is one
     bool need(double lines);
     /// Lines left on the page.
@@ -100,6 +107,7 @@ private:
 
     Printer& printer_;
     PageHeadTexts head_;
+    const char* chapterOfDiagrams_ = nullptr;
     int number_ = 0;        ///< of the page
     double lineEnd_ = 0.0;  ///< right end of what stands on the current line
 };

@@ -80,6 +80,7 @@ void printPositions(Report& report, bool withDeflections, bool withFatigue) {
     ReportPage& page = report.page;
     page.newPage();
     page.advance(0.5);
+    page.chapter("Governing positions of the cranes");
     page.put(page.ColLeft, "Governing positions of the cranes:", kBold);
     page.advance(1.5);
     CraneDrive drive(report.project, report.results);

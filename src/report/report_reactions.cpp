@@ -103,6 +103,7 @@ void printSupportReactions(Report& report) {
     const ResultTable table = TableSupportReactions(report.project, report.results);
     page.newPage();
     page.advance(0.5);
+    page.chapter("Reactions for supports");
     page.put(page.ColLeft, "Reactions for supports:", kBold);
     page.advance(1.2);
     for (const std::string& text : page.wrapped(

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <deque>
+#include <functional>
 #include <string>
 
 #include "base/number_text.h"
@@ -46,12 +48,17 @@ public:
     }
     CheckList(const CheckList&) = delete;
     CheckList& operator=(const CheckList&) = delete;
-    ~CheckList() { page_.afterBreak = nullptr; }
+    ~CheckList() {
+        keepLastRows();
+        page_.afterBreak = nullptr;
+    }
 
     /// A heading in bold, the head of the columns below it.
     void chapter(const char* heading) {
+        keepLastRows();
         if (page_.room() < 8.0) breakWithoutHead();
         page_.advance(0.5);
+        page_.chapter(std::string("Results: ") + heading);
         page_.put(place_, heading, kBold);
         page_.advance(1.2);
         head();
@@ -59,13 +66,36 @@ public:
 
     /// A line over a group of rows: a span, a detail.
     void group(const std::string& title) {
-        page_.need(4.5);
-        page_.put(place_, title, kBold);
-        page_.advance(1.1);
+        write(1.1, [this, title] {
+            page_.need(4.5);
+            page_.put(place_, title, kBold);
+            page_.advance(1.1);
+        });
     }
 
     /// Formula over numbers, with ratio, limit and reference beside them; kept together on one page.
     void row(const CheckRow& row) {
+        const Layout layout = layoutOf(row);
+        write(layout.lines + kRowGap, [this, row, layout] { print(row, layout); });
+    }
+
+    /// A remark below the rows.
+    void note(const std::string& text) {
+        write(1.2, [this, text] {
+            page_.need(1.5);
+            page_.put(place_, text, kQuiet);
+            page_.advance(1.2);
+        });
+    }
+
+private:
+    static constexpr double kRowGap = 0.3;
+
+    /// Widths of the parts of a row, and the lines that they take.
+    struct Layout {
+        double equationWidth, numbersWidth, numbersDown, referenceLines, lines;
+    };
+    [[nodiscard]] Layout layoutOf(const CheckRow& row) const {
         constexpr double kUsual = 5.0;  // a ratio of a few digits; a longer one takes its room from the formula
         const double ratioWidth = page_.textWidth(row.ratio, row.overLimit ? kFailed : kPlain) + 1.0;
         const double equationWidth = ratio_ - std::max(kUsual, ratioWidth) - equation_;
@@ -81,31 +111,43 @@ public:
         const double numbersDown = wide ? std::max(formulaLines, referenceLines) : formulaLines;
         const double lines = std::max(numbersDown + count(row.numbers, numbersWidth),
                                       referenceLines + count(row.cranes, referenceWidth));
-        page_.need(lines + kRowGap);
+        return {equationWidth, numbersWidth, numbersDown, referenceLines, lines};
+    }
+
+    void print(const CheckRow& row, const Layout& layout) {
+        page_.need(layout.lines + kRowGap);
         const double top = page_.PrintY;
+        const double referenceWidth = page_.ColRight - reference_;
         page_.putBlock(place_, equation_ - place_ - 1.0, row.place);
-        page_.putBlock(equation_, equationWidth, row.formula);
+        page_.putBlock(equation_, layout.equationWidth, row.formula);
         page_.putRight(ratio_, row.ratio, row.overLimit ? kFailed : kPlain);
         // A mark beside the colour, for paper without any.
         if (row.overLimit) page_.putBlock(ratio_ + 0.6, 3.0, "!!", kFailed);
         page_.putBlock(reference_, referenceWidth, withoutIndent(row.reference));
-        page_.PrintY = top + numbersDown;
-        if (!row.numbers.empty()) page_.putBlock(equation_, numbersWidth, row.numbers);
-        page_.PrintY = top + referenceLines;
+        page_.PrintY = top + layout.numbersDown;
+        if (!row.numbers.empty()) page_.putBlock(equation_, layout.numbersWidth, row.numbers);
+        page_.PrintY = top + layout.referenceLines;
         if (!row.cranes.empty()) page_.putBlock(reference_, referenceWidth, row.cranes, kQuiet);
         page_.PrintY = top;
-        page_.advance(lines + kRowGap);
+        page_.advance(layout.lines + kRowGap);
     }
 
-    /// A remark below the rows.
-    void note(const std::string& text) {
-        page_.need(1.5);
-        page_.put(place_, text, kQuiet);
-        page_.advance(1.2);
+    /// What is to be written next. The last few are held back, so that a page never begins with one or two of them
+    /// alone.
+    void write(double lines, std::function<void()> print) {
+        constexpr std::size_t kHeldBack = 6;
+        last_.push_back({lines, std::move(print)});
+        if (last_.size() <= kHeldBack) return;
+        last_.front().print();
+        last_.pop_front();
     }
-
-private:
-    static constexpr double kRowGap = 0.3;
+    void keepLastRows() {
+        double lines = 0.0;
+        for (const Pending& each : last_) lines += each.lines;
+        page_.need(lines);
+        for (const Pending& each : last_) each.print();
+        last_.clear();
+    }
 
     static std::string withoutIndent(const std::string& text) {
         const auto first = text.find_first_not_of(' ');
@@ -128,7 +170,13 @@ private:
         page_.afterBreak = [this] { head(); };
     }
 
+    struct Pending {
+        double lines;
+        std::function<void()> print;
+    };
+
     ReportPage& page_;
+    std::deque<Pending> last_;
     double place_, equation_, ratio_, reference_;
 };
 

@@ -37,6 +37,7 @@ void printLine(ReportPage& page, const WorkingLine& line) {
 void printValues(ReportPage& page, const std::vector<CheckWorking>& workings) {
     page.newPage();
     page.advance(0.5);
+    page.chapter("Intermediate values");
     page.put(page.ColLeft, "Intermediate values:", kBold);
     page.advance(1.5);
     for (const CheckWorking& working : workings) {

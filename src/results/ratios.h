@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "calculation/session.h"
 
@@ -10,6 +11,7 @@ namespace borvik {
 /// only, since those are ranked by their texts ("10.000" below "9.000").
 struct RatioVerdict {
     double largest = 0.0;     ///< of those that are numbers
+    RowOrigin origin = {};    ///< of the row with the largest
     bool negative = false;    ///< some check has no resistance left
     bool notANumber = false;  ///< some check has no result
 
@@ -19,5 +21,12 @@ struct RatioVerdict {
     [[nodiscard]] std::string remark() const;
 };
 [[nodiscard]] RatioVerdict verdictOf(const Results& results);
+
+/// The same of each limit state that has checks: ultimate, serviceability, fatigue.
+struct StateVerdict {
+    const char* name;  ///< "Ultimate limit state"
+    RatioVerdict verdict;
+};
+[[nodiscard]] std::vector<StateVerdict> verdictsByState(const Results& results);
 
 }  // namespace borvik

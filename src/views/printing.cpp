@@ -26,6 +26,7 @@
 #include "report/report.h"
 #include "results/csv.h"
 #include "results/spreadsheet.h"
+#include "views/office_fields.h"
 
 namespace borvik {
 namespace {
@@ -55,10 +56,6 @@ QString proposedFile(const Session& session, ReportScope scope) {
     return project.isAbsolute() ? project.absoluteDir().filePath(name) : name;
 }
 
-DocumentProperties propertiesOf(const Session& session) {
-    return {QString::fromStdString(reportTitle(session)), documentAuthor(), QString::fromUtf8(kProgramAndVersion)};
-}
-
 void prepare(QPrinter& printer, const Session& session, ReportScope scope) {
     printer.setPageLayout(defaultPageLayout());
     printer.setCreator(QString::fromUtf8(kProgramAndVersion));
@@ -81,7 +78,8 @@ void naming(const std::string& file, Write write) {
 /// Sends the pages that were asked for, as often as was asked for. Each copy begins with page 1. What goes to a file is
 /// made in memory first and then saved with the same care as every other output.
 /// @throws OutputError  with the name of the file, where there is one
-void send(QPrinter& printer, const Session& session, ReportScope scope, ReportExtras extras) {
+void send(QPrinter& printer, const Session& session, ReportScope scope, const ReportExtras& extras) {
+    checkPicture(extras.logo);
     const bool someOnly = printer.printRange() == QPrinter::PageRange;
     const int first = someOnly ? std::max(1, printer.fromPage()) : 1;
     const int last = someOnly ? printer.toPage() : 0;
@@ -102,7 +100,8 @@ void send(QPrinter& printer, const Session& session, ReportScope scope, ReportEx
     const QString file = printer.outputFileName();
     // A preview draws its pages on another engine, whatever the printer is.
     if (!file.isEmpty() && printer.paintEngine()->type() == QPaintEngine::Pdf) {
-        const QByteArray bytes = renderPdf(draw, printer.pageLayout(), propertiesOf(session));
+        const QByteArray bytes =
+            renderPdf(draw, printer.pageLayout(), propertiesOf(reportTitle(session), kReportSubject));
         if (!hasPages) throw noPage;
         naming(file.toStdString(), [&] { saveBytes(file.toStdString(), bytes); });
         return;
@@ -146,8 +145,9 @@ bool hasSpreadsheetProgram() {
 
 }  // namespace
 
-std::string printReport(Session& session, int scope, ReportExtras extras, const Services& services, QWidget* parent) {
+std::string printReport(Session& session, int scope, ReportExtras& kept, const Services& services, QWidget* parent) {
     if (!isReady(session, services)) return {};
+    ReportExtras extras = kept;
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer, session, reportScope);
@@ -169,8 +169,14 @@ std::string printReport(Session& session, int scope, ReportExtras extras, const 
         layout->addWidget(box);
     }
     layout->addStretch();
-    dialog.setOptionTabs({&chapters});
+    OfficeFields office(extras, services);
+    dialog.setOptionTabs({&chapters, &office});
     if (dialog.exec() != QDialog::Accepted) return {};
+    // First page, texts and logo are for the next report too, the chapters as the menu has them.
+    kept.firstPage = extras.firstPage;
+    kept.office = extras.office;
+    kept.logo = extras.logo;
+    saveOffice(services.settings, kept);
     try {
         send(printer, session, reportScope, extras);
     } catch (const OutputError& error) {
@@ -180,7 +186,8 @@ std::string printReport(Session& session, int scope, ReportExtras extras, const 
     return printer.outputFileName().toStdString();
 }
 
-std::string previewReport(Session& session, int scope, ReportExtras extras, const Services& services, QWidget* parent) {
+std::string previewReport(Session& session, int scope, ReportExtras& extras, const Services& services,
+                          QWidget* parent) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
     QPrinter printer(QPrinter::HighResolution);
@@ -199,16 +206,17 @@ std::string previewReport(Session& session, int scope, ReportExtras extras, cons
     return {};
 }
 
-std::string saveReportAsPdf(Session& session, int scope, ReportExtras extras, const Services& services, QWidget*) {
+std::string saveReportAsPdf(Session& session, int scope, ReportExtras& extras, const Services& services, QWidget*) {
     if (!isReady(session, services)) return {};
     const auto reportScope = static_cast<ReportScope>(scope);
     const auto file = services.questions.fileToSave(proposedFile(session, reportScope).toStdString(), "*.pdf", "pdf");
     if (!file) return {};
     try {
+        checkPicture(extras.logo);
         naming(*file, [&] {
             savePdf(
                 *file, [&](Printer& printer) { PrintReport(printer, session, reportScope, now(), extras); },
-                defaultPageLayout(), propertiesOf(session));
+                defaultPageLayout(), propertiesOf(reportTitle(session), kReportSubject));
         });
     } catch (const OutputError& error) {
         services.messages.show(error.what());

@@ -9,6 +9,7 @@
 #include "boxes/undo_keys.h"
 #include "project/project_file.h"
 #include "views/icons.h"
+#include "views/office_fields.h"
 #include "views/printing.h"
 #include "window/about_dialog.h"
 #include "window/help.h"
@@ -207,6 +208,11 @@ void MainWindow::buildPrintMenu() {
         connect(action, &QAction::toggled, this,
                 [this, wanted = chapter.wanted](bool on) { reportExtras_.*wanted = on; });
     }
+    printMenu->addSeparator();
+    loadOffice(services_.settings, reportExtras_);
+    fill(printMenu, {{"mnuPrintFirstPage", "&First page and logo ...", {}, {}, [this] {
+                          editOffice(reportExtras_, services_, this);
+                      }}});
 }
 
 void MainWindow::buildHelpMenu() {

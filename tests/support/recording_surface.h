@@ -48,6 +48,7 @@ public:
     void line(Place from, Place to) override;
     void polyline(std::span<const Place> places) override;
     void polygon(std::span<const Place> places, Colour fill) override;
+    void picture(Place, Place, const std::string&) override {}
     void rectangle(Place corner, Place opposite) override;
     void circle(Place centre, double radius) override;
     void text(Place corner, std::string_view text, TextDirection direction) override;

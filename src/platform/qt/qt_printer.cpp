@@ -1,13 +1,16 @@
 #include "platform/qt/qt_printer.h"
 
 #include <QBuffer>
+#include <QImage>
 #include <QLocale>
 #include <QPdfWriter>
-#include <QRegularExpression>
+#include <QSvgRenderer>
 #include <algorithm>
 
 #include "base/whole_file.h"
+#include "platform/qt/pdf_additions.h"
 #include "platform/qt/saved_bytes.h"
+#include "platform/version.h"
 
 #if __has_include(<pwd.h>)
 #include <pwd.h>
@@ -17,6 +20,7 @@
 namespace borvik {
 namespace {
 
+constexpr int kPagesWithoutOutline = 4;
 constexpr double kMarginMm = 5.0;
 constexpr double kMillimetresPerInch = 25.4;
 
@@ -25,30 +29,6 @@ QString plain(QString text) {
     std::replace_if(
         text.begin(), text.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QChar(' '));
     return text;
-}
-
-/// Adds the author to the properties of a PDF, which the writer leaves without one: the changed properties are appended
-/// with a list of places of their own, as the format provides.
-QByteArray withAuthor(const QByteArray& pdf, const QString& author) {
-    static const QRegularExpression end(
-        QStringLiteral("trailer\\s*<<(.*/Info (\\d+) 0 R.*)>>\\s*startxref\\s*(\\d+)\\s*%%EOF\\s*$"),
-        QRegularExpression::DotMatchesEverythingOption);
-    const auto trailer = end.match(QString::fromLatin1(pdf.mid(pdf.lastIndexOf("trailer"))));
-    if (!trailer.hasMatch()) return pdf;
-    const QByteArray head = trailer.captured(2).toLatin1() + " 0 obj\n<<\n";
-    const qsizetype from = pdf.indexOf(head), to = pdf.indexOf(">>\nendobj", from);
-    if (from < 0 || to < 0) return pdf;
-    QByteArray name("FEFF");
-    for (const QChar c : author) name += QByteArray::number(c.unicode(), 16).rightJustified(4, '0');
-    QByteArray made = pdf;
-    const auto place = [&made] { return QByteArray::number(made.size()); };
-    const QByteArray properties = place();
-    made += pdf.mid(from, to - from) + "/Author <" + name + ">\n>>\nendobj\n";
-    const QByteArray list = place();
-    made += "xref\n" + trailer.captured(2).toLatin1() + " 1\n" + properties.rightJustified(10, '0') +
-            " 00000 n \ntrailer\n<<" + trailer.captured(1).toLatin1() + "/Prev " + trailer.captured(3).toLatin1() +
-            "\n>>\nstartxref\n" + list + "\n%%EOF\n";
-    return made;
 }
 
 /// The document's properties in the form that PDF readers and archives look for.
@@ -60,6 +40,7 @@ QByteArray metadata(const DocumentProperties& properties) {
         "  <rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\""
         " xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\">\n"
         "   <dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt></dc:title>\n"
+        "   <dc:description><rdf:Alt><rdf:li xml:lang=\"x-default\">%4</rdf:li></rdf:Alt></dc:description>\n"
         "   <dc:creator><rdf:Seq><rdf:li>%2</rdf:li></rdf:Seq></dc:creator>\n"
         "   <xmp:CreatorTool>%3</xmp:CreatorTool>\n"
         "  </rdf:Description>\n"
@@ -68,7 +49,7 @@ QByteArray metadata(const DocumentProperties& properties) {
         "<?xpacket end=\"w\"?>\n");
     return xmp
         .arg(plain(properties.title).toHtmlEscaped(), plain(properties.author).toHtmlEscaped(),
-             properties.program.toHtmlEscaped())
+             properties.program.toHtmlEscaped(), plain(properties.subject).toHtmlEscaped())
         .toUtf8();
 }
 
@@ -79,6 +60,11 @@ QtPrinter::QtPrinter(QPagedPaintDevice& device)
 
 void QtPrinter::newPage() {
     if (!device_.newPage()) failed_ = true;
+    ++pages_;
+}
+
+void QtPrinter::chapter(std::string_view title, double down) {
+    chapters_.push_back({QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())), pages_ - 1, down});
 }
 
 Extent QtPrinter::printableArea() const {
@@ -93,6 +79,19 @@ QString documentAuthor() {
     if (const passwd* user = ::getpwuid(::geteuid()); user != nullptr) return QString::fromLocal8Bit(user->pw_name);
 #endif
     return QStringLiteral("Borvik");
+}
+
+DocumentProperties propertiesOf(const std::string& title, const std::string& subject) {
+    return {QString::fromStdString(title), documentAuthor(), QString::fromUtf8(kProgramAndVersion),
+            QString::fromStdString(subject)};
+}
+
+void checkPicture(const std::string& file) {
+    if (file.empty()) return;
+    const QString name = QString::fromStdString(file);
+    const bool isDrawing = name.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+    if (isDrawing ? !QSvgRenderer(name).isValid() : QImage(name).isNull())
+        throw OutputError("the logo " + file + " can't be read as a picture (PNG, JPEG or SVG)");
 }
 
 QPageLayout defaultPageLayout() {
@@ -110,13 +109,20 @@ QByteArray renderPdf(const PrintedDocument& document, const QPageLayout& layout,
     writer.setTitle(plain(properties.title));
     writer.setCreator(properties.program);
     writer.setDocumentXmpMetadata(metadata(properties));
+    PdfAdditions additions{plain(properties.author), plain(properties.subject), {}};
     {
         QtPrinter printer(writer);
         if (!printer.isActive()) return {};
         document(printer);
         if (!printer.end()) return {};
+        if (printer.pages() > kPagesWithoutOutline)
+            for (PdfChapter chapter : printer.chapters()) {
+                const QRectF printed = layout.paintRectPoints();
+                chapter.down = printed.top() + chapter.down * printed.height();
+                additions.outline.push_back(std::move(chapter));
+            }
     }
-    return withAuthor(bytes, plain(properties.author));
+    return amendedPdf(bytes, additions);
 }
 
 void savePdf(const std::string& fileName, const PrintedDocument& document, const QPageLayout& layout,

@@ -4,7 +4,9 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QHash>
+#include <QImage>
 #include <QPolygonF>
+#include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -150,6 +152,23 @@ void QtSurface::polygon(std::span<const Place> places, Colour fill) {
 
 void QtSurface::rectangle(Place corner, Place opposite) {
     painter_.drawRect(QRectF(toArea(corner), toArea(opposite)).normalized());
+}
+
+void QtSurface::picture(Place corner, Place opposite, const std::string& file) {
+    const QRectF box = QRectF(toArea(corner), toArea(opposite)).normalized();
+    const auto fitted = [&box](QSizeF size) {
+        QRectF room(QPointF(), size.scaled(box.size(), Qt::KeepAspectRatio));
+        room.moveCenter(box.center());
+        return room;
+    };
+    const QString name = QString::fromStdString(file);
+    if (name.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+        QSvgRenderer drawing(name);
+        if (drawing.isValid()) drawing.render(&painter_, fitted(drawing.defaultSize()));
+        return;
+    }
+    const QImage image(name);
+    if (!image.isNull()) painter_.drawImage(fitted(image.size()), image);
 }
 
 void QtSurface::circle(Place centre, double radius) {

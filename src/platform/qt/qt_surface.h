@@ -40,6 +40,7 @@ public:
     void polyline(std::span<const Place> places) override;
     void polygon(std::span<const Place> places, Colour fill) override;
     void rectangle(Place corner, Place opposite) override;
+    void picture(Place corner, Place opposite, const std::string& file) override;
     void circle(Place centre, double radius) override;
     void text(Place corner, std::string_view text, TextDirection direction) override;
     [[nodiscard]] Extent extent(std::string_view text, TextDirection direction) const override;
