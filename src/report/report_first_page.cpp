@@ -55,9 +55,11 @@ private:
 std::string walkText(const Project& project) {
     const std::string what = project.CraneType == CraneKind::Monorail ? "hoist" : "crane";
     const std::string all = project.NofCranes == 2 ? "Both " + what + "s" : "The " + what;
-    if (project.Fixerad) return all + (project.NofCranes == 2 ? " stand" : " stands") + " at the position of the input.";
+    if (project.Fixerad)
+        return all + (project.NofCranes == 2 ? " stand" : " stands") + " at the position of the input.";
     return all + (project.NofCranes == 2 ? " are" : " is") +
-           " moved along the beam in steps of 200 mm; internal forces, deflections and stresses are taken at 21 points of "
+           " moved along the beam in steps of 200 mm; internal forces, deflections and stresses are taken at 21 points "
+           "of "
            "every span and kept where they are extreme.";
 }
 

@@ -11,7 +11,8 @@ namespace borvik {
 void loadOffice(const SettingsStore& settings, ReportExtras& extras);
 void saveOffice(SettingsStore& settings, const ReportExtras& extras);
 
-/// The tick for the first page, a box for each text of it and the file of the logo. Each change is in the extras at once.
+/// The tick for the first page, a box for each text of it and the file of the logo. Each change is in the extras at
+/// once.
 class OfficeFields : public QWidget {
 public:
     /// @param extras  live longer than this

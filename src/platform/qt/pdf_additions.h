@@ -19,8 +19,8 @@ struct PdfAdditions {
     std::vector<PdfChapter> outline;  ///< empty: none
 };
 
-/// Adds to a PDF as Qt writes it, in the way that the format provides: changed and new objects are appended, with a list
-/// of places of their own. A file of another build is given back as it came.
+/// Adds to a PDF as Qt writes it, in the way that the format provides: changed and new objects are appended, with a
+/// list of places of their own. A file of another build is given back as it came.
 [[nodiscard]] QByteArray amendedPdf(const QByteArray& pdf, const PdfAdditions& additions);
 
 }  // namespace borvik
