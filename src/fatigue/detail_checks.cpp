@@ -140,10 +140,11 @@ private:
     [[nodiscard]] Summand summand(const Term& term, double range) const;
     [[nodiscard]] double category(std::int16_t Project::*field) const { return project_.*field; }
     void addCrane(Damage& damage, int crane, const StressSet& set, const Place& place, const LocalStress& local) const;
-    void addEachSet(Damage& damage, const Place& place, const LocalStress& local) const;
-    void addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const;
-    void addBottomFlangeWeld(Damage& damage, const Place& place) const;
-    [[nodiscard]] Damage damageAt(const Place& place, const LocalStress& local) const;
+    void addEachSet(Damage& damage, const Place& place, const LocalStress& local, Working working) const;
+    void addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local, Working working) const;
+    void addBottomFlangeWeld(Damage& damage, const Place& place, Working working) const;
+    /// @param working  where the D values of cranes that act together are explained
+    [[nodiscard]] Damage damageAt(const Place& place, const LocalStress& local, Working working = {}) const;
     [[nodiscard]] std::string numbers(const Damage& damage) const;
 
     [[nodiscard]] std::array<CraneStand, 2> standsFor(const Place& place) const;
@@ -155,7 +156,7 @@ private:
     };
     [[nodiscard]] Governing governingOf(int row, RowSet& texts) const;
     void explainRange(const Term& term, int crane, const StressSet& set, const Place& place, Working working) const;
-    void explainSummand(const Summand& summand, const std::string& number, Working working) const;
+    void explainD(const Term& term, double value, std::size_t number, Working working) const;
     void check(int row, RowSet& texts) const;
 
     const Detail& detail_;
@@ -300,17 +301,25 @@ Summand stored(double D, int exponent) {
     return {.D = Single(D), .exponent = exponent};
 }
 
-void DetailCheck::addEachSet(Damage& damage, const Place& place, const LocalStress& local) const {
+void DetailCheck::addEachSet(Damage& damage, const Place& place, const LocalStress& local, Working working) const {
     const Term& term = detail_.terms[0];
-    for (const StressSet* set : {&in_.Cr1, &in_.Cr2, &in_.Cr12}) {
-        damage.add(stored(summand(term, range(term, 1, *set, place, local)).D, term.exponent));
+    const char* const names[] = {"Crane 1", "Crane 2", "Both cranes"};
+    const StressSet* const sets[] = {&in_.Cr1, &in_.Cr2, &in_.Cr12};
+    for (std::size_t i = 0; i < std::size(sets); ++i) {
+        const Summand each = summand(term, range(term, 1, *sets[i], place, local));
+        damage.add(stored(each.D, term.exponent));
+        if (!working) continue;
+        working.heading(names[i]);
+        explainRange(term, 1, *sets[i], place, working);
+        explainD(term, each.D, damage.count, working);
     }
 }
 
 /// The weld of top flange and web under the larger of the two cranes' wheels. Factors are crossed over between the
 /// cranes, and differently for a fillet weld (all direct terms with the factor of both cranes); crane 1's shear is that
 /// of both cranes; no throat factor applies to the web's shear; LamTauN of both cranes is read by nothing. Note G11.
-void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local) const {
+void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const LocalStress& local,
+                                   Working working) const {
     const auto& [Cr1, Cr2, Cr12] = in_.factors;
     const double F1 = largestWheel(project_, 1);
     const double F2 = largestWheel(project_, 2);
@@ -327,40 +336,62 @@ void DetailCheck::addTopFlangeWeld(Damage& damage, const Place& place, const Loc
         {fillet ? Cr12.LamSigN : Cr2.LamSigN, Cr2.LamTauN, in_.Cr12},
     };
     const auto& [direct, shear] = detail_.terms;
+    if (working) working.heading("Both cranes together, note G11");
+    working.given("F", F, "kN", "largest wheel of both cranes times phi_fat");
     for (const Crane& crane : cranes) {
         const double s = local.wheel.spread.stress(crane.LamSigN, F);
         const double t = local.wheel.spread.stress(kLocalShear * crane.LamTauN, F);
-        damage.add(stored(summand(direct, s).D, direct.exponent));
-        damage.add(stored(summand(shear, t + stressAt(crane.set.TauRange, place)).D, shear.exponent));
+        const double web = stressAt(crane.set.TauRange, place);
+        const Summand ofDirect = summand(direct, s), ofShear = summand(shear, t + web);
+        damage.add(stored(ofDirect.D, direct.exponent));
+        working.given("lambda_sN", crane.LamSigN, "", "lambda times N^(1/3)");
+        working.step("range", "lambda_sN*F*10^3/leff/tw1", s, "MPa", "EN 1993-6 5.7.1");
+        explainD(direct, ofDirect.D, damage.count, working);
+        damage.add(stored(ofShear.D, shear.exponent));
+        working.given("lambda_tN", crane.LamTauN, "", "lambda times N^(1/5)");
+        working.given("tau_web", web, "MPa", "range of the walk, lambda included");
+        working.step("range", "0.4*lambda_tN*F*10^3/leff/tw1 + tau_web", t + web, "MPa", "EN 1993-6 5.7.2");
+        explainD(shear, ofShear.D, damage.count, working);
     }
 }
 
 /// The web's shear in the weld W2, here with the load factor inside the power. A fillet weld takes the throat factor of
 /// W1 in addition, and a full penetration weld keeps the throat factor of its own: note G12.
-void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place) const {
+void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place, Working working) const {
     const Term& term = detail_.terms[0];
     const double GammaFf = project_.GammaFf;
     const double tw = project_.SpanSection(place.span).tw;
     const double C = category(term.category) / project_.GammaMf;
     const double load = project_.W2 == kFilletWeld ? tw * GammaFf / (2.0 * project_.W1a) : GammaFf;
+    if (working) working.heading("Both cranes together, note G12");
+    working.given("tw", tw, "mm");
+    working.given("a1", project_.W1a, "mm", "throat of the weld at the top flange");
+    working.given("a2", project_.W2a, "mm", "throat of the weld");
+    working.given("C", category(term.category), "MPa", "category of the detail");
+    const char* const formula = project_.W2 == kFilletWeld ? "tw*gamma_Ff/(2*a1)*range*tw/(2*a2)/(C/gamma_Mf)"
+                                                           : "gamma_Ff*range*tw/(2*a2)/(C/gamma_Mf)";
     for (const StressSet* set : {&in_.Cr1, &in_.Cr2, &in_.Cr12}) {
         const double r = stressAt(set->TauRange, place);
-        damage.add(stored(load * r * tw / (2.0 * project_.W2a) / C, term.exponent));
+        const double D = load * r * tw / (2.0 * project_.W2a) / C;
+        damage.add(stored(D, term.exponent));
+        working.given("range", r, "MPa", "of the walk, lambda included");
+        if (working)
+            working.step(("D_" + std::to_string(damage.count)).c_str(), formula, D, "", "EN 1993-1-9 8(3)");
     }
 }
 
-Damage DetailCheck::damageAt(const Place& place, const LocalStress& local) const {
+Damage DetailCheck::damageAt(const Place& place, const LocalStress& local, Working working) const {
     Damage damage;
     if (cranes_ == Cranes::Together) {
         switch (detail_.together) {
             case Together::EachSet:
-                addEachSet(damage, place, local);
+                addEachSet(damage, place, local, working);
                 break;
             case Together::TopFlangeWeld:
-                addTopFlangeWeld(damage, place, local);
+                addTopFlangeWeld(damage, place, local, working);
                 break;
             case Together::BottomFlangeWeld:
-                addBottomFlangeWeld(damage, place);
+                addBottomFlangeWeld(damage, place, working);
                 break;
         }
         return damage;
@@ -498,22 +529,20 @@ void DetailCheck::explainRange(const Term& term, int crane, const StressSet& set
         working.step("range", formula.c_str(), taken, "MPa");
 }
 
-void DetailCheck::explainSummand(const Summand& summand, const std::string& number, Working working) const {
-    const std::string D = "D_" + number;
-    if (summand.term == nullptr) {
-        working.given(D.c_str(), summand.D, "", "chapter 12 of the manual");
-        return;
-    }
-    working.given("C", category(summand.term->category), "MPa", "category of the detail");
-    switch (summand.term->factors) {
+/// The D value of a term from its range. @param number  of the D value, from 1
+void DetailCheck::explainD(const Term& term, double value, std::size_t number, Working working) const {
+    if (!working) return;
+    const std::string D = "D_" + std::to_string(number);
+    working.given("C", category(term.category), "MPa", "category of the detail");
+    switch (term.factors) {
         case Factors::Usual:
-            working.step(D.c_str(), "gamma_Ff*range/(C/gamma_Mf)", summand.D, "", "EN 1993-1-9 8(3)");
+            working.step(D.c_str(), "gamma_Ff*range/(C/gamma_Mf)", value, "", "EN 1993-1-9 8(3)");
             break;
         case Factors::LoadOutside:
-            working.step(D.c_str(), "range/(C/gamma_Mf)", summand.D, "", "note G4");
+            working.step(D.c_str(), "range/(C/gamma_Mf)", value, "", "note G4");
             break;
         case Factors::CategoryDivided:
-            working.step(D.c_str(), "range*gamma_Ff/C/gamma_Mf", summand.D, "", "note G3");
+            working.step(D.c_str(), "range*gamma_Ff/C/gamma_Mf", value, "", "note G3");
             break;
     }
 }
@@ -537,6 +566,8 @@ void DetailCheck::explain(int row, Working working) const {
     (void)localStress(place, working);
     const std::string where = placeText(place);
     working.heading(("Place" + where.substr(where.find('(') + 1, where.find(')') - where.find('(') - 1)).c_str());
+    // Of cranes that act together the D values are explained where they are made.
+    if (cranes_ == Cranes::Together) (void)damageAt(place, localStress(place), working);
     std::string sum;
     for (std::size_t i = 0; i < governing.count; ++i) {
         const Summand& summand = governing.summands[i];
@@ -547,8 +578,8 @@ void DetailCheck::explain(int row, Working working) const {
             const int crane = i < terms ? 1 : 2;
             working.heading(crane == 1 ? "Stress range of crane 1" : "Stress range of crane 2");
             explainRange(*summand.term, crane, crane == 1 ? in_.Cr1 : in_.Cr2, place, working);
+            explainD(*summand.term, summand.D, i + 1, working);
         }
-        explainSummand(summand, number, working);
         sum += (i == 0 ? "" : " + ") + std::string(summand.factor != 1.0 ? "gamma_Ff*" : "") + "D_" + number + "^" +
                std::to_string(summand.exponent);
     }

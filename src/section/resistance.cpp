@@ -201,7 +201,7 @@ void SectionResistance(const SectionSetting& setting, SectionRecord& s, Working 
     working.step("epsilon", "sqrt(235/fyk)", setting.Epsilon, "", "EN 1993-1-1 Table 5.2");
     if (s.Reinforced) ReinforcedProperties(setting, s);
     Classify(setting.Epsilon, s, working);
-    if (s.ClassPos == 4 || s.ClassNeg == 4) EffectiveSection(setting.Epsilon, s);
+    if (s.ClassPos == 4 || s.ClassNeg == 4) EffectiveSection(setting.Epsilon, s, working);
     setMomentResistances(setting, s, working);
     setShearResistances(setting, s, working);
 }

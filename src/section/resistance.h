@@ -17,7 +17,7 @@ void Classify(double Epsilon, SectionRecord& section, Working working = {});
 
 /// The effective section of class 4 under either sign of the moment: WeffTopPos, WeffBottomPos, EzEffPos, WeffTopNeg,
 /// WeffBottomNeg, EzEffNeg. Source: EN 1993-1-5, 4.4.
-void EffectiveSection(double Epsilon, SectionRecord& section);
+void EffectiveSection(double Epsilon, SectionRecord& section, Working working = {});
 
 /// Shear buckling factor chi_w of the web, EN 1993-1-5 Table 5.1.
 /// @param lambdaW        slenderness of the web, > 0
