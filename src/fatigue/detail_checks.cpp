@@ -375,8 +375,7 @@ void DetailCheck::addBottomFlangeWeld(Damage& damage, const Place& place, Workin
         const double D = load * r * tw / (2.0 * project_.W2a) / C;
         damage.add(stored(D, term.exponent));
         working.given("range", r, "MPa", "of the walk, lambda included");
-        if (working)
-            working.step(("D_" + std::to_string(damage.count)).c_str(), formula, D, "", "EN 1993-1-9 8(3)");
+        if (working) working.step(("D_" + std::to_string(damage.count)).c_str(), formula, D, "", "EN 1993-1-9 8(3)");
     }
 }
 

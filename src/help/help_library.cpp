@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "help/formula_object.h"
+#include "formulas/formula_object.h"
 
 namespace borvik {
 

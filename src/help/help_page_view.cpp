@@ -5,28 +5,15 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLabel>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
-#include "help/formula_object.h"
 #include "help/help_library.h"
 
 namespace borvik {
-
-QMimeData* HelpPageView::createMimeDataFromSelection() const {
-    QTextDocument copied;
-    QTextCursor(&copied).insertFragment(textCursor().selection());
-    putFormulasOnOneLine(copied);
-    auto* copy = new QMimeData;
-    copy->setText(copied.toPlainText());
-    copy->setHtml(copied.toHtml());
-    return copy;
-}
 
 void HelpPageView::fitPicturesToPage(bool all) {
     const int bar = verticalScrollBar()->isVisible() ? 0 : verticalScrollBar()->sizeHint().width();
@@ -38,7 +25,7 @@ void HelpPageView::fitPicturesToPage(bool all) {
 
 void HelpPageView::resizeEvent(QResizeEvent* event) {
     fitPicturesToPage(false);
-    QTextBrowser::resizeEvent(event);
+    FormulaBrowser::resizeEvent(event);
 }
 
 QString HelpPageView::smallPictureAt(QPoint point) const {
@@ -50,12 +37,12 @@ QString HelpPageView::smallPictureAt(QPoint point) const {
 }
 
 void HelpPageView::mouseMoveEvent(QMouseEvent* event) {
-    QTextBrowser::mouseMoveEvent(event);
+    FormulaBrowser::mouseMoveEvent(event);
     if (!smallPictureAt(event->pos()).isEmpty()) viewport()->setCursor(Qt::PointingHandCursor);
 }
 
 void HelpPageView::mouseReleaseEvent(QMouseEvent* event) {
-    QTextBrowser::mouseReleaseEvent(event);
+    FormulaBrowser::mouseReleaseEvent(event);
     if (event->button() != Qt::LeftButton || textCursor().hasSelection()) return;
     if (const QString file = smallPictureAt(event->pos()); !file.isEmpty()) showInFull(file);
 }

@@ -1,22 +1,21 @@
 #pragma once
 
-#include <QTextBrowser>
+#include "formulas/formula_browser.h"
 
 namespace borvik {
 
-/// A page of the help. What is copied from it has its formulas as text. Its pictures are as wide as the page at most; a
+/// A page of the help. Its pictures are as wide as the page at most; a
 /// click on one that has been made smaller shows it in full.
-class HelpPageView : public QTextBrowser {
+class HelpPageView : public FormulaBrowser {
     Q_OBJECT
 
 public:
-    using QTextBrowser::QTextBrowser;
+    using FormulaBrowser::FormulaBrowser;
 
     /// Gives the pictures the width that the page has now. @param all  also when the width is what it was
     void fitPicturesToPage(bool all);
 
 protected:
-    QMimeData* createMimeDataFromSelection() const override;
     void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

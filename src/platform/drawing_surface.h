@@ -77,6 +77,15 @@ public:
     [[nodiscard]] double textWidth(std::string_view text) const { return extent(text).width; }
     [[nodiscard]] double textHeight() const { return extent("H").height; }
 
+    /// What a formula covers in the current font.
+    struct FormulaExtent {
+        double width = 0.0, above = 0.0, below = 0.0;  ///< of the baseline
+    };
+    /// @param tex  in the part of TeX that the manuals use
+    [[nodiscard]] virtual FormulaExtent formulaExtent(std::string_view tex) const = 0;
+    /// @param start  left end of the baseline
+    virtual void formula(Place start, std::string_view tex) = 0;
+
     virtual void setFont(const Font& font) = 0;
     /// Colour of lines and text.
     virtual void setColour(Colour colour) = 0;

@@ -39,6 +39,10 @@ public:
     [[nodiscard]] Extent extent(std::string_view text, TextDirection direction) const override {
         return measure_.extent(text, direction);
     }
+    [[nodiscard]] FormulaExtent formulaExtent(std::string_view tex) const override {
+        return measure_.formulaExtent(tex);
+    }
+    void formula(Place, std::string_view) override {}
     void setFont(const Font& font) override { measure_.setFont(font); }
     void setColour(Colour colour) override { measure_.setColour(colour); }
     void setFill(std::optional<Colour> fill) override { measure_.setFill(fill); }

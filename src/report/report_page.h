@@ -94,13 +94,14 @@ public:
     std::function<void()> afterBreak;
 
     [[nodiscard]] DrawingSurface& surface() const { return printer_.page(); }
+    /// Font and colour of what is drawn on the surface next.
+    void setStyle(TextStyle style) const;
     /// Millimetres of a character cell and of a line.
     [[nodiscard]] Extent cell() const;
 
 private:
     void gridScale() const;
     void listBelowDiagram(const std::vector<std::string>& values, double linesAbove);
-    void setStyle(TextStyle style) const;
     void headLine(std::string_view left, std::string_view right);
     /// Bytes of the characters that fit into a width, at least one character.
     [[nodiscard]] std::size_t fitting(std::string_view text, double blockWidth) const;

@@ -1,6 +1,22 @@
 #include "results/values_text.h"
 
+#include <utility>
+
+#include "results/working_tex.h"
+
 namespace borvik {
+
+namespace {
+
+/// "mm³" of "mm3".
+std::string raised(std::string unit) {
+    for (const auto& [plain, shown] :
+         {std::pair("mm2", "mm\u00b2"), {"mm3", "mm\u00b3"}, {"mm4", "mm\u2074"}, {"mm6", "mm\u2076"}})
+        if (unit == plain) return shown;
+    return unit;
+}
+
+}  // namespace
 
 std::vector<WorkingLine> linesOf(const CheckWorking& working) {
     std::vector<WorkingLine> lines;
@@ -16,6 +32,13 @@ std::vector<WorkingLine> linesOf(const CheckWorking& working) {
             if (line.numbers == workingNumber(step.value)) line.numbers.clear();
         }
         line.clause = step.clause;
+        if (!step.isHeading) {
+            const std::string unit = step.unit.empty() ? "" : "\\text{ " + raised(step.unit) + "}";
+            const std::string result = " = " + texOf(workingNumber(step.value)) + unit;
+            line.tex = texOf(step.symbol) + (step.formula.empty() ? result : " = " + texOf(step.formula));
+            if (!step.formula.empty())
+                line.numbersTex = (line.numbers.empty() ? "" : " = " + texOf(withNumbers(working.steps, i))) + result;
+        }
         lines.push_back(std::move(line));
     }
     return lines;

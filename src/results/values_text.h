@@ -15,6 +15,8 @@ struct WorkingLine {
     std::string result;   ///< "0.6402", with its unit
     std::string clause;
     bool isHeading = false;
+    std::string tex;         ///< symbol and formula as they are set on paper; of a given number with the number
+    std::string numbersTex;  ///< "= numbers = result"; empty where there is no formula
 };
 [[nodiscard]] std::vector<WorkingLine> linesOf(const CheckWorking& working);
 

@@ -76,9 +76,9 @@ void explainHole(double rho, double wc, Working working) {
 
 void effectivePositive(double e, SectionRecord& s, Working working) {
     working.heading("Effective section, positive moment: top flange");
-    const double rhoFlange =
-        s.Reinforced ? internalReduction(plateSlenderness(s.CTop, s.tf1, 4.0, e, working), 1.0, working)
-                     : outstandFlangeReduction(s.CTop, s.tf1, e, working);
+    const double rhoFlange = s.Reinforced
+                                 ? internalReduction(plateSlenderness(s.CTop, s.tf1, 4.0, e, working), 1.0, working)
+                                 : outstandFlangeReduction(s.CTop, s.tf1, e, working);
     const double d1 = (1.0 - rhoFlange) * s.CTop;  // lost at either side of the top flange
     const double A1 = s.A - 2.0 * d1 * s.tf1;
     // The lever of the lost flange takes tf2: this first axis only
@@ -114,9 +114,8 @@ void effectivePositive(double e, SectionRecord& s, Working working) {
     working.step("zh", "z1 + wc - 0.4*beff - hole/2", zHole, "mm", "middle of what is lost");
     working.step("A2", "A1 - tw*hole", A2, "mm2");
     working.step("z2", "(ez*A - tw*hole*zh - 2*d*tf1*(h - tf1/2))/A2", z2, "mm");
-    working.step("Ieff",
-                 "ez^2*A + Iy - hole^3*tw/12 - zh^2*tw*hole - 2*d*tf1^3/12 - (h - tf1/2)^2*2*d*tf1 - A2*z2^2", Ieff,
-                 "mm4");
+    working.step("Ieff", "ez^2*A + Iy - hole^3*tw/12 - zh^2*tw*hole - 2*d*tf1^3/12 - (h - tf1/2)^2*2*d*tf1 - A2*z2^2",
+                 Ieff, "mm4");
     working.step("Wtop", "Ieff/(h - z2)", Ieff / (s.h - z2), "mm3", "EN 1993-1-5 4.4");
     working.step("Wbottom", "Ieff/z2", Ieff / z2, "mm3");
     s.WeffTopPos = Ieff / (s.h - z2);
@@ -161,8 +160,8 @@ void effectiveNegative(double e, SectionRecord& s, Working working) {
     working.step("zh", "z1 - 0.6*beff - hole/2", zHole, "mm", "middle of what is lost");
     working.step("A2", "A1 - tw*hole", A2, "mm2");
     working.step("z2", "(ez*A - tw*hole*zh - tf2^2*2*d)/A2", z2, "mm", "manual, B6");
-    working.step("Ieff", "ez^2*A + Iy - hole^3*tw/12 - zh^2*tw*hole - tf2^3*2*d/12 - (tf2/2)^2*2*d*tf2 - A2*z2^2",
-                 Ieff, "mm4");
+    working.step("Ieff", "ez^2*A + Iy - hole^3*tw/12 - zh^2*tw*hole - tf2^3*2*d/12 - (tf2/2)^2*2*d*tf2 - A2*z2^2", Ieff,
+                 "mm4");
     working.step("Wbottom", "Ieff/z2", Ieff / z2, "mm3", "EN 1993-1-5 4.4");
     working.step("Wtop", "Ieff/(h - z2)", Ieff / (s.h - z2), "mm3");
     s.WeffBottomNeg = Ieff / z2;

@@ -49,6 +49,13 @@ public:
     void polyline(std::span<const Place> places) override;
     void polygon(std::span<const Place> places, Colour fill) override;
     void picture(Place, Place, const std::string&) override {}
+    [[nodiscard]] FormulaExtent formulaExtent(std::string_view tex) const override {
+        const Extent box = extent(tex, TextDirection::Across);
+        return {box.width, 0.8 * box.height, 0.2 * box.height};
+    }
+    void formula(Place start, std::string_view tex) override {
+        text({start.x, start.y - formulaExtent(tex).above}, tex, TextDirection::Across);
+    }
     void rectangle(Place corner, Place opposite) override;
     void circle(Place centre, double radius) override;
     void text(Place corner, std::string_view text, TextDirection direction) override;

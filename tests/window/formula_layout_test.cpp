@@ -1,4 +1,4 @@
-#include "help/formula_layout.h"
+#include "formulas/formula_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,8 @@
 #include <QTextLayout>
 #include <memory>
 
-#include "help/formula_object.h"
-#include "help/formula_text.h"
+#include "formulas/formula_object.h"
+#include "formulas/formula_text.h"
 #include "help/help_library.h"
 
 namespace borvik {

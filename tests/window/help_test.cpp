@@ -15,8 +15,8 @@
 #include <functional>
 
 #include "dialogs/dialogs.h"
-#include "help/formula_object.h"
-#include "help/formula_text.h"
+#include "formulas/formula_object.h"
+#include "formulas/formula_text.h"
 #include "help/help_window.h"
 #include "platform/messages.h"
 #include "views/detailed_result_dialog.h"

@@ -200,12 +200,32 @@ Extent QtSurface::extent(std::string_view text, TextDirection direction) const {
     return {high * unitsX, *wide * unitsY};
 }
 
+const FormulaBox& QtSurface::laid(std::string_view tex) const {
+    const QString whole = toQt(tex);
+    auto found = formulas_.find(whole);
+    if (found == formulas_.end())
+        found = formulas_.insert(
+            whole, layFormula(readFormula(whole), painter_.font(), painter_.device(), FormulaStyle::Display));
+    return *found;
+}
+
+DrawingSurface::FormulaExtent QtSurface::formulaExtent(std::string_view tex) const {
+    const FormulaBox& box = laid(tex);
+    const double unitsX = frame_.width() / area_.width(), unitsY = frame_.height() / area_.height();
+    return {(box.width + box.overhang) * unitsX, box.ascent * unitsY, box.descent * unitsY};
+}
+
+void QtSurface::formula(Place start, std::string_view tex) {
+    drawFormula(painter_, laid(tex), toArea(start));
+}
+
 void QtSurface::setFont(const Font& font) {
     const QFont wanted = toQt(font, textScale_);
     if (wanted == painter_.font()) return;
     painter_.setFont(wanted);
     metrics_ = QFontMetricsF(painter_.font(), painter_.device());
     advances_.clear();
+    formulas_.clear();
 }
 
 void QtSurface::setColour(Colour colour) {

@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QRectF>
 
+#include "formulas/formula_layout.h"
 #include "platform/drawing_surface.h"
 
 namespace borvik {
@@ -44,6 +45,8 @@ public:
     void circle(Place centre, double radius) override;
     void text(Place corner, std::string_view text, TextDirection direction) override;
     [[nodiscard]] Extent extent(std::string_view text, TextDirection direction) const override;
+    [[nodiscard]] FormulaExtent formulaExtent(std::string_view tex) const override;
+    void formula(Place start, std::string_view tex) override;
     void setFont(const Font& font) override;
     void setColour(Colour colour) override;
     void setFill(std::optional<Colour> fill) override;
@@ -57,6 +60,7 @@ public:
 private:
     [[nodiscard]] QPointF toArea(Place place) const;
     void applyPen();
+    [[nodiscard]] const FormulaBox& laid(std::string_view tex) const;
 
     QPainter& painter_;
     QRectF area_;
@@ -64,8 +68,9 @@ private:
     Ground ground_;
     QRectF frame_{0.0, 0.0, 1.0, 1.0};
     QPen pen_;
-    QFontMetricsF metrics_;                    ///< of the present font
-    mutable QHash<QString, double> advances_;  ///< of texts measured in it: placing labels asks many times
+    QFontMetricsF metrics_;                        ///< of the present font
+    mutable QHash<QString, double> advances_;      ///< of texts measured in it: placing labels asks many times
+    mutable QHash<QString, FormulaBox> formulas_;  ///< set in it: measured first, then drawn
 };
 
 }  // namespace borvik

@@ -1,8 +1,8 @@
-#include "help/formula_text.h"
+#include "formulas/formula_text.h"
 
 #include <QRegularExpression>
 
-#include "help/formula.h"
+#include "formulas/formula.h"
 
 namespace borvik {
 

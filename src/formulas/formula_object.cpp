@@ -1,4 +1,4 @@
-#include "help/formula_object.h"
+#include "formulas/formula_object.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetrics>
@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "help/formula_layout.h"
-#include "help/formula_text.h"
+#include "formulas/formula_layout.h"
+#include "formulas/formula_text.h"
 
 namespace borvik {
 

@@ -1,4 +1,4 @@
-#include "help/formula.h"
+#include "formulas/formula.h"
 
 #include <QHash>
 #include <utility>

@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-#include "help/formula.h"
+#include "formulas/formula.h"
 
 class QPainter;
 

@@ -1,4 +1,4 @@
-#include "help/formula_layout.h"
+#include "formulas/formula_layout.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
