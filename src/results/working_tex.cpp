@@ -11,7 +11,8 @@ namespace {
 constexpr std::array<std::string_view, 14> kGreek{"alpha", "beta", "gamma", "epsilon", "eta", "lambda", "mu",
                                                   "pi",    "rho",  "sigma", "tau",     "phi", "chi",    "psi"};
 /// Names that are words, not a letter with an index.
-constexpr std::array<std::string_view, 9> kWords{"root", "ratio", "limit", "class", "range", "hole", "max_", "min_", "IR"};
+constexpr std::array<std::string_view, 9> kWords{"root", "ratio", "limit", "class", "range",
+                                                 "hole", "max_",  "min_",  "IR"};
 
 template <class List>
 bool isIn(const List& list, std::string_view name) {
@@ -109,7 +110,8 @@ private:
         if (take('-')) return {"-" + bracketed(power()), true};
         const Piece base = item();
         if (!take('^')) return base;
-        const bool isOne = !base.isSum && !base.tex.starts_with("\\frac") && base.tex.find("\\cdot") == std::string::npos;
+        const bool isOne =
+            !base.isSum && !base.tex.starts_with("\\frac") && base.tex.find("\\cdot") == std::string::npos;
         return {(isOne ? base.tex : "\\left(" + base.tex + "\\right)") + "^{" + power().tex + "}"};
     }
     Piece item() {
@@ -121,8 +123,9 @@ private:
         const char first = next();
         const std::size_t from = at_;
         if (std::isalpha(static_cast<unsigned char>(first)) == 0) {
-            while (at_ < text_.size() && (std::isalnum(static_cast<unsigned char>(text_[at_])) != 0 || text_[at_] == '.' ||
-                                          (text_[at_] == '-' && at_ > from && text_[at_ - 1] == 'E')))
+            while (at_ < text_.size() &&
+                   (std::isalnum(static_cast<unsigned char>(text_[at_])) != 0 || text_[at_] == '.' ||
+                    (text_[at_] == '-' && at_ > from && text_[at_ - 1] == 'E')))
                 ++at_;
             if (at_ == from) return {};
             return {numberOf(text_.substr(from, at_ - from))};

@@ -199,6 +199,16 @@ Project scrapYard(const ReferenceTables&, Project project) {
     return project;
 }
 
+/// The wheels, span and load factor of a printed calculation by others: docs/validation.md, "By others". Without side
+/// loads, which it has not.
+Project publishedWheels(const ReferenceTables& tables, Project project) {
+    setTitle(project, "Published calculation", "Two wheels on one span, docs/validation.md");
+    setSpans(project, {6000}, rolled(tables, "HEA 300", project.SpanSection(1)));
+    setCrane1(project, {{28.95, 28.95}, {0, 0}, {2000}, 1.0, 1.0});
+    setSplices(project, {});
+    return project;
+}
+
 }  // namespace
 
 std::vector<Example> Examples(const ReferenceTables& tables) {
@@ -212,6 +222,7 @@ std::vector<Example> Examples(const ReferenceTables& tables) {
         {"pump-station-monorail.brvk", monorail(tables, start)},
         {"service-centre-plate-girder.brvk", plateGirder(tables, start)},
         {"scrap-yard-process-crane.brvk", scrapYard(tables, start)},
+        {"published-two-wheels.brvk", publishedWheels(tables, start)},
     };
 }
 
