@@ -33,7 +33,8 @@ private:
     std::string fault(const Json& value, const Json& rule, const std::string& at) {
         for (const auto& [key, content] : rule.items()) {
             if (key == "description" || key == "title" || key == "$schema" || key == "$defs") continue;
-            if (key == "$ref") return fault(value, schema_.at(Json::json_pointer(content.get<std::string>().substr(1))), at);
+            if (key == "$ref")
+                return fault(value, schema_.at(Json::json_pointer(content.get<std::string>().substr(1))), at);
             const std::string found = keyword(value, rule, key, content, at);
             if (!found.empty()) return found;
         }
