@@ -82,7 +82,8 @@ CFactors positiveFactors(const Project& project, int span) {
     return {project.C1MidPos, project.C2MidPos, project.C3MidPos};
 }
 
-std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support) {
+std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support,
+                                        Working working) {
     const double MySupport = support(span, 1), MyField = support(span, 2), MyOther = support(span, 3);
     // The moment changes sign within the span: diagram and load as for the positive case.
     if (MyField > 0) return positiveFactors(project, span);
@@ -94,7 +95,12 @@ std::optional<CFactors> negativeFactors(const Project& project, int span, const 
     }
     if (neverNegative) return std::nullopt;
     const double psi = MyOther / MySupport;
-    return CFactors{1.77 - 1.04 * psi + 0.27 * std::pow(psi, 2), 0, project.C3MidNeg};
+    const double C1 = 1.77 - 1.04 * psi + 0.27 * std::pow(psi, 2);
+    working.given("M1", MySupport / 1e6, "kNm", "of the walk, at the support");
+    working.given("M2", MyOther / 1e6, "kNm", "at the other support, same position");
+    working.step("psi", "M2/M1", psi);
+    working.step("C1", "1.77 - 1.04*psi + 0.27*psi^2", C1, "", "manual, chapter 10");
+    return CFactors{C1, 0, project.C3MidNeg};
 }
 
 Single criticalMoment(const Project& project, int span, bool positive, const CFactors& factors, Working working) {
@@ -139,7 +145,7 @@ Single positiveReduction(const Project& project, int span, Working working) {
 }
 
 Single negativeReduction(const Project& project, int span, const Table<Single>& support, Working working) {
-    const std::optional<CFactors> factors = negativeFactors(project, span, support);
+    const std::optional<CFactors> factors = negativeFactors(project, span, support, working);
     if (factors) return ltbReduction(project, span, false, *factors, working);
     working.given("chi_LT", 1.0, "", "no support moment is negative");
     return 1.0;

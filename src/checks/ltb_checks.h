@@ -20,7 +20,8 @@ struct CFactors {
 /// an end span and 1.77 - 1.04 psi + 0.27 psi^2 in others.
 /// @param support  MySupportSpan: 1 the support moment, 2 the moment in the span, 3 that at the other end
 /// @return         nullopt where no support moment is negative
-[[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support);
+[[nodiscard]] std::optional<CFactors> negativeFactors(const Project& project, int span, const Table<Single>& support,
+                                                      Working working = {});
 
 /// Critical moment by the three factors, Nmm, with the whole span as unbraced length.
 /// @param positive  true: the top flange is in compression
