@@ -7,8 +7,10 @@
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
 #include "console.h"
+#include "exchange/attached.h"
 #include "exchange/input_json.h"
 #include "exit_codes.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 #include "output.h"
 #include "project/project_file.h"
@@ -25,8 +27,8 @@ int load(Session& session, const std::string& file, bool asJson, Messages& messa
     try {
         if (asJson)
             session.project = projectFromJson(readFile(file), session.tables);
-        else
-            LoadProject(file, session.project);
+        else if (const std::string remark = LoadProject(file, session.project); !remark.empty())
+            messages.show(remark);
     } catch (const InputJsonError& error) {
         messages.show(error.what());
         return kRefused;
@@ -41,9 +43,10 @@ int load(Session& session, const std::string& file, bool asJson, Messages& messa
     return kDone;
 }
 
-int outcome(const Session& session, const Options& options) {
+int outcome(const Session& session, const Options& options, const GroupMatrix* groups) {
     if (!session.Fault.empty()) return kFault;
     if (!session.Calculated) return kRefused;
+    if (options.failAbove && groups != nullptr && groups->exceeds(*options.failAbove)) return kRatioAbove;
     return options.failAbove && verdictOf(*session.results).exceeds(*options.failAbove) ? kRatioAbove : kDone;
 }
 
@@ -69,6 +72,20 @@ int makeReactions(const Session& session, const std::string& neighbour, Console&
     }
 }
 
+/// The groups of a project with crane data, which its largest ratio is of.
+std::optional<GroupMatrix> makeGroups(const Session& session, bool wanted, Console& console) {
+    std::string fault;
+    const Attached attached = attachedOf(session.project, &fault);
+    if (!fault.empty()) console.show("crane data: " + fault);
+    if (attached.cranes.empty() && !wanted) return std::nullopt;
+    try {
+        return compareGroups(session.project, session.tables, attached.cranes, attached.farRails);
+    } catch (const std::invalid_argument& error) {
+        console.show(std::string("no groups of loads: ") + error.what());
+        return std::nullopt;
+    }
+}
+
 int runProject(const Options& options, const ReferenceTables& tables, const std::optional<std::string>& file,
                Outputs& outputs) {
     Console console(file.value_or("default project"), !options.quiet);
@@ -84,7 +101,9 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     if (session.Calculated && options.values)
         workings = checkWorkings(session.tables, session.project, *session.results);
     std::optional<SupportReactions> reactions;
-    int exitCode = outcome(session, options);
+    std::optional<GroupMatrix> groups;
+    if (session.Calculated) groups = makeGroups(session, options.groups, console);
+    int exitCode = outcome(session, options, groups ? &*groups : nullptr);
     if (session.Calculated && options.wantsReactions())
         exitCode = std::max(exitCode, makeReactions(session, options.neighbour, console, reactions));
     const std::vector<std::string> messages = console.texts();
@@ -94,7 +113,7 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     try {
         for (const std::string& remark :
              outputs.write({session, messages, file, opinion ? &*opinion : nullptr, workings ? &*workings : nullptr,
-                            reactions ? &*reactions : nullptr, fingerprint}))
+                            reactions ? &*reactions : nullptr, fingerprint, groups ? &*groups : nullptr}))
             console.show(remark);
     } catch (const OutputError& error) {
         console.show(error.what());

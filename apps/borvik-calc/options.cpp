@@ -124,6 +124,9 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_flag("--values", options.values,
                  "Print how each governing ratio comes about, line by line; --json then holds it "
                  "too");
+    app.add_flag("--groups", options.groups,
+                 "Calculate every group of loads of the project's crane data and print their ratios beside each other; "
+                 "--json then holds them too");
     app.add_flag("--reactions", options.reactions,
                  "Print the reactions for the design of supports, by parts and by position of the cranes; --json then "
                  "holds them too");

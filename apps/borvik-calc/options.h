@@ -24,6 +24,7 @@ struct Options {
     bool secondOpinion = false;  ///< print torsion and buckling by finite elements, and put them into the JSON
     SecondOpinionOptions opinionOptions;
     bool values = false;                   ///< print how the governing ratios come about, and put it into the JSON
+    bool groups = false;                   ///< print the matrix of groups of loads
     bool reactions = false;                ///< print the reactions for supports, and put them into the JSON
     std::string neighbour;                 ///< project of the beam beyond either end; empty: the same beam mirrored
     std::string reactionsCsv;              ///< CSV file of what acts together; empty: none
@@ -51,9 +52,9 @@ struct Options {
     [[nodiscard]] std::size_t projects() const { return useDefault || !fromJson.empty() ? 1 : files.size(); }
     /// The summary is printed when it is asked for, and when nothing else is.
     [[nodiscard]] bool printsSummary() const {
-        return summary || (!values && !reactions && reactionsCsv.empty() && reactionsXlsx.empty() && json.empty() &&
-                           save.empty() && workbook.empty() && !fingerprint && table.empty() && diagram.empty() &&
-                           report.empty() && !notes && !secondOpinion && !quiet);
+        return summary || (!values && !groups && !reactions && reactionsCsv.empty() && reactionsXlsx.empty() &&
+                           json.empty() && save.empty() && workbook.empty() && !fingerprint && table.empty() &&
+                           diagram.empty() && report.empty() && !notes && !secondOpinion && !quiet);
     }
 };
 

@@ -12,6 +12,7 @@
 #include "platform/version.h"
 #include "project/project_file.h"
 #include "report_file.h"
+#include "results/group_tables.h"
 #include "results/json.h"
 #include "results/notes_text.h"
 #include "results/reaction_tables.h"
@@ -79,6 +80,7 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
     if (options_.secondOpinion) attempt([&] { writeSecondOpinion(run); });
     if (run.workings != nullptr) attempt([&] { printText(run, valuesText(*run.workings)); });
     if (run.reactions != nullptr) attempt([&] { writeReactions(run); });
+    if (options_.groups && run.groups != nullptr) attempt([&] { writeGroups(run); });
     if (!failed.empty()) throw OutputError(failed);
     return remarks;
 }
@@ -86,7 +88,8 @@ std::vector<std::string> Outputs::write(const FinishedRun& run) {
 void Outputs::writeJson(const FinishedRun& run) {
     const std::string text =
         resultsJson(run.session, run.messages, run.file, kProgramAndVersion,
-                    {options_.notes, run.opinion, run.workings, options_.reactions ? run.reactions : nullptr});
+                    {options_.notes, run.opinion, run.workings, options_.reactions ? run.reactions : nullptr,
+                     options_.groups ? run.groups : nullptr});
     if (options_.json == "-") {
         print(text);
         return;
@@ -151,7 +154,9 @@ void Outputs::writeWorkbook(const FinishedRun& run) {
 }
 
 void Outputs::writeSummary(const FinishedRun& run) {
-    printText(run, summaryText(run.session));
+    printText(
+        run, summaryText(run.session) +
+                 (run.groups == nullptr ? "" : "Of all groups of its crane data " + governingText(*run.groups) + "\n"));
 }
 
 void Outputs::writeNotes(const FinishedRun& run) {
@@ -174,6 +179,10 @@ void Outputs::writeReactions(const FinishedRun& run) {
         naming(options_.reactionsXlsx, [&] {
             saveWorkbook(options_.reactionsXlsx, sheetsOf(*run.reactions, session.project.NofSpans + 1), headOf(run));
         });
+}
+
+void Outputs::writeGroups(const FinishedRun& run) {
+    printText(run, groupsText(*run.groups));
 }
 
 void Outputs::printText(const FinishedRun& run, const std::string& text) {

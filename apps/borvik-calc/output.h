@@ -8,6 +8,7 @@
 #include "base/whole_file.h"
 #include "calculation/check_working.h"
 #include "calculation/session.h"
+#include "groups/group_runs.h"
 #include "options.h"
 #include "reactions/support_reactions.h"
 
@@ -34,6 +35,7 @@ struct FinishedRun {
     const std::vector<CheckWorking>* workings = nullptr;  ///< the same
     const SupportReactions* reactions = nullptr;          ///< the same
     std::string fingerprint;                              ///< of the input as it was read
+    const GroupMatrix* groups = nullptr;                  ///< of a project with crane data that has results
 };
 
 /// Writes what the options ask for, one project after the other.
@@ -59,6 +61,7 @@ private:
     void writeNotes(const FinishedRun& run);
     void writeSecondOpinion(const FinishedRun& run);
     void writeReactions(const FinishedRun& run);
+    void writeGroups(const FinishedRun& run);
     /// Texts of several projects stand apart, each under its name.
     void printText(const FinishedRun& run, const std::string& text);
 

@@ -6,9 +6,11 @@
 #include <nlohmann/json.hpp>
 #include <vector>
 
+#include "actions/json/crane_json.h"
 #include "base/fault.h"
 #include "base/number_text.h"
 #include "calculation/load_check.h"
+#include "exchange/attached.h"
 #include "exchange/input_fields.h"
 #include "section/section.h"
 
@@ -291,7 +293,8 @@ std::string inputJson(const Project& project) {
     for (const SectionRecord* section : sections) list.push_back(json(*section));
     object["Sections"] = std::move(list);
     object["SpanSections"] = std::move(ofSpans);
-    return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    if (!project.Attached.empty()) object["Attached"] = kAttachedMark;
+    return withAttached(object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n", project);
 }
 
 Project projectFromJson(const std::string& text, const ReferenceTables& tables) {
@@ -303,7 +306,7 @@ Project projectFromJson(const std::string& text, const ReferenceTables& tables) 
     }
     if (input.is_object() && input.contains("Input") && input.contains("Schema")) input = Json(input["Input"]);
     if (!input.is_object()) fail("the input must be a JSON object");
-    std::vector<std::string> known = {"Sections", "SpanSections"};
+    std::vector<std::string> known = {"Sections", "SpanSections", "Attached"};
     for (const InputField& field : inputFields()) known.emplace_back(field.name);
     checkNames(input, known, "");
 
@@ -317,6 +320,15 @@ Project projectFromJson(const std::string& text, const ReferenceTables& tables) 
         project.HasLoadsY = settled.HasLoadsY;
     }
     takeSections(project, input, tables);
+    if (input.contains("Attached")) {
+        // Read anew with all its digits.
+        actions::Json whole = actions::parseJson(text);
+        if (whole.contains("Input") && whole.contains("Schema")) whole = actions::Json(whole["Input"]);
+        project.Attached = whole["Attached"].dump();
+        std::string fault;
+        (void)attachedOf(project, &fault);
+        if (!fault.empty()) fail("Attached: " + fault);
+    }
     return project;
 }
 

@@ -154,6 +154,10 @@ struct Project {
     std::int16_t StartStopOutside = 0;  ///< 1: the load may start and stop outside the girder; 0: not
     FixedArray<Single, 1, 5> SetupSpare3;
 
+    /// What belongs to the project beside its record, such as crane data: JSON, see exchange/attached.h. Empty:
+    /// nothing, as in every file of earlier versions.
+    std::string Attached;
+
     bool operator==(const Project&) const = default;
 };
 

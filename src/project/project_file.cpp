@@ -10,6 +10,7 @@
 #include "base/sha256.h"
 #include "base/whole_file.h"
 #include "base/windows1252.h"
+#include "project/attachment.h"
 #include "project/project_fields.h"
 
 namespace borvik {
@@ -105,6 +106,9 @@ public:
         text = fromWindows1252(bytes.substr(0, bytes.find_last_not_of(' ') + 1));
     }
 
+    /// What has not been read.
+    [[nodiscard]] std::string_view rest() const { return rest_; }
+
 private:
     std::string_view take(std::size_t count) {
         if (count > rest_.size()) throw ProjectFileError(ProjectFileError::Kind::EndOfFile, " End of file passed ");
@@ -181,7 +185,7 @@ std::string refusal(const char* what, const std::string& path, const std::system
 std::string projectBytes(const Project& project, bool& lost) {
     Writer writer(lost);
     visitProject(writer, project);
-    return writer.take();
+    return writer.take() + (project.Attached.empty() ? "" : attachmentBytes(project.Attached));
 }
 
 bool sameRecord(const Project& one, const Project& other) {
@@ -196,27 +200,56 @@ std::string fingerprintOf(const Project& project) {
     return sha256(projectBytes(project, lost)).substr(0, kDigits);
 }
 
-void readProjectBytes(const std::string& bytes, Project& project) {
+std::string readProjectBytes(const std::string& bytes, Project& project) {
     Eraser eraser;
     visitProject(eraser, project);
+    project.Attached.clear();
     Reader reader(bytes);
     visitProject(reader, project);
     mendDisplayNames(project.SpanSection, 1);
     mendDisplayNames(project.SectionList, 0);
+    const std::optional<Attachment> attached = findAttachment(reader.rest());
+    if (!attached) return {};
+    project.Attached = attached->text;
+    if (attached->fault.empty()) return {};
+    return "What belongs to the project beside its record, such as crane data, " + attached->fault +
+           " and was left out.";
 }
+
+namespace {
+
+/// What a file has behind a record of that size, without an attachment. @param found  whether there was one
+std::string tailBehind(const std::string& path, std::size_t record, bool& found) {
+    std::error_code unknown;
+    if (!std::filesystem::is_regular_file(path, unknown)) return {};
+    std::string old = readFile(path);
+    const std::optional<Attachment> attached = findAttachment(old);
+    found = attached.has_value();
+    if (found) old.resize(old.size() - attached->size);
+    return old.size() > record ? old.substr(record) : std::string();
+}
+
+}  // namespace
 
 bool SaveProject(const std::string& path, const Project& project) {
     bool lost = false;
     const std::string bytes = projectBytes(project, lost);
+    const std::size_t attached = project.Attached.empty() ? 0 : attachmentBytes(project.Attached).size();
+    const std::size_t record = bytes.size() - attached;
     try {
-        overwriteFile(path, bytes);
+        bool hadAttachment = false;
+        const std::string tail = tailBehind(path, record, hadAttachment);
+        if (attached == 0 && !hadAttachment)
+            overwriteFile(path, bytes);
+        else
+            replaceFile(path, bytes.substr(0, record) + tail + bytes.substr(record));
     } catch (const std::system_error& error) {
         throw ProjectFileError(ProjectFileError::Kind::Other, refusal("written", path, error));
     }
     return !lost;
 }
 
-void LoadProject(const std::string& path, Project& project) {
+std::string LoadProject(const std::string& path, Project& project) {
     project.StartStopOutside = 0;
     std::string bytes;
     try {
@@ -231,7 +264,7 @@ void LoadProject(const std::string& path, Project& project) {
             throw ProjectFileError(ProjectFileError::Kind::NotFound, " Can't find file ");
         throw ProjectFileError(ProjectFileError::Kind::Other, refusal("read", path, error));
     }
-    readProjectBytes(bytes, project);
+    return readProjectBytes(bytes, project);
 }
 
 }  // namespace borvik

@@ -4,7 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include "calculation/check_working.h"
+#include "exchange/attached.h"
 #include "exchange/input_json.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 #include "results/ratios.h"
 #include "results/reaction_tables.h"
@@ -382,6 +384,32 @@ Json sections(const Project& project) {
     return array;
 }
 
+Json json(const GroupMatrix& matrix) {
+    Json runs = Json::array();
+    for (const GroupRun& run : matrix.runs) {
+        Json ratios = Json::object();
+        for (std::size_t column = 0; column < matrix.checks.size(); ++column) {
+            const auto& ratio = run.ratios[column];
+            ratios[matrix.checks[column]] = ratio && std::isfinite(*ratio) ? json(Single(*ratio)) : Json(nullptr);
+        }
+        runs.push_back(fields("Name", nameOf(run.choice), "Group", static_cast<std::int16_t>(run.choice.group), "Crane",
+                              static_cast<std::int16_t>(run.choice.crane), "Reversed", run.choice.reversed, "FarRail",
+                              run.choice.farRail, "Refusal", run.refusal));
+        runs.back()["Ratios"] = std::move(ratios);
+    }
+    Json governing = Json::object();
+    for (std::size_t column = 0; column < matrix.checks.size(); ++column) {
+        const int row = matrix.governing[column];
+        governing[matrix.checks[column]] =
+            row < 0 ? Json(nullptr) : Json(nameOf(matrix.runs[static_cast<std::size_t>(row)].choice));
+    }
+    Json all = Json::object();
+    all["Runs"] = std::move(runs);
+    all["Governing"] = std::move(governing);
+    all["LargestRatio"] = matrix.largestRun < 0 ? Json(nullptr) : json(Single(matrix.largest));
+    return all;
+}
+
 }  // namespace
 
 std::string resultsJson(const Session& session, const std::vector<std::string>& messages,
@@ -405,12 +433,16 @@ std::string resultsJson(const Session& session, const std::vector<std::string>& 
         const double largest = verdictOf(results).largest;
         document["LargestRatio"] = std::isfinite(largest) ? json(Single(largest)) : Json(nullptr);
     }
-    document["Input"] = Json::parse(inputJson(session.project));
+    Project plain = session.project;
+    plain.Attached.clear();
+    document["Input"] = Json::parse(inputJson(plain));
+    if (!session.project.Attached.empty()) document["Input"]["Attached"] = kAttachedMark;
     if (extras.opinion != nullptr) document["SecondOpinion"] = json(*extras.opinion);
     if (extras.workings != nullptr) document["Derivations"] = json(*extras.workings);
     if (extras.reactions != nullptr) document["SupportReactions"] = json(*extras.reactions);
+    if (extras.groups != nullptr) document["Groups"] = json(*extras.groups);
     // A file name need not be UTF-8; what isn't becomes the replacement character.
-    return document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+    return withAttached(document.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n", session.project);
 }
 
 }  // namespace borvik

@@ -9,6 +9,7 @@
 namespace borvik {
 
 struct CheckWorking;
+struct GroupMatrix;
 struct SecondOpinion;
 struct SupportReactions;
 
@@ -18,6 +19,7 @@ struct JsonExtras {
     const SecondOpinion* opinion = nullptr;               ///< key SecondOpinion; null: no such key
     const std::vector<CheckWorking>* workings = nullptr;  ///< key Derivations; null: no such key
     const SupportReactions* reactions = nullptr;          ///< key SupportReactions; null: no such key
+    const GroupMatrix* groups = nullptr;                  ///< key Groups; null: no such key
 };
 
 /// Everything that the last run of a session produced, as one JSON object on one line (UTF-8, ends

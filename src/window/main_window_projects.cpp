@@ -116,7 +116,7 @@ bool MainWindow::load(const std::string& path, const std::string& step, const st
     // Taken before the file is read: what another program writes meanwhile is then seen as a change.
     const std::string stamp = hasPlace(shownAs) ? stampOf(path) : std::string();
     try {
-        LoadProject(path, loaded);
+        if (const std::string remark = LoadProject(path, loaded); !remark.empty()) services_.messages.show(remark);
     } catch (const ProjectFileError& error) {
         services_.messages.show(error.what());
         return false;

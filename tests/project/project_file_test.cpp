@@ -349,5 +349,43 @@ TEST(ProjectFile, faultsOfTheSystemAreNamed) {
     EXPECT_EQ(text, "The project file \"" + unwritable + "\" can't be written: No such file or directory.");
 }
 
+/// What is attached stands at the end of the file; a file without it has the bytes of the record alone.
+TEST(ProjectFile, keepsWhatIsAttached) {
+    const TempFolder folder;
+    const std::string file = (folder.path() / "a.brvk").string();
+    Project project, read;
+    const std::string record = bytesFrom(project);
+    project.Attached = "{\"Cranes\":[]}";
+    SaveProject(file, project);
+    EXPECT_EQ(LoadProject(file, read), "");
+    EXPECT_EQ(read.Attached, project.Attached);
+    EXPECT_TRUE(bytesOf(file).starts_with(record));
+    EXPECT_NE(fingerprintOf(project), fingerprintOf(Project()));
+
+    std::string damaged = bytesOf(file), later = damaged;
+    damaged[record.size() + 2] = 'X';
+    later.replace(later.find("attachment 1") + 11, 1, "2");
+    for (const auto& [bytes, word] : {std::pair(damaged, "damaged"), std::pair(later, "later version")}) {
+        Project spoilt;
+        EXPECT_NE(readProjectBytes(bytes, spoilt).find(word), std::string::npos);
+        EXPECT_EQ(spoilt.Attached, "");
+        EXPECT_EQ(bytesFrom(spoilt), record);
+    }
+    for (std::size_t size = record.size(); size < damaged.size(); ++size)
+        EXPECT_NO_THROW((void)readProjectBytes(bytesOf(file).substr(0, size), read)) << size;
+
+    // Saved without, the block goes; the tail of a longer file stays.
+    project.Attached.clear();
+    SaveProject(file, project);
+    EXPECT_EQ(bytesOf(file), record);
+    writeBytes(file, record + "tail");
+    project.Attached = "{}";
+    SaveProject(file, project);
+    EXPECT_EQ(bytesOf(file), record + "tail" + bytesFrom(project).substr(record.size()));
+    project.Attached.clear();
+    SaveProject(file, project);
+    EXPECT_EQ(bytesOf(file), record + "tail");
+}
+
 }  // namespace
 }  // namespace borvik

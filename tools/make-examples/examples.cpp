@@ -1,5 +1,7 @@
 #include "examples.h"
 
+#include "exchange/attached.h"
+#include "groups/group_runs.h"
 #include "section/section.h"
 
 namespace borvik {
@@ -209,6 +211,22 @@ Project publishedWheels(const ReferenceTables& tables, Project project) {
     return project;
 }
 
+/// The same beam, its loads from the data of a crane: group 5 of them, skewing.
+Project workshopFromData(const ReferenceTables& tables, Project project) {
+    project = workshopCrane(tables, std::move(project));
+    setTitle(project, "Service workshop, bay B", "Runway beam B1, loads from crane data");
+    actions::CraneData crane;
+    crane.bridge = 65;
+    crane.crab = 12;
+    crane.hoist = 100;
+    crane.span = 18;
+    crane.emin = 0.9;
+    crane.spacing = {3.2};
+    crane.vh = 8.0 / 60.0;
+    attach(project, {{crane}, false});
+    return withGroup(project, {crane}, {5});
+}
+
 }  // namespace
 
 std::vector<Example> Examples(const ReferenceTables& tables) {
@@ -222,6 +240,7 @@ std::vector<Example> Examples(const ReferenceTables& tables) {
         {"pump-station-monorail.brvk", monorail(tables, start)},
         {"service-centre-plate-girder.brvk", plateGirder(tables, start)},
         {"scrap-yard-process-crane.brvk", scrapYard(tables, start)},
+        {"workshop-crane-data.brvk", workshopFromData(tables, start)},
         {"published-two-wheels.brvk", publishedWheels(tables, start)},
     };
 }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "actions/crane_data.h"
+#include "project/project.h"
+
+namespace borvik {
+
+/// What a project has beside its record.
+struct Attached {
+    std::vector<actions::CraneData> cranes;  ///< none, crane 1, or both
+    bool farRails = false;                   ///< groups are compared for the rail far from the crab too
+};
+
+/// Reads what is attached to a project: a JSON object with "Cranes", by the names of docs/crane-loads.md, and
+/// "FarRails".
+/// @param fault  what can't be used and why, in words for the user; that part is then left out
+[[nodiscard]] Attached attachedOf(const Project& project, std::string* fault = nullptr);
+
+/// Puts it in place. Names of other versions that stand there already are kept; with nothing left there is no
+/// attachment.
+void attach(Project& project, const Attached& attached);
+
+/// What stands as "Attached" in a JSON text whose numbers are 32 bits wide, until withAttached puts the attachment of
+/// the project there, which keeps all its digits.
+inline constexpr const char* kAttachedMark = "@";
+[[nodiscard]] std::string withAttached(std::string json, const Project& project);
+
+}  // namespace borvik
