@@ -76,7 +76,10 @@ int makeReactions(const Session& session, const std::string& neighbour, Console&
 std::optional<GroupMatrix> makeGroups(const Session& session, bool wanted, Console& console) {
     std::string fault;
     const Attached attached = attachedOf(session.project, &fault);
-    if (!fault.empty()) console.show("crane data: " + fault);
+    if (!fault.empty()) {
+        console.show("no groups of loads: " + fault);
+        return std::nullopt;
+    }
     if (attached.cranes.empty() && !wanted) return std::nullopt;
     try {
         return compareGroups(session.project, session.tables, attached.cranes, attached.farRails);

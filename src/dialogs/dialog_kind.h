@@ -13,7 +13,8 @@ enum class DialogKind {
     Rail,        ///< frmRail
     Lateral,     ///< frmvipping
     Fatigue1,    ///< frmFatigue1: details of an overhead crane
-    Fatigue2     ///< frmFatigue2: details of a monorail
+    Fatigue2,    ///< frmFatigue2: details of a monorail
+    CraneData    ///< frmCraneData: wheel loads from crane data
 };
 
 }  // namespace borvik

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dialogs/beam_dialog.h"
+#include "dialogs/crane_data_dialog.h"
 #include "dialogs/fatigue1_dialog.h"
 #include "dialogs/fatigue2_dialog.h"
 #include "dialogs/lateral_buckling_dialog.h"
@@ -94,6 +95,13 @@ constexpr FormKind kForms[] = {
      .cranes = FormKind::Monorail,
      .key = "Fatigue",
      .node = "Fatigue"},
+    {.kind = DialogKind::CraneData,
+     .window = "frmCraneData",
+     .helpPage = "crane-data.md",
+     .make = make<CraneDataDialog>,
+     .cranes = FormKind::Overhead,
+     .menu = {"mnuCraneData", "Crane data", 7},
+     .refusal = {"Crane data are those of overhead cranes", "Crane data are those of overhead cranes"}},
 };
 
 }  // namespace

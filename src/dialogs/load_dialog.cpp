@@ -6,8 +6,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "actions/crane_fields.h"
 #include "boxes/combination_list.h"
 #include "boxes/info_picture.h"
+#include "exchange/attached.h"
+#include "groups/group_runs.h"
 #include "pictures/crane_pictures.h"
 #include "pictures/info_pictures.h"
 
@@ -53,6 +56,18 @@ LoadDialog::LoadDialog(Session& session, Messages& messages, std::function<void(
     picture_->setToolTip(tr("Numbers of the wheels and their distances"));
     content->addWidget(picture_, 2, 0, 1, 2);
     content->setRowStretch(2, 1);
+    auto* source = new QHBoxLayout;
+    source->addWidget(makeButton("cmdCraneData", tr("Crane &data ..."),
+                                 tr("Derives these loads from the data sheet of the crane, EN 1991-3"), [this] {
+                                     craneData_ = openOver(DialogKind::CraneData, [this] {
+                                         Write();
+                                         inputChanged();
+                                     });
+                                 }));
+    source_ = new QLabel;
+    source_->setObjectName("lblSource");
+    source->addWidget(source_, 1);
+    content->addLayout(source, 3, 0);
     content->addWidget(closeButton("cmdOK", tr("&Close"), tr("Check the loads and close the form")), 3, 1,
                        Qt::AlignRight);
     setContent(content);
@@ -73,8 +88,23 @@ void LoadDialog::Write() {
     chkMinDistConst_->setChecked(two && double(project_.MinDistConst) == 1.0);
     (project_.TwoCraneMode == TwoCranes::Independent ? optIndepend_ : optSimultan_)->setChecked(true);
     writeDamageSum();
+    writeSource();
     lstCombination_->write(project_, CombinationText::CraneLoadsOnly);
     picture_->update();
+}
+
+/// Whose loads these are, found by comparing.
+void LoadDialog::writeSource() {
+    const std::vector<actions::CraneData> cranes = attachedOf(project_).cranes;
+    const bool good = std::all_of(cranes.begin(), cranes.end(),
+                                  [](const auto& crane) { return actions::checkCrane(crane).isGood(); });
+    if (cranes.empty() || !good) {
+        source_->clear();
+        return;
+    }
+    const auto group = groupOf(project_, cranes);
+    source_->setText(group ? tr("from crane data, %1").arg(QString::fromStdString(nameOf(*group)).toLower())
+                           : tr("changed by hand"));
 }
 
 bool LoadDialog::CheckLoads() {
@@ -163,6 +193,7 @@ Group LoadDialog::loads() {
 void LoadDialog::takeEdit() {
     lstCombination_->write(project_, CombinationText::CraneLoadsOnly);
     picture_->update();
+    writeSource();
     inputChanged();
 }
 

@@ -38,6 +38,7 @@ private:
     void setNumberOfCranes(int number);
     void setTwoCraneMode(TwoCranes mode);
     void writeDamageSum();
+    void writeSource();
 
     QRadioButton *optEn_, *optTwo_, *optIndepend_, *optSimultan_;
     QCheckBox* chkMinDistConst_;
@@ -46,6 +47,8 @@ private:
     NumberBox* txtMinAvst_;
     CombinationList* lstCombination_;
     Picture* picture_;
+    QLabel* source_;
+    std::unique_ptr<InputDialog> craneData_;
     std::unique_ptr<PositionGroup> position_;
     std::unique_ptr<CraneGroup> crane1_, crane2_;
 };

@@ -36,12 +36,9 @@ Attached attachedOf(const Project& project, std::string* fault) {
         } else {
             for (const Json& each : cranes) {
                 const actions::ReadCrane read = actions::craneFromJson(each);
-                if (!read.isGood()) {
-                    found = "crane " + std::to_string(attached.cranes.size() + 1) + ": " + read.faults.front().line();
-                    attached.cranes.clear();
-                    break;
-                }
                 attached.cranes.push_back(read.crane);
+                if (!read.isGood() && found.empty())
+                    found = "crane " + std::to_string(attached.cranes.size()) + ": " + read.faults.front().line();
             }
         }
     }

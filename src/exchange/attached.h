@@ -16,7 +16,7 @@ struct Attached {
 
 /// Reads what is attached to a project: a JSON object with "Cranes", by the names of docs/crane-loads.md, and
 /// "FarRails".
-/// @param fault  what can't be used and why, in words for the user; that part is then left out
+/// @param fault  why it can't be used, in words for the user: what a form has not finished is kept as it was entered
 [[nodiscard]] Attached attachedOf(const Project& project, std::string* fault = nullptr);
 
 /// Puts it in place. Names of other versions that stand there already are kept; with nothing left there is no

@@ -43,6 +43,9 @@ TreeNode mainTree(TreeNode input, const Project& project, bool withResults) {
               table("UlsSlsFls", "ULS + SLS + FLS", "SummaryAll"), table("Sum", "Summary", "Summary")}));
     root.children.push_back(diagrams(project));
     root.children.push_back(table("ReactSup", "Reactions for supports", "SupportReactions"));
+    // Of a project with crane data.
+    if (!project.Attached.empty())
+        root.children.push_back({"Groups", "Compare groups", NodeOpens::Groups, "", false, {}});
     root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
     root.children.push_back({"Notes", "Notes", NodeOpens::Notes, "", false, {}});
     return root;

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "calculation/session.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 
 namespace borvik {
@@ -12,7 +13,8 @@ namespace borvik {
 struct CalculationRecord {
     Project project;
     Results results;
-    std::shared_ptr<const Notes> notes;  ///< never null
+    std::shared_ptr<const Notes> notes;         ///< never null
+    std::shared_ptr<const GroupMatrix> groups;  ///< of a project with crane data; else null
 };
 using CalculationPtr = std::shared_ptr<const CalculationRecord>;
 

@@ -18,12 +18,14 @@ bool sameTree(const TreeNode& a, const TreeNode& b) {
 
 bool showsResults(const TreeNode& node) {
     return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture ||
-           node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes;
+           node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes ||
+           node.opens == NodeOpens::Groups;
 }
 
 /// What the arrow keys show in passing, because it opens no window.
 bool showsInPlace(const TreeNode& node) {
-    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::Notes;
+    return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::Notes ||
+           node.opens == NodeOpens::Groups;
 }
 
 constexpr int kOutOfReach = Qt::UserRole;
@@ -60,7 +62,8 @@ void ResultTreeView::add(QTreeWidgetItem* parent, const TreeNode& node) {
         parent->addChild(item);
     }
     if (node.opens == NodeOpens::InputForm) item->setIcon(0, pictureIcon(Picture::Form));
-    if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes)
+    if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes ||
+        node.opens == NodeOpens::Groups)
         item->setIcon(0, pictureIcon(Picture::Table));
     if (node.opens == NodeOpens::Picture) item->setIcon(0, pictureIcon(Picture::Diagram));
     nodes_.insert(item, &node);

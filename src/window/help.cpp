@@ -42,6 +42,7 @@ constexpr PageOfNode kNodes[] = {
     {"Summary", "summaries.md"},
     {"Detailed Results", "detailed-results.md"},
     {"Reactions for supports", "handing-over.md"},
+    {"Compare groups", "crane-data.md"},
     {"Notes", "notes.md"},
 };
 

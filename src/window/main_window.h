@@ -148,6 +148,8 @@ private:
     void showNode(const TreeNode& node, bool byWalking);
     void showTable(const std::string& name);
     void showNotes();
+    void showGroups();
+    void openGroup(int row);
     /// Enter or a double click on a row: of a note its check, of a check how its ratio comes about.
     void chooseRow(int row);
     void showWorking(const RowOrigin& origin);
@@ -182,6 +184,7 @@ private:
     bool splicesDropped_ = false;        ///< by the input check, since the last edit
     std::string loadFaultShown_;         ///< so that it is shown once
     bool shownNotes_ = false;            ///< the table shown is that of the notes
+    bool shownGroups_ = false;           ///< the table shown is the matrix of groups
     bool running_ = false;
     std::unique_ptr<ProgressDialog> progress_;
 

@@ -3,6 +3,7 @@
 
 #include "calculation/calculation.h"
 #include "calculation/load_check.h"
+#include "exchange/attached.h"
 #include "project/input_ranges.h"
 #include "project/project_file.h"
 #include "results/tables.h"
@@ -19,6 +20,19 @@ struct BusyPointer {
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
+
+/// The groups of a project with crane data; null where there are none, or they can't be used.
+std::shared_ptr<const GroupMatrix> groupsOf(const Session& session) {
+    std::string fault;
+    const Attached attached = attachedOf(session.project, &fault);
+    if (attached.cranes.empty() || !fault.empty()) return nullptr;
+    try {
+        return std::make_shared<const GroupMatrix>(
+            compareGroups(session.project, session.tables, attached.cranes, attached.farRails));
+    } catch (const std::invalid_argument&) {
+        return nullptr;
+    }
+}
 
 }  // namespace
 
@@ -79,7 +93,7 @@ void MainWindow::showCalculation() {
         const BusyPointer busy;
         makeNotes(session_);
         calculation_ = std::make_shared<const CalculationRecord>(
-            CalculationRecord{session_.project, *session_.results, session_.notes});
+            CalculationRecord{session_.project, *session_.results, session_.notes, groupsOf(session_)});
     }
     takeDrive();
     ShowTreeViewResults();

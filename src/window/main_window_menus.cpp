@@ -152,7 +152,14 @@ void MainWindow::buildInputMenu() {
     for (const FormKind* form : forms)
         fill(input,
              {{form->menu.name, form->menu.caption, QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_0 + form->menu.digit)),
-               pictureIcon(Picture::Form), [this, form] { openForm(form->node); }}});
+               pictureIcon(Picture::Form), [this, form] {
+                   if (*form->node != '\0')
+                       openForm(form->node);
+                   else if (form->cranes == FormKind::Overhead && session_.project.CraneType == CraneKind::Monorail)
+                       services_.messages.show(form->refusal.inMenu);
+                   else
+                       openForm(form->kind, form->menu.caption);
+               }}});
     fill(input, {{"mnuIndataDivider1"}});
 }
 

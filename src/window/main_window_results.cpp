@@ -1,8 +1,11 @@
 #include <QStatusBar>
+#include <algorithm>
 #include <string_view>
 
 #include "base/number_text.h"
+#include "calculation/calculation.h"
 #include "calculation/load_check.h"
+#include "results/group_tables.h"
 #include "results/notes_table.h"
 #include "results/ratios.h"
 #include "results/tables.h"
@@ -53,6 +56,9 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
         case NodeOpens::Notes:
             showNotes();
             break;
+        case NodeOpens::Groups:
+            showGroups();
+            break;
         case NodeOpens::DetailedResults: {
             DetailedResultDialog dialog(calculation_, this);
             connect(&dialog, &DetailedResultDialog::standsChosen, this, &MainWindow::showStands);
@@ -69,15 +75,41 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
 void MainWindow::showTable(const std::string& name) {
     const TableEntry* entry = findTable(name);
     if (entry == nullptr) return;
-    shownNotes_ = false;
+    shownNotes_ = shownGroups_ = false;
     results_->showTable(QString::fromUtf8(entry->title), entry->fill(calculation_->project, calculation_->results));
 }
 
 void MainWindow::showNotes() {
     if (!session_.Calculated) return;
     shownNotes_ = true;
+    shownGroups_ = false;
     tree_->setCurrentItem(tree_->itemOf("Notes"));
     results_->showTable(tr("Notes for the checking engineer"), TableNotes(*calculation_->notes));
+}
+
+void MainWindow::showGroups() {
+    if (!calculation_->groups) {
+        services_.messages.show("The crane data can't be used: see Input > Crane data.");
+        return;
+    }
+    shownNotes_ = false;
+    shownGroups_ = true;
+    results_->showTable(tr("Compare groups"), tableOf(*calculation_->groups));
+}
+
+/// The calculation of a row of the matrix: how its largest ratio comes about.
+void MainWindow::openGroup(int row) {
+    const auto& runs = calculation_->groups->runs;
+    if (!session_.Calculated || row < 0 || static_cast<std::size_t>(row) >= runs.size()) return;
+    const GroupRun& run = runs[static_cast<std::size_t>(row)];
+    const auto largest = std::max_element(run.ratios.begin(), run.ratios.end());
+    if (largest == run.ratios.end() || !*largest) return;
+    const RowOrigin origin = run.origins[static_cast<std::size_t>(largest - run.ratios.begin())];
+    MessageList silent;
+    Progress progress;
+    const Outcome outcome = Calculate(run.project, session_.tables, silent, progress);
+    if (!outcome.results || !origin.isKnown()) return;
+    WorkingDialog(workingsOf(session_.tables, outcome.settled, *outcome.results, origin), this).exec();
 }
 
 /// From a note to the row that it names, in the summary of all checks or in one of the tables of the detailed results.
@@ -89,6 +121,8 @@ void MainWindow::showWorking(const RowOrigin& origin) {
 void MainWindow::chooseRow(int row) {
     if (shownNotes_)
         goToCheckOf(row);
+    else if (shownGroups_)
+        openGroup(row);
     else
         showWorking(originOf(results_->list()->table(), row));
 }
@@ -109,14 +143,23 @@ void MainWindow::goToCheckOf(int note) {
 void MainWindow::showGoverning() {
     const auto notes = static_cast<int>(calculation_->notes->notes.size());
     stateNotes_->setText(notes == 1 ? tr("1 note") : tr("%1 notes").arg(notes));
-    const RatioVerdict verdict = verdictOf(calculation_->results);
+    RatioVerdict verdict = verdictOf(calculation_->results);
+    QString ofGroup;
+    if (const auto& groups = calculation_->groups; groups && groups->largestRun >= 0) {
+        // With crane data the answer is that of all groups.
+        if (groups->largest >= verdict.largest)
+            ofGroup = tr(" (%1)").arg(
+                QString::fromStdString(nameOf(groups->runs[static_cast<std::size_t>(groups->largestRun)].choice)));
+        verdict.largest = std::max(verdict.largest, groups->largest);
+        verdict.negative |= groups->negative;
+    }
     const QString ratio = QString::fromStdString(formatNumber(verdict.largest, "0.000"));
     const bool over = verdict.largest > 1.0;
     // A sign beside the number, so that the state doesn't rest
     // on colour. Loads that are not in order let no tick stand.
     const bool warns = verdict.exceeds(1.0) || !loadRemark(calculation_->project).empty();
     stateGoverning_->setText((warns ? tr("\u26a0 Largest ratio %1") : tr("\u2713 Largest ratio %1")).arg(ratio) +
-                             (over ? " > 1" : "") + QString::fromStdString(verdict.remark()));
+                             (over ? " > 1" : "") + ofGroup + QString::fromStdString(verdict.remark()));
     stateGoverning_->setToolTip(tr("The largest ratio of all spans, parts, details and points"));
     QFont font = stateCalculated_->font();
     font.setBold(verdict.exceeds(1.0));

@@ -274,8 +274,9 @@ TEST_F(BoxManners, everyFormIsWalkedByKeysFromItsFirstBoxToClosing) {
     project.MinAvst = 2000;
     project.V(5) = 20;
     project.RailFix = RailFixing::ResilientPad;
-    const std::vector<std::string> first = {"iLfULS",    "txtBeamLength", "cboEuprofile", "ihr",       "cboRail",
-                                            "optCurve3", "txtGangway",    "txtPsiV1",     "txtFat1C1", "txtFatR1C1"};
+    const std::vector<std::string> first = {"iLfULS",    "txtBeamLength", "cboEuprofile", "ihr",
+                                            "cboRail",   "optCurve3",     "txtGangway",   "txtPsiV1",
+                                            "txtFat1C1", "txtFatR1C1",    "txtbridge"};
     for (std::size_t i = 0; i < formKinds().size(); ++i) {
         open(formKinds()[i].kind);
         SCOPED_TRACE(form->objectName().toStdString());

@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "exchange/attached.h"
 #include "support/recording_surface.h"
 #include "views/detailed_result_dialog.h"
 #include "window_support.h"
@@ -558,6 +559,22 @@ TEST_F(ResultsTest, textsBesideAHeadingAreNotCovered) {
                     << name << ": " << cell.data().toString().toStdString();
             }
     }
+}
+
+/// With crane data the answer is that of all groups, and a row of the matrix opens its calculation.
+TEST_F(ResultsTest, groupsOfCraneDataStandBesideEachOther) {
+    EXPECT_FALSE(hasNode("Compare groups"));
+    actions::CraneData crane;
+    crane.bridge = 30, crane.crab = 8, crane.hoist = 60, crane.span = 15;
+    crane.spacing = {1.9};
+    attach(session.project, {{crane}, false});
+    calculate();
+    clickNode("Compare groups");
+    ASSERT_EQ(list().table().rows.size(), 7U) << "1, 3, 4, 5 both ways, 6, 8";
+    EXPECT_EQ(list().table().rows[0][0].text, "Group 1");
+    EXPECT_NE(control<QLabel>("stateGoverning").text().indexOf("(Group"), -1);
+    list().selectRow(3);
+    EXPECT_EQ(nameOfModal([this] { QTest::keyClick(&list(), Qt::Key_Return); }), "frmWorking");
 }
 
 }  // namespace
