@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "calculation/calculation.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 #include "reactions/support_reactions.h"
 #include "runways.h"
@@ -58,6 +59,29 @@ void reactions(benchmark::State& state, Session session) {
     for (auto _ : state) benchmark::DoNotOptimize(supportReactions(session.project, *session.results));
 }
 
+/// All groups of two cranes; the counter says how many single runs twelve of them take on all cores. A single run is
+/// that of group 4 with both cranes.
+void groups(benchmark::State& state, Session session) {
+    actions::CraneData crane;
+    crane.bridge = 65, crane.crab = 12, crane.hoist = 100, crane.span = 18, crane.emin = 0.9;
+    crane.spacing = {3.2};
+    const std::vector<actions::CraneData> cranes{crane, crane};
+    double single = 0, all = 0, runs = 0;
+    Session one = session;
+    for (auto _ : state) {
+        one.project = withGroup(session.project, cranes, {4});
+        single += secondsOf(one, WalkMethod::Fast);
+        const auto start = std::chrono::steady_clock::now();
+        const GroupMatrix matrix = compareGroups(session.project, session.tables, cranes, false);
+        const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        all += seconds;
+        runs = static_cast<double>(matrix.runs.size());
+        state.SetIterationTime(seconds);
+    }
+    state.counters["runs"] = runs;
+    state.counters["12 runs/one"] = all / runs * 12 / single;
+}
+
 constexpr auto kMs = benchmark::kMillisecond;
 
 BENCHMARK_CAPTURE(calculate, DefaultProject, defaultSession(), WalkMethod::Fast)->Unit(kMs);
@@ -80,6 +104,8 @@ BENCHMARK_CAPTURE(secondOpinions, Independent_10x12m, runway(10, 12000, RunwayCr
 BENCHMARK_CAPTURE(secondOpinions, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
 
 BENCHMARK_CAPTURE(reactions, DefaultProject, defaultSession())->Unit(kMs);
+BENCHMARK_CAPTURE(groups, Independent_3x10m, runway(3, 10000, RunwayCranes::Independent))->UseManualTime()->Unit(kMs);
+BENCHMARK_CAPTURE(groups, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->UseManualTime()->Unit(kMs);
 BENCHMARK_CAPTURE(reactions, Independent_30x30m, runway(30, 30000, RunwayCranes::Independent))->Unit(kMs);
 
 BENCHMARK_CAPTURE(plainAgainstFast, Train_30x30m, runway(30, 30000, RunwayCranes::Train))->UseManualTime()->Unit(kMs);

@@ -34,7 +34,7 @@ void scan(std::string_view formula, Word word, Other other) {
     }
 }
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 15> kLetters{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 16> kLetters{{
     {"alpha", "\u03b1"},
     {"beta", "\u03b2"},
     {"gamma", "\u03b3"},
@@ -49,6 +49,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 15> kLetters
     {"phi", "\u03c6"},
     {"chi", "\u03c7"},
     {"psi", "\u03c8"},
+    {"xi", "\u03be"},
     {"sqrt", "\u221a"},
 }};
 

@@ -154,6 +154,16 @@ QWidget* CraneDataDialog::fieldsOfCrane() {
             for (const auto& field : actions::choiceFields())
                 if (field.name == name) addChoice(part.grid, field);
         }
+        if (std::string_view(group.title) == "Drive") {
+            phiOnK_ = makeChoice<QCheckBox>("chkPhiOnK", tr("K and \u03be1 with \u03c6"),
+                                            tr("The clause reads without dynamic factors in K and in the place of the "
+                                               "centre of mass; some calculations take them. It is larger with them."),
+                                            [this] {
+                                                crane().phiOnK = phiOnK_->isChecked();
+                                                craneChanged();
+                                            });
+            addWide(part.grid, phiOnK_);
+        }
         const bool left = row <= 2;
         all.grid->addWidget(part.box, left ? row : row - 2, left ? 0 : 1, row == 2 ? 2 : 1, 1);
         ++row;
@@ -334,6 +344,9 @@ QWidget* CraneDataDialog::outcome() {
     all.grid->addWidget(compared, 3, 1);
     all.grid->addWidget(farRails_, 3, 2);
     all.grid->addWidget(plan, 4, 0, 1, 3);
+    auto* caution = new QLabel(tr("Hold the factors against the standard and the national annex in force."));
+    caution->setWordWrap(true);
+    all.grid->addWidget(caution, 5, 0, 1, 3);
     all.grid->setRowStretch(2, 2);
     all.grid->setRowStretch(4, 3);
     return all.box;
@@ -353,6 +366,7 @@ void CraneDataDialog::showInput() {
     for (const auto& [list, field] : choices_) list->setCurrentIndex(field->of(crane()));
     if (auto* types = findChild<QComboBox*>("cboType")) types->setCurrentIndex(0);
     farRails_->setChecked(attached_.farRails);
+    phiOnK_->setChecked(crane().phiOnK);
     showOutcome();
 }
 
@@ -371,6 +385,7 @@ void CraneDataDialog::showOutcome() {
     for (const auto& message : check.isGood() ? check.remarks : check.faults)
         words << QString::fromStdString(message.line());
     // A form that nobody has filled in is not at fault.
+    fault_->setEnabled(!project_.Attached.empty());
     fault_->setText(project_.Attached.empty() ? tr("Enter the data sheet of the crane: the groups follow at once.")
                                               : words.mid(0, 2).join("\n"));
     if (check.isGood()) plan_.loads = actions::craneLoads(crane());

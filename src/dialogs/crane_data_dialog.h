@@ -58,6 +58,7 @@ private:
     QComboBox* whichCrane_;
     QCheckBox* tonnes_;
     QCheckBox* farRails_;
+    QCheckBox* phiOnK_;
     QLabel* state_;
     QLabel* fault_;
     QTableWidget* groups_;

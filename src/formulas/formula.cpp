@@ -16,11 +16,11 @@ const QStringList& functionNames() {
 
 const QHash<QString, QString>& uprightSymbols() {
     static const QHash<QString, QString> table{
-        {"alpha", "α"},      {"beta", "β"}, {"gamma", "γ"},  {"Delta", "Δ"}, {"delta", "δ"},
-        {"varepsilon", "ε"}, {"eta", "η"},  {"lambda", "λ"}, {"mu", "μ"},    {"nu", "ν"},
-        {"pi", "π"},         {"rho", "ρ"},  {"sigma", "σ"},  {"tau", "τ"},   {"varphi", "φ"},
-        {"Phi", "Φ"},        {"chi", "χ"},  {"psi", "ψ"},    {"lvert", "|"}, {"rvert", "|"},
-        {"infty", "∞"},      {"dots", "…"}, {"%", "%"},      {"{", "{"},     {"}", "}"},
+        {"alpha", "α"}, {"beta", "β"},   {"gamma", "γ"},  {"Delta", "Δ"}, {"delta", "δ"}, {"varepsilon", "ε"},
+        {"eta", "η"},   {"lambda", "λ"}, {"mu", "μ"},     {"nu", "ν"},    {"pi", "π"},    {"rho", "ρ"},
+        {"sigma", "σ"}, {"tau", "τ"},    {"varphi", "φ"}, {"xi", "ξ"},    {"Phi", "Φ"},   {"chi", "χ"},
+        {"psi", "ψ"},   {"lvert", "|"},  {"rvert", "|"},  {"infty", "∞"}, {"dots", "…"},  {"%", "%"},
+        {"{", "{"},     {"}", "}"},
     };
     return table;
 }

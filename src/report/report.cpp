@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "base/number_text.h"
+#include "exchange/attached.h"
 #include "platform/version.h"
 #include "report/report_chapters.h"
 #include "results/tables.h"
@@ -148,12 +149,12 @@ void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
 }
 
 void write(Printer& printer, const Session& session, ReportScope scope, const PageHeadTexts& head,
-           const ReportExtras& extras, const std::vector<PageRange::Chapter>& contents) {
+           const ReportExtras& extras, const std::vector<PageRange::Chapter>& contents, const GroupMatrix* groups) {
     ReportPage page(printer, head);
     Report report{page, session.project, session.rail(), *session.results};
     if (extras.firstPage) {
         page.PageHead();
-        printFirstPage(report, extras.office, head, contents);
+        printFirstPage(report, extras.office, head, contents, groups);
         report.isBegun = true;
     }
     const DiagramData data{session.project, &*session.results};
@@ -166,7 +167,20 @@ void write(Printer& printer, const Session& session, ReportScope scope, const Pa
                        scope == ReportScope::All || scope == ReportScope::Compressed);
     if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
     if (extras.reactions) printSupportReactions(report);
+    if (extras.loads && groups != nullptr) printWheelLoads(report, groups);
     if (extras.notes) PrintNotes(page, *session.notes);
+}
+
+/// The groups of a project with crane data; nothing where there are none, or they can't be used.
+std::optional<GroupMatrix> groupsOf(const Session& session) {
+    std::string fault;
+    const Attached attached = attachedOf(session.project, &fault);
+    if (attached.cranes.empty() || !fault.empty()) return std::nullopt;
+    try {
+        return compareGroups(session.project, session.tables, attached.cranes, attached.farRails);
+    } catch (const std::invalid_argument&) {
+        return std::nullopt;
+    }
 }
 
 const char* nameOf(ReportScope scope) {
@@ -192,6 +206,8 @@ std::span<const ExtraChapter> extraChapters() {
         {&ReportExtras::values, "Values", "intermediate values", "how each governing ratio comes about, line by line"},
         {&ReportExtras::reactions, "Reactions", "reactions for supports",
          "the reactions for the design of the supports, by parts and by position of the cranes"},
+        {&ReportExtras::loads, "Loads", "wheel loads from crane data",
+         "how the wheel loads follow from the crane data, and the ratios of all groups"},
         {&ReportExtras::notes, "Notes", "notes for the checking engineer",
          "in its last chapter what the checks assume and leave out"},
     };
@@ -208,9 +224,12 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
     head.logo = extras.logo;
     // Laid out once for the number of pages, which stands on each of them, and for the contents.
     PageRange nowhere(printer, std::numeric_limits<int>::max(), 0);
-    write(nowhere, session, scope, head, extras, {});
+    std::optional<GroupMatrix> groups;
+    if (extras.loads || extras.firstPage) groups = groupsOf(session);
+    const GroupMatrix* const all = groups ? &*groups : nullptr;
+    write(nowhere, session, scope, head, extras, {}, all);
     head.pages = nowhere.pages();
-    write(printer, session, scope, head, extras, nowhere.chapters());
+    write(printer, session, scope, head, extras, nowhere.chapters(), all);
 }
 
 std::span<const OfficeField> officeFields() {

@@ -38,6 +38,7 @@ struct ReportExtras {
     bool positions = false;  ///< where the cranes stand for each governing check, as pictures
     bool values = false;     ///< how each governing ratio comes about
     bool reactions = false;  ///< the reactions for the design of the supports
+    bool loads = false;      ///< wheel loads from crane data, and the ratios of all groups, where there are crane data
     bool notes = false;      ///< the notes for the checking engineer
     bool firstPage = false;  ///< a page before the others: project, office, largest ratios, standards, contents
     OfficeTexts office = {};

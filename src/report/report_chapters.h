@@ -2,6 +2,7 @@
 
 #include "calculation/check_working.h"
 #include "calculation/session.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 #include "report/report.h"
 #include "report/report_page.h"
@@ -20,8 +21,9 @@ struct Report {
 /// The page before the others: project and office, the largest ratio of each limit state, standards, how the cranes are
 /// walked, program and fingerprint; with more than four pages the contents.
 /// @param contents  chapters and their pages; empty while they are being found out
+/// @param groups    of a project with crane data; else null
 void printFirstPage(Report& report, const OfficeTexts& office, const PageHeadTexts& head,
-                    const std::vector<PageRange::Chapter>& contents);
+                    const std::vector<PageRange::Chapter>& contents, const GroupMatrix* groups);
 
 // Each chapter begins below PrintY with its heading in bold, leaves PrintY below its last line, and goes on on a new
 // page where the old one is full.
@@ -58,6 +60,13 @@ void printPositions(Report& report, bool withDeflections, bool withFatigue);
 /// "Intermediate values:" on a new page: how each governing ratio comes about, line by line,
 /// behind the sections that they rest on.
 void printValues(ReportPage& page, const std::vector<CheckWorking>& workings);
+
+/// One of them: its title, then line by line symbol, formula, numbers and, at the margin, the clause.
+void printWorking(ReportPage& page, const CheckWorking& working);
+
+/// "Wheel loads from crane data" on a new page: every formula with its numbers, the groups of loads, the ratios of all
+/// groups. @pre the project has good crane data @param matrix  null: it could not be made
+void printWheelLoads(Report& report, const GroupMatrix* matrix);
 
 /// "Reactions for supports:" on a new page: every extreme by its parts, of the ultimate limit state with the wheels and
 /// what acts at all supports then.

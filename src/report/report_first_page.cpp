@@ -2,6 +2,7 @@
 #include "calculation/check_working.h"
 #include "project/project_file.h"
 #include "report/report_chapters.h"
+#include "results/group_tables.h"
 #include "results/ratios.h"
 
 namespace borvik {
@@ -77,7 +78,7 @@ void printVerdicts(FirstPage& lines, const Results& results) {
 }  // namespace
 
 void printFirstPage(Report& report, const OfficeTexts& office, const PageHeadTexts& head,
-                    const std::vector<PageRange::Chapter>& contents) {
+                    const std::vector<PageRange::Chapter>& contents, const GroupMatrix* groups) {
     ReportPage& page = report.page;
     page.advance(3.0);
     page.put(page.ColLeft, "Static calculation of a crane runway beam", kTitle);
@@ -91,6 +92,11 @@ void printFirstPage(Report& report, const OfficeTexts& office, const PageHeadTex
     }
     lines.heading("Largest ratios");
     printVerdicts(lines, report.results);
+    if (groups != nullptr) {
+        const bool holds = !groups->exceeds(1.0);
+        lines.line("All groups of loads", governingText(*groups) + ": " + (holds ? "satisfied" : "not satisfied !!"),
+                   holds ? TextStyle{} : kFailed);
+    }
     lines.heading("Basis");
     for (const char* standard : kStandards) lines.line(standard == kStandards[0] ? "Standards" : "", standard);
     lines.line("Positions of the cranes", walkText(report.project));

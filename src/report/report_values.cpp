@@ -95,22 +95,24 @@ void printValues(ReportPage& page, const std::vector<CheckWorking>& workings) {
     page.chapter("Intermediate values");
     page.put(page.ColLeft, "Intermediate values:", kBold);
     page.advance(1.5);
-    for (const CheckWorking& working : workings) {
-        page.need(6.0);
-        page.put(page.ColLeft, working.title, kBold);
-        page.advance(1.1);
-        for (const WorkingLine& line : linesOf(working)) {
-            if (!line.isHeading) {
-                printLine(page, line);
-                continue;
-            }
-            page.need(4.0);
-            page.advance(0.2);
-            page.put(page.ColLeft + 0.01 * page.width(), line.symbol, kQuiet);
-            page.advance(1.0);
+    for (const CheckWorking& working : workings) printWorking(page, working);
+}
+
+void printWorking(ReportPage& page, const CheckWorking& working) {
+    page.need(6.0);
+    page.put(page.ColLeft, working.title, kBold);
+    page.advance(1.1);
+    for (const WorkingLine& line : linesOf(working)) {
+        if (!line.isHeading) {
+            printLine(page, line);
+            continue;
         }
-        page.advance(0.8);
+        page.need(4.0);
+        page.advance(0.2);
+        page.put(page.ColLeft + 0.01 * page.width(), line.symbol, kQuiet);
+        page.advance(1.0);
     }
+    page.advance(0.8);
 }
 
 }  // namespace borvik

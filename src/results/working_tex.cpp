@@ -8,8 +8,8 @@
 namespace borvik {
 namespace {
 
-constexpr std::array<std::string_view, 14> kGreek{"alpha", "beta", "gamma", "epsilon", "eta", "lambda", "mu",
-                                                  "pi",    "rho",  "sigma", "tau",     "phi", "chi",    "psi"};
+constexpr std::array<std::string_view, 15> kGreek{"alpha", "beta",  "gamma", "epsilon", "eta", "lambda", "mu", "pi",
+                                                  "rho",   "sigma", "tau",   "phi",     "chi", "psi",    "xi"};
 /// Names that are words, not a letter with an index.
 constexpr std::array<std::string_view, 9> kWords{"root", "ratio", "limit", "class", "range",
                                                  "hole", "max_",  "min_",  "IR"};
@@ -103,7 +103,12 @@ private:
     static std::string joined(const std::vector<Piece>& factors) {
         if (factors.size() == 1) return factors[0].tex;
         std::string tex;
-        for (const Piece& factor : factors) tex += (tex.empty() ? "" : "\\cdot ") + bracketed(factor);
+        for (const Piece& factor : factors) {
+            // A sign before the first factor is that of the product.
+            const bool signedFirst =
+                tex.empty() && factor.tex.starts_with('-') && factor.tex.find(' ') == std::string::npos;
+            tex += (tex.empty() ? "" : "\\cdot ") + (signedFirst ? factor.tex : bracketed(factor));
+        }
         return tex;
     }
     Piece power() {

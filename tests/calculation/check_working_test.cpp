@@ -8,6 +8,7 @@
 #include <regex>
 #include <sstream>
 
+#include "actions/crane_working.h"
 #include "base/number_text.h"
 #include "solved_projects.h"
 #include "support/wanted_count.h"
@@ -187,6 +188,25 @@ TEST(CheckWorking, isFollowedWithAPocketCalculator) {
         followAll(session, lines);
     }
     EXPECT_GT(lines, 50 * projects);
+}
+
+TEST(CheckWorking, ofCraneDataIsFollowedToo) {
+    actions::CraneData crane;
+    crane.bridge = 65, crane.crab = 12, crane.hoist = 100, crane.span = 18, crane.emin = 0.9;
+    crane.spacing = {1.1, 2.6};
+    crane.vh = 0.1333;
+    crane.release = actions::Release::Grab;
+    crane.released = 0.3;
+    crane.v = 0.667, crane.SB = 500, crane.xib = 0.6;
+    int lines = 0;
+    for (int variant = 0; variant < 3; ++variant) {
+        if (variant == 1) crane.drive = actions::Drive::Central, crane.alpha = 0.004, crane.phiOnK = true;
+        if (variant == 2) crane.K = 5, crane.HT1 = 3, crane.HS = 10, crane.phi2 = 1.2;
+        CheckWorking working{"CraneData", "Crane", 1, {}};
+        explainCrane(crane, actions::craneLoads(crane), Working(working.steps));
+        follow(working, lines);
+    }
+    EXPECT_GT(lines, 60);
 }
 
 }  // namespace

@@ -59,6 +59,10 @@ void takeForms(Camera& camera, Session& session, Messages& messages) {
         const bool plates = kind.kind == DialogKind::ProfReinf;
         shown.CurrentSection.Reinforced = plates;
         shown.CurrentSection.ReinfText = plates ? "PL1" : "";
+        if (kind.kind == DialogKind::CraneData) {
+            LoadProject(BORVIK_SOURCE_DIR "/examples/workshop-crane-data.brvk", shown.project);
+            shown.CurrentSection = {};
+        }
         const auto form = makeDialog(
             kind.kind, shown, messages, [] {}, nullptr);
         form->show();
