@@ -8,6 +8,7 @@
 
 #include "base/shown_text.h"
 #include "base/whole_file.h"
+#include "exchange/attached.h"
 #include "pictures.h"
 #include "platform/version.h"
 #include "project/project_file.h"
@@ -169,7 +170,15 @@ void Outputs::writeSecondOpinion(const FinishedRun& run) {
 
 void Outputs::writeReactions(const FinishedRun& run) {
     const Session& session = run.session;
-    if (options_.reactions) printText(run, reactionsText(session.project, *session.results, *run.reactions));
+    if (options_.reactions) {
+        std::string text = reactionsText(session.project, *session.results, *run.reactions);
+        if (run.groups != nullptr) {
+            const ResultTable ofGroups = tableOfReactions(*run.groups);
+            text += "\nReactions of all groups\n" + tableText(ofGroups) + ofGroups.note + "\n" +
+                    buffersText(attachedOf(session.project).cranes);
+        }
+        printText(run, text);
+    }
     if (!options_.reactionsCsv.empty())
         naming(options_.reactionsCsv, [&] {
             replaceFile(options_.reactionsCsv,

@@ -80,6 +80,18 @@ bool isSymmetric(const CraneData& crane, int group, bool farRail) {
     return same || opposite;
 }
 
+/// What the cranes that act put along the beam, kN.
+double alongOf(const std::vector<CraneData>& cranes, const GroupChoice& choice) {
+    double sum = 0.0;
+    for (std::size_t i = 0; i < cranes.size(); ++i) {
+        if (choice.crane != 0 && choice.crane != static_cast<int>(i) + 1) continue;
+        const CraneLoads loads = actions::craneLoads(cranes[i]);
+        const GroupLoads& group = loadsOf(loads, choice.group);
+        sum += group.HL * group.psiH;
+    }
+    return sum;
+}
+
 void regard(GroupRun& run, std::size_t column, const RowSet& rows) {
     const double ratio = rows.Ratio < 0.0 || std::isnan(rows.Ratio) ? rows.Ratio : rows.largest();
     std::optional<double>& kept = run.ratios[column];
@@ -123,10 +135,15 @@ void calculate(GroupRun& run, const ReferenceTables& tables, const std::vector<s
     run.origins.resize(columns.size());
     const Outcome outcome = Calculate(run.project, tables, messages, progress);
     run.refusal.clear();
-    if (outcome.results)
+    if (outcome.results) {
         takeRatios(run, columns, *outcome.results);
-    else
+        const UlsResults& uls = outcome.results->Uls;
+        for (int support = 1; support <= outcome.settled.NofSpans + 1; ++support)
+            run.reactions.push_back({uls.RzMax(support) / 1000.0, uls.RzMin(support) / 1000.0,
+                                     uls.RyMax(support) / 1000.0, uls.RyMin(support) / 1000.0});
+    } else {
         run.refusal = messages.texts.empty() ? outcome.Fault : messages.texts.front();
+    }
 }
 
 void findGoverning(GroupMatrix& matrix) {
@@ -216,6 +233,7 @@ GroupMatrix compareGroups(const Project& project, const ReferenceTables& tables,
         GroupRun run;
         run.choice = choice;
         run.project = withGroup(project, cranes, choice);
+        run.HL = alongOf(cranes, choice);
         run.refusal = "cancelled";
         run.ratios.resize(matrix.checks.size());
         run.origins.resize(matrix.checks.size());

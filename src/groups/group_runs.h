@@ -35,6 +35,11 @@ struct GroupChoice {
 /// The choice whose loads a project has; nothing where they were changed by hand. Found by comparing, never stored.
 [[nodiscard]] std::optional<GroupChoice> groupOf(const Project& project, const std::vector<actions::CraneData>& cranes);
 
+/// The reactions of a support in one group, kN, as the ultimate limit state has them.
+struct GroupReaction {
+    double RzMax = 0, RzMin = 0, RyMax = 0, RyMin = 0;
+};
+
 /// A calculation of the comparison: a row of the matrix.
 struct GroupRun {
     GroupChoice choice;
@@ -42,6 +47,8 @@ struct GroupRun {
     std::string refusal;                        ///< why it has no results; usually empty
     std::vector<std::optional<double>> ratios;  ///< the largest of each check
     std::vector<RowOrigin> origins;             ///< where that is
+    std::vector<GroupReaction> reactions;       ///< of every support
+    double HL = 0;                              ///< along the beam, kN: the cranes' drive forces with phi5
 };
 
 /// All groups beside each other.

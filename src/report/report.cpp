@@ -166,7 +166,7 @@ void write(Printer& printer, const Session& session, ReportScope scope, const Pa
         printPositions(report, scope != ReportScope::Uls,
                        scope == ReportScope::All || scope == ReportScope::Compressed);
     if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
-    if (extras.reactions) printSupportReactions(report);
+    if (extras.reactions) printSupportReactions(report, groups);
     if (extras.loads && groups != nullptr) printWheelLoads(report, groups);
     if (extras.notes) PrintNotes(page, *session.notes);
 }
@@ -225,7 +225,7 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
     // Laid out once for the number of pages, which stands on each of them, and for the contents.
     PageRange nowhere(printer, std::numeric_limits<int>::max(), 0);
     std::optional<GroupMatrix> groups;
-    if (extras.loads || extras.firstPage) groups = groupsOf(session);
+    if (extras.loads || extras.reactions || extras.firstPage) groups = groupsOf(session);
     const GroupMatrix* const all = groups ? &*groups : nullptr;
     write(nowhere, session, scope, head, extras, {}, all);
     head.pages = nowhere.pages();

@@ -6,6 +6,7 @@
 #include "notes/notes.h"
 #include "report/report.h"
 #include "report/report_page.h"
+#include "results/tables.h"
 
 namespace borvik {
 
@@ -64,13 +65,17 @@ void printValues(ReportPage& page, const std::vector<CheckWorking>& workings);
 /// One of them: its title, then line by line symbol, formula, numbers and, at the margin, the clause.
 void printWorking(ReportPage& page, const CheckWorking& working);
 
+/// A table over the width of the page, with its head again on every page; its first column has that share of the width.
+void printTable(ReportPage& page, const ResultTable& table, double firstShare);
+
 /// "Wheel loads from crane data" on a new page: every formula with its numbers, the groups of loads, the ratios of all
 /// groups. @pre the project has good crane data @param matrix  null: it could not be made
 void printWheelLoads(Report& report, const GroupMatrix* matrix);
 
 /// "Reactions for supports:" on a new page: every extreme by its parts, of the ultimate limit state with the wheels and
 /// what acts at all supports then.
-void printSupportReactions(Report& report);
+/// @param groups  of a project with crane data: those of every group too; else null
+void printSupportReactions(Report& report, const GroupMatrix* groups);
 
 /// "Notes for the checking engineer:" on a new page: the notes in their order, then the assumptions.
 void PrintNotes(ReportPage& page, const Notes& notes);

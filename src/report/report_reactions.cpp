@@ -1,7 +1,9 @@
 #include <sstream>
 #include <utility>
 
+#include "exchange/attached.h"
 #include "report/report_chapters.h"
+#include "results/group_tables.h"
 #include "results/reaction_tables.h"
 
 namespace borvik {
@@ -98,7 +100,7 @@ private:
 
 }  // namespace
 
-void printSupportReactions(Report& report) {
+void printSupportReactions(Report& report, const GroupMatrix* groups) {
     ReportPage& page = report.page;
     const ResultTable table = TableSupportReactions(report.project, report.results);
     page.newPage();
@@ -116,6 +118,19 @@ void printSupportReactions(Report& report) {
         page.advance(1.0);
     }
     ReactionList(page, table).print();
+    if (groups == nullptr) return;
+    page.advance(1.0);
+    page.need(10.0);
+    page.put(page.ColLeft, "Reactions of all groups of the crane data", kBold);
+    page.advance(1.2);
+    const ResultTable ofGroups = tableOfReactions(*groups);
+    printTable(page, ofGroups, 0.3);
+    const std::string buffers = buffersText(attachedOf(report.project).cranes);
+    for (const std::string& text : page.wrapped(ofGroups.note + " " + buffers, page.width())) {
+        page.need(1.0);
+        page.put(page.ColLeft, text);
+        page.advance(1.0);
+    }
 }
 
 }  // namespace borvik

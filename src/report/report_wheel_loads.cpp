@@ -10,7 +10,8 @@ constexpr TextStyle kBold{true};
 constexpr TextStyle kQuiet{false, colours::grey};
 constexpr TextStyle kFailed{true, colours::red};
 
-/// A table over the width of the page; its first column takes what the others leave.
+}  // namespace
+
 void printTable(ReportPage& page, const ResultTable& table, double firstShare) {
     const double others = static_cast<double>(table.columns.size() - 1);
     const double first = firstShare * page.width(), each = (page.width() - first) / others;
@@ -49,8 +50,6 @@ void printTable(ReportPage& page, const ResultTable& table, double firstShare) {
     page.afterBreak = nullptr;
     page.advance(0.5);
 }
-
-}  // namespace
 
 void printWheelLoads(Report& report, const GroupMatrix* matrix) {
     const Attached attached = attachedOf(report.project);

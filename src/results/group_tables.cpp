@@ -74,6 +74,41 @@ ResultTable tableOfLoads(const actions::CraneLoads& loads) {
     return table;
 }
 
+ResultTable tableOfReactions(const GroupMatrix& matrix) {
+    ResultTable table;
+    table.columns = {{"Loads", "", "group of EN 1991-3 Table 2.2", true},
+                     {"Support", "", ""},
+                     {"Rz max", "kN", "upward positive"},
+                     {"Rz min", "kN", "upward positive"},
+                     {"Ry max", "kN", "across the beam"},
+                     {"Ry min", "kN", "across the beam"},
+                     {"HL", "kN", "along the beam, for the fixed support or the bracing: all cranes of the row"}};
+    for (const GroupRun& run : matrix.runs)
+        for (std::size_t i = 0; i < run.reactions.size(); ++i) {
+            const GroupReaction& each = run.reactions[i];
+            table.rows.push_back({textCell(i == 0 ? nameOf(run.choice) : ""), textCell(std::to_string(i + 1)),
+                                  numberCell(each.RzMax, "0.0"), numberCell(each.RzMin, "0.0"),
+                                  numberCell(each.RyMax, "0.0"), numberCell(each.RyMin, "0.0"),
+                                  i == 0 ? numberCell(run.HL, "0.0") : textCell("")});
+        }
+    table.note =
+        "ULS, dynamic factors of the group and load factors included; Side loads act in either sense: Ry also with the "
+        "opposite sign. HL characteristic, with phi5.";
+    return table;
+}
+
+std::string buffersText(const std::vector<actions::CraneData>& cranes) {
+    std::string text;
+    for (std::size_t i = 0; i < cranes.size(); ++i) {
+        if (!cranes[i].hasBuffer()) continue;
+        const actions::BufferForce force = actions::bufferForce(cranes[i], true);
+        text += "Buffers, group 9: HB = " + formatNumber(force.HB1, "0.0") + " kN of crane " + std::to_string(i + 1) +
+                " with its load, on the rail beside the crab " + formatNumber(force.crab, "0.0") +
+                " kN, on the far rail " + formatNumber(force.far, "0.0") + " kN.\n";
+    }
+    return text;
+}
+
 std::string groupsText(const GroupMatrix& matrix) {
     const ResultTable table = tableOf(matrix);
     return "Groups of loads\n" + tableText(table) + table.note + "\nLargest ratio of all groups " +

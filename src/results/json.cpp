@@ -396,6 +396,12 @@ Json json(const GroupMatrix& matrix) {
                               static_cast<std::int16_t>(run.choice.crane), "Reversed", run.choice.reversed, "FarRail",
                               run.choice.farRail, "Refusal", run.refusal));
         runs.back()["Ratios"] = std::move(ratios);
+        runs.back()["HL"] = json(Single(run.HL));
+        Json reactions = Json::array();
+        for (const GroupReaction& each : run.reactions)
+            reactions.push_back(fields("RzMax", Single(each.RzMax), "RzMin", Single(each.RzMin), "RyMax",
+                                       Single(each.RyMax), "RyMin", Single(each.RyMin)));
+        runs.back()["Reactions"] = std::move(reactions);
     }
     Json governing = Json::object();
     for (std::size_t column = 0; column < matrix.checks.size(); ++column) {

@@ -7,6 +7,7 @@
 
 #include "calculation/calculation.h"
 #include "calculation/check_working.h"
+#include "exchange/attached.h"
 #include "notes/notes.h"
 #include "project/project_file.h"
 #include "reactions/support_reactions.h"
@@ -83,8 +84,15 @@ std::string resultsOf(Session& session) {
     const auto workings = checkWorkings(session.tables, session.project, *session.results);
     const SecondOpinion opinion = secondOpinion(session, {});
     const SupportReactions reactions = supportReactions(session.project, *session.results);
+    std::optional<GroupMatrix> groups;
+    if (const Attached attached = attachedOf(session.project); !attached.cranes.empty())
+        groups = compareGroups(session.project, session.tables, attached.cranes, true);
     return resultsJson(session, messages.texts, std::nullopt, "Borvik",
-                       {.notes = true, .opinion = &opinion, .workings = &workings, .reactions = &reactions});
+                       {.notes = true,
+                        .opinion = &opinion,
+                        .workings = &workings,
+                        .reactions = &reactions,
+                        .groups = groups ? &*groups : nullptr});
 }
 
 TEST(ResultsSchema, holdsForEveryResult) {
