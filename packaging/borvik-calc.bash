@@ -20,7 +20,7 @@ _borvik_calc() {
         *)
             if [[ $current == -* ]]; then
                 mapfile -t COMPREPLY < <(compgen -W "--at --checked-by --client --crane-loads --csv --date --decimal --default --diagram --fail-above --fingerprint --first-page --from-json --groups --help --json --lateral-supports --logo --neighbour --notes --paper --png --prepared-by --quiet --reactions --reactions-csv --reactions-xlsx --report --revision
-                    --save --scope --second-opinion --summary --table --tables --values --version --walk --warping-free --with-loads --with-notes --with-positions --with-reactions --with-values --workbook --xlsx" -- "$current")
+                    --save --scope --second-opinion --summary --table --tables --values --version --walk --warping-free --with-loads --with-notes --with-opinion --with-positions --with-reactions --with-values --workbook --xlsx" -- "$current")
             else
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.brvk' -- "$current"; compgen -d -- "$current")
             fi

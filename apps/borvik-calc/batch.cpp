@@ -16,6 +16,7 @@
 #include "project/project_file.h"
 #include "reactions/support_reactions.h"
 #include "results/ratios.h"
+#include "results/second_opinion_tables.h"
 #include "second_opinion/second_opinion.h"
 
 namespace borvik {
@@ -99,7 +100,11 @@ int runProject(const Options& options, const ReferenceTables& tables, const std:
     Calculate(session, console, console, options.walk);
     if (session.Calculated && (options.notes || options.extras.notes)) makeNotes(session);
     std::optional<SecondOpinion> opinion;
-    if (session.Calculated && options.secondOpinion) opinion = secondOpinion(session, options.opinionOptions);
+    if (session.Calculated && options.secondOpinion) {
+        // What the command line names takes the place of what the project keeps.
+        const bool named = !options.opinionOptions.lateralSupports.empty() || options.opinionOptions.freeWarping;
+        opinion = secondOpinion(session, named ? options.opinionOptions : opinionOptionsOf(session.project));
+    }
     std::optional<std::vector<CheckWorking>> workings;
     if (session.Calculated && options.values)
         workings = checkWorkings(session.tables, session.project, *session.results);

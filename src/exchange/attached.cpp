@@ -8,7 +8,22 @@ namespace {
 using Json = actions::Json;
 constexpr const char* kCranes = "Cranes";
 constexpr const char* kFarRails = "FarRails";
+constexpr const char* kSupports = "LateralSupports";
+constexpr const char* kFreeWarping = "FreeWarping";
 constexpr std::size_t kMostCranes = 2;
+
+bool readSupports(const Json& list, Attached& attached) {
+    if (!list.is_array()) return false;
+    for (const Json& each : list) {
+        if (!each.is_object() || !each.contains("Span") || !each["Span"].is_number_integer() || !each.contains("X") ||
+            !each["X"].is_number() || (each.contains("Z") && !each["Z"].is_number()))
+            return false;
+        Attached::LateralSupport support{each["Span"].get<int>(), each["X"].get<double>(), std::nullopt};
+        if (each.contains("Z")) support.z = each["Z"].get<double>();
+        attached.lateralSupports.push_back(support);
+    }
+    return true;
+}
 
 Json objectOf(const Project& project, std::string& fault) {
     if (project.Attached.empty()) return Json::object();
@@ -28,6 +43,9 @@ Attached attachedOf(const Project& project, std::string* fault) {
     std::string found;
     Attached attached;
     const Json object = objectOf(project, found);
+    if (object.contains(kSupports) && !readSupports(object[kSupports], attached))
+        found = "LateralSupports must be a list of Span, X and perhaps Z";
+    if (object.contains(kFreeWarping)) attached.freeWarping = object[kFreeWarping] == true;
     if (object.contains(kFarRails)) attached.farRails = object[kFarRails] == true;
     if (object.contains(kCranes)) {
         const Json& cranes = object[kCranes];
@@ -51,6 +69,14 @@ void attach(Project& project, const Attached& attached) {
     Json object = objectOf(project, ignored);
     object.erase(kCranes);
     object.erase(kFarRails);
+    object.erase(kSupports);
+    object.erase(kFreeWarping);
+    for (const Attached::LateralSupport& support : attached.lateralSupports) {
+        Json each{{"Span", support.span}, {"X", support.x}};
+        if (support.z) each["Z"] = *support.z;
+        object[kSupports].push_back(std::move(each));
+    }
+    if (attached.freeWarping) object[kFreeWarping] = true;
     if (!attached.cranes.empty()) {
         Json cranes = Json::array();
         for (const actions::CraneData& crane : attached.cranes) cranes.push_back(actions::craneToJson(crane));

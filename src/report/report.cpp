@@ -9,6 +9,7 @@
 #include "exchange/attached.h"
 #include "platform/version.h"
 #include "report/report_chapters.h"
+#include "results/second_opinion_tables.h"
 #include "results/tables.h"
 
 namespace borvik {
@@ -149,7 +150,8 @@ void PrintPartial(Report& report, const DiagramData& data, ReportScope scope) {
 }
 
 void write(Printer& printer, const Session& session, ReportScope scope, const PageHeadTexts& head,
-           const ReportExtras& extras, const std::vector<PageRange::Chapter>& contents, const GroupMatrix* groups) {
+           const ReportExtras& extras, const std::vector<PageRange::Chapter>& contents, const GroupMatrix* groups,
+           const SecondOpinion* opinion) {
     ReportPage page(printer, head);
     Report report{page, session.project, session.rail(), *session.results};
     if (extras.firstPage) {
@@ -168,6 +170,7 @@ void write(Printer& printer, const Session& session, ReportScope scope, const Pa
     if (extras.values) printValues(page, checkWorkings(session.tables, session.project, *session.results));
     if (extras.reactions) printSupportReactions(report, groups);
     if (extras.loads && groups != nullptr) printWheelLoads(report, groups);
+    if (opinion != nullptr) printSecondOpinion(report, *opinion);
     if (extras.notes) PrintNotes(page, *session.notes);
 }
 
@@ -208,6 +211,8 @@ std::span<const ExtraChapter> extraChapters() {
          "the reactions for the design of the supports, by parts and by position of the cranes"},
         {&ReportExtras::loads, "Loads", "wheel loads from crane data",
          "how the wheel loads follow from the crane data, and the ratios of all groups"},
+        {&ReportExtras::opinion, "Opinion", "second opinion",
+         "torsion with warping and buckling by eigenvalue, beside the ratios of the checks"},
         {&ReportExtras::notes, "Notes", "notes for the checking engineer",
          "in its last chapter what the checks assume and leave out"},
     };
@@ -227,9 +232,12 @@ void PrintReport(Printer& printer, const Session& session, ReportScope scope, co
     std::optional<GroupMatrix> groups;
     if (extras.loads || extras.reactions || extras.firstPage) groups = groupsOf(session);
     const GroupMatrix* const all = groups ? &*groups : nullptr;
-    write(nowhere, session, scope, head, extras, {}, all);
+    std::optional<SecondOpinion> opinion;
+    if (extras.opinion) opinion = secondOpinion(session, opinionOptionsOf(session.project));
+    const SecondOpinion* const other = opinion ? &*opinion : nullptr;
+    write(nowhere, session, scope, head, extras, {}, all, other);
     head.pages = nowhere.pages();
-    write(printer, session, scope, head, extras, nowhere.chapters(), all);
+    write(printer, session, scope, head, extras, nowhere.chapters(), all, other);
 }
 
 std::span<const OfficeField> officeFields() {

@@ -39,6 +39,7 @@ struct ReportExtras {
     bool values = false;     ///< how each governing ratio comes about
     bool reactions = false;  ///< the reactions for the design of the supports
     bool loads = false;      ///< wheel loads from crane data, and the ratios of all groups, where there are crane data
+    bool opinion = false;    ///< torsion with warping and buckling by eigenvalue beside the checks
     bool notes = false;      ///< the notes for the checking engineer
     bool firstPage = false;  ///< a page before the others: project, office, largest ratios, standards, contents
     OfficeTexts office = {};

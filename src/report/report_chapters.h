@@ -7,6 +7,7 @@
 #include "report/report.h"
 #include "report/report_page.h"
 #include "results/tables.h"
+#include "second_opinion/second_opinion.h"
 
 namespace borvik {
 
@@ -65,12 +66,16 @@ void printValues(ReportPage& page, const std::vector<CheckWorking>& workings);
 /// One of them: its title, then line by line symbol, formula, numbers and, at the margin, the clause.
 void printWorking(ReportPage& page, const CheckWorking& working);
 
-/// A table over the width of the page, with its head again on every page; its first column has that share of the width.
-void printTable(ReportPage& page, const ResultTable& table, double firstShare);
+/// A table over the width of the page, with its head again on every page; the first columns have these
+/// shares of the width, the others the same of what is left.
+void printTable(ReportPage& page, const ResultTable& table, const std::vector<double>& shares);
 
 /// "Wheel loads from crane data" on a new page: every formula with its numbers, the groups of loads, the ratios of all
 /// groups. @pre the project has good crane data @param matrix  null: it could not be made
 void printWheelLoads(Report& report, const GroupMatrix* matrix);
+
+/// "Second opinion" on a new page: the ratios beside those of the checks, rotation and bimoment, the mode of buckling.
+void printSecondOpinion(Report& report, const SecondOpinion& opinion);
 
 /// "Reactions for supports:" on a new page: every extreme by its parts, of the ultimate limit state with the wheels and
 /// what acts at all supports then.

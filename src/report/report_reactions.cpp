@@ -124,7 +124,7 @@ void printSupportReactions(Report& report, const GroupMatrix* groups) {
     page.put(page.ColLeft, "Reactions of all groups of the crane data", kBold);
     page.advance(1.2);
     const ResultTable ofGroups = tableOfReactions(*groups);
-    printTable(page, ofGroups, 0.3);
+    printTable(page, ofGroups, {0.3});
     const std::string buffers = buffersText(attachedOf(report.project).cranes);
     for (const std::string& text : page.wrapped(ofGroups.note + " " + buffers, page.width())) {
         page.need(1.0);

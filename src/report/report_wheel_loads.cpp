@@ -12,21 +12,26 @@ constexpr TextStyle kFailed{true, colours::red};
 
 }  // namespace
 
-void printTable(ReportPage& page, const ResultTable& table, double firstShare) {
-    const double others = static_cast<double>(table.columns.size() - 1);
-    const double first = firstShare * page.width(), each = (page.width() - first) / others;
-    const auto left = [&](std::size_t column) {
-        return page.ColLeft + (column == 0 ? 0.0 : first + each * static_cast<double>(column - 1));
-    };
+void printTable(ReportPage& page, const ResultTable& table, const std::vector<double>& shares) {
+    const std::size_t columns = table.columns.size();
+    double rest = 1.0;
+    for (const double share : shares) rest -= share;
+    std::vector<double> edges{page.ColLeft};
+    for (std::size_t column = 0; column < columns; ++column) {
+        const double share =
+            column < shares.size() ? shares[column] : rest / static_cast<double>(columns - shares.size());
+        edges.push_back(edges.back() + share * page.width());
+    }
+    const auto widthOf = [&](std::size_t column) { return edges[column + 1] - edges[column] - 1.0; };
     const auto cells = [&](auto text, auto style) {
         double lines = 1.0;
         for (std::size_t column = 0; column < table.columns.size(); ++column) {
-            const double width = (column == 0 ? first : each) - 1.0;
-            lines = std::max(lines, static_cast<double>(page.wrapped(text(column), width, style(column)).size()));
+            lines =
+                std::max(lines, static_cast<double>(page.wrapped(text(column), widthOf(column), style(column)).size()));
         }
         page.need(lines);
         for (std::size_t column = 0; column < table.columns.size(); ++column)
-            page.putBlock(left(column), (column == 0 ? first : each) - 1.0, text(column), style(column));
+            page.putBlock(edges[column], widthOf(column), text(column), style(column));
         page.advance(lines + 0.15);
     };
     const auto head = [&] {
@@ -42,11 +47,18 @@ void printTable(ReportPage& page, const ResultTable& table, double firstShare) {
     page.need(6.0);
     head();
     page.afterBreak = head;
-    for (const auto& row : table.rows)
+    for (const auto& row : table.rows) {
+        if (row.size() == 1) {
+            page.need(3.0);
+            page.put(page.ColLeft, row[0].text, row[0].emphasis == Emphasis::Heading ? kBold : kQuiet);
+            page.advance(1.1);
+            continue;
+        }
         cells([&](std::size_t column) { return column < row.size() ? row[column].text : std::string(); },
               [&](std::size_t column) {
                   return column < row.size() && row[column].emphasis == Emphasis::OverLimit ? kFailed : TextStyle{};
               });
+    }
     page.afterBreak = nullptr;
     page.advance(0.5);
 }
@@ -67,14 +79,14 @@ void printWheelLoads(Report& report, const GroupMatrix* matrix) {
         page.need(8.0);
         page.put(page.ColLeft, "Groups of loads of crane " + std::to_string(i + 1) + ", EN 1991-3 Table 2.2", kBold);
         page.advance(1.2);
-        printTable(page, tableOfLoads(loads), 0.08);
+        printTable(page, tableOfLoads(loads), {0.08});
     }
     if (matrix == nullptr) return;
     page.need(10.0);
     page.put(page.ColLeft, "Ratios of all groups; largest: " + governingText(*matrix), kBold);
     page.advance(1.2);
     const ResultTable table = tableOf(*matrix);
-    printTable(page, table, 0.24);
+    printTable(page, table, {0.24});
     page.advance(page.putBlock(page.ColLeft, page.width(), table.note, kQuiet) + 0.5);
 }
 

@@ -46,6 +46,7 @@ TreeNode mainTree(TreeNode input, const Project& project, bool withResults) {
     // Of a project with crane data.
     if (!project.Attached.empty())
         root.children.push_back({"Groups", "Compare groups", NodeOpens::Groups, "", false, {}});
+    root.children.push_back({"Opinion", "Second opinion", NodeOpens::Opinion, "", false, {}});
     root.children.push_back({"Comp", "Detailed Results", NodeOpens::DetailedResults, "", false, {}});
     root.children.push_back({"Notes", "Notes", NodeOpens::Notes, "", false, {}});
     return root;

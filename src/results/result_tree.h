@@ -9,7 +9,7 @@
 namespace borvik {
 
 /// What a click on a node opens. `name` is that of a table entry or of a picture.
-enum class NodeOpens { Nothing, InputForm, Table, Picture, DetailedResults, Notes, Groups };
+enum class NodeOpens { Nothing, InputForm, Table, Picture, DetailedResults, Notes, Groups, Opinion };
 
 /// A node of a result tree. Nodes are told apart by their text.
 struct TreeNode {

@@ -19,13 +19,13 @@ bool sameTree(const TreeNode& a, const TreeNode& b) {
 bool showsResults(const TreeNode& node) {
     return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture ||
            node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes ||
-           node.opens == NodeOpens::Groups;
+           (node.opens == NodeOpens::Groups || node.opens == NodeOpens::Opinion);
 }
 
 /// What the arrow keys show in passing, because it opens no window.
 bool showsInPlace(const TreeNode& node) {
     return node.opens == NodeOpens::Table || node.opens == NodeOpens::Picture || node.opens == NodeOpens::Notes ||
-           node.opens == NodeOpens::Groups;
+           (node.opens == NodeOpens::Groups || node.opens == NodeOpens::Opinion);
 }
 
 constexpr int kOutOfReach = Qt::UserRole;
@@ -63,7 +63,7 @@ void ResultTreeView::add(QTreeWidgetItem* parent, const TreeNode& node) {
     }
     if (node.opens == NodeOpens::InputForm) item->setIcon(0, pictureIcon(Picture::Form));
     if (node.opens == NodeOpens::Table || node.opens == NodeOpens::DetailedResults || node.opens == NodeOpens::Notes ||
-        node.opens == NodeOpens::Groups)
+        (node.opens == NodeOpens::Groups || node.opens == NodeOpens::Opinion))
         item->setIcon(0, pictureIcon(Picture::Table));
     if (node.opens == NodeOpens::Picture) item->setIcon(0, pictureIcon(Picture::Diagram));
     nodes_.insert(item, &node);

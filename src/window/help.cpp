@@ -43,6 +43,7 @@ constexpr PageOfNode kNodes[] = {
     {"Detailed Results", "detailed-results.md"},
     {"Reactions for supports", "handing-over.md"},
     {"Compare groups", "crane-data.md"},
+    {"Second opinion", "second-opinion.md"},
     {"Notes", "notes.md"},
 };
 

@@ -149,6 +149,7 @@ private:
     void showTable(const std::string& name);
     void showNotes();
     void showGroups();
+    void showOpinion();
     void openGroup(int row);
     /// Enter or a double click on a row: of a note its check, of a check how its ratio comes about.
     void chooseRow(int row);

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QStatusBar>
 #include <algorithm>
 #include <string_view>
@@ -8,6 +9,7 @@
 #include "results/group_tables.h"
 #include "results/notes_table.h"
 #include "results/ratios.h"
+#include "results/second_opinion_tables.h"
 #include "results/tables.h"
 #include "views/detailed_result_dialog.h"
 #include "views/printing.h"
@@ -59,6 +61,9 @@ void MainWindow::showNode(const TreeNode& node, bool byWalking) {
         case NodeOpens::Groups:
             showGroups();
             break;
+        case NodeOpens::Opinion:
+            showOpinion();
+            break;
         case NodeOpens::DetailedResults: {
             DetailedResultDialog dialog(calculation_, this);
             connect(&dialog, &DetailedResultDialog::standsChosen, this, &MainWindow::showStands);
@@ -85,6 +90,15 @@ void MainWindow::showNotes() {
     shownGroups_ = false;
     tree_->setCurrentItem(tree_->itemOf("Notes"));
     results_->showTable(tr("Notes for the checking engineer"), TableNotes(*calculation_->notes));
+}
+
+/// What a beam with warping torsion says: made where it is asked for.
+void MainWindow::showOpinion() {
+    shownNotes_ = shownGroups_ = false;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const SecondOpinion opinion = secondOpinion(session_, opinionOptionsOf(session_.project));
+    QApplication::restoreOverrideCursor();
+    results_->showTable(tr("Second opinion"), tableOf(calculation_->project, opinion));
 }
 
 void MainWindow::showGroups() {

@@ -121,16 +121,22 @@ TEST(Attached, standsBesideTheRecordAndComesBack) {
     Workshop workshop;
     Project& project = workshop.session.project;
     project.Attached = R"({"Later":{"x":0.1}})";
-    attach(project, {{workshopCrane(), workshopCrane()}, true});
+    Attached made;
+    made.cranes = {workshopCrane(), workshopCrane()};
+    made.farRails = true;
+    made.lateralSupports = {{2, 3000, std::nullopt}, {1, 100, -5}};
+    attach(project, made);
     std::string fault = "?";
     const Attached read = attachedOf(project, &fault);
     EXPECT_EQ(fault, "");
     ASSERT_EQ(read.cranes.size(), 2U);
     EXPECT_EQ(read.cranes[1].vh, 8.0 / 60.0);
     EXPECT_TRUE(read.farRails);
+    ASSERT_EQ(read.lateralSupports.size(), 2U);
+    EXPECT_EQ(read.lateralSupports[1].z, -5.0);
     attach(project, {});
     EXPECT_EQ(project.Attached, R"({"Later":{"x":0.1}})");
-    for (const char* text : {"[]", "{\"Cranes\":[{}]}", "{\"Cranes\":7}", "{"}) {
+    for (const char* text : {"[]", "{\"Cranes\":[{}]}", "{\"Cranes\":7}", "{\"LateralSupports\":[1]}", "{"}) {
         project.Attached = text;
         (void)attachedOf(project, &fault);
         EXPECT_NE(fault, "") << text;

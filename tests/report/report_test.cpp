@@ -87,7 +87,8 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
         for (const Sample sample :
              {Sample::OneCrane, Sample::TwoCranes, Sample::Monorail, Sample::ThirtySpans, Sample::Overloaded})
             for (const ReportScope scope : kScopes) {
-                const RecordingPrinter printer = printed(sample, scope, paper, {true, true, true, true, true, true});
+                const RecordingPrinter printer =
+                    printed(sample, scope, paper, {true, true, true, true, true, true, true});
                 for (const auto& page : printer.pages) {
                     const auto inDiagram = [&page](const RecordingPage::Covered& text) {
                         return std::any_of(page->boxes.begin(), page->boxes.end(), [&text](const auto& box) {
@@ -125,7 +126,7 @@ TEST(Report, nothingOverlapsAndNothingLeavesThePage) {
 
 /// A page before the others, which keep their texts; its contents name the pages on which the chapters begin.
 TEST(Report, theFirstPageTellsProjectVerdictAndContents) {
-    ReportExtras extras{true, true, true, true, true, true};
+    ReportExtras extras{true, true, true, true, true, true, true};
     extras.office = {"Harbour Ltd", "N. N.", "", "B", ""};
     const RecordingPrinter whole = printed(Sample::Overloaded, ReportScope::All, kA4, extras);
     std::vector<std::string> first;

@@ -8,6 +8,7 @@
 #include "calculation/calculation.h"
 #include "calculation/check_working.h"
 #include "exchange/attached.h"
+#include "groups/group_runs.h"
 #include "notes/notes.h"
 #include "project/project_file.h"
 #include "reactions/support_reactions.h"

@@ -567,7 +567,7 @@ TEST_F(ResultsTest, groupsOfCraneDataStandBesideEachOther) {
     actions::CraneData crane;
     crane.bridge = 30, crane.crab = 8, crane.hoist = 60, crane.span = 15;
     crane.spacing = {1.9};
-    attach(session.project, {{crane}, false});
+    attach(session.project, {.cranes = {crane}});
     calculate();
     clickNode("Compare groups");
     ASSERT_EQ(list().table().rows.size(), 7U) << "1, 3, 4, 5 both ways, 6, 8";

@@ -223,7 +223,7 @@ Project workshopFromData(const ReferenceTables& tables, Project project) {
     crane.emin = 0.9;
     crane.spacing = {3.2};
     crane.vh = 8.0 / 60.0;
-    attach(project, {{crane}, false});
+    attach(project, {.cranes = {crane}});
     return withGroup(project, {crane}, {5});
 }
 
